@@ -1,0 +1,6 @@
+#pragma once
+#include <QtQuick/QQuickItem>
+class MapView : public QQuickItem {
+  Q_OBJECT
+  QML_ELEMENT
+};

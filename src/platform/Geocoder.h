@@ -1,0 +1,42 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "places/Coordinate.h"
+
+namespace wayloom {
+
+/// One place a geocoder found.
+struct GeocodedPlace {
+  Coordinate coordinate;
+  /// The address as a person would write it, most precise line first; never empty lines.
+  std::vector<std::string> formattedAddressLines;
+};
+
+/// What a geocoder answers: places, best first, or an error text (none when the geocoder failed
+/// without saying why). `places` is absent when there was an error.
+struct GeocoderAnswer {
+  std::optional<std::vector<GeocodedPlace>> places;
+  std::optional<std::string> error;
+};
+
+/// Turns addresses into places and back. Completions run on the main thread, later; they do not
+/// run any more once the geocoder is destroyed.
+class Geocoder {
+ public:
+  using Completion = std::function<void(const GeocoderAnswer&)>;
+
+  virtual ~Geocoder() = default;
+
+  /// Places for an address text. `near` (if given) ranks places close to it higher.
+  virtual void geocodeAddress(const std::string& address, std::optional<Coordinate> near,
+                              Completion completion) = 0;
+
+  /// What is at a coordinate.
+  virtual void reverseGeocode(Coordinate coordinate, Completion completion) = 0;
+};
+
+}  // namespace wayloom

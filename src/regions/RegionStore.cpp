@@ -1,0 +1,1 @@
+#include "regions/RegionStore.h"

@@ -1,0 +1,20 @@
+#include "ui/MapRegion.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace wayloom {
+
+MapRegion regionWithDistance(Coordinate center, double latitudinalMetres,
+                             double longitudinalMetres) {
+  constexpr double kMeanRadiusMetres = 6371008.8;
+  constexpr double kMetresPerDegree = kMeanRadiusMetres * std::numbers::pi / 180;
+  const double shrink = std::cos(center.latitude * std::numbers::pi / 180);
+  const double longitudeDelta =
+      shrink > 0 ? longitudinalMetres / (kMetresPerDegree * shrink) : 360.0;
+  return {center,
+          {std::min(latitudinalMetres / kMetresPerDegree, 180.0), std::min(longitudeDelta, 360.0)}};
+}
+
+}  // namespace wayloom

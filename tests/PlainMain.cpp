@@ -1,0 +1,4 @@
+int main(int argc, char* argv[]) {
+  testing::InitGoogleMock(&argc, argv);
+  return RUN_ALL_TESTS();
+}

@@ -1,0 +1,47 @@
+#include <cmath>
+
+#include "ui/MapRegion.h"
+#include "ui/WebMercator.h"
+
+namespace wayloom {
+namespace {
+
+TEST(WebMercator, ComesBackToTheSameSixDecimals) {
+  for (double latitude = -85; latitude <= 85; latitude += 0.637) {
+    for (double longitude = -180; longitude <= 180; longitude += 7.31) {
+      const Coordinate back = coordinateAt(worldPoint({latitude, longitude}));
+      EXPECT_NEAR(back.latitude, latitude, 1e-10) << latitude << ',' << longitude;
+      EXPECT_NEAR(back.longitude, longitude, 1e-10) << latitude << ',' << longitude;
+    }
+  }
+}
+
+TEST(WebMercator, KeepsPolesAndHugeValuesOnTheSquare) {
+  for (double latitude : {90.0, 89.0, 1e300, kMercatorLatitudeLimit}) {
+    EXPECT_NEAR(worldPoint({latitude, 0}).y, 0, 1e-12) << latitude;
+    EXPECT_NEAR(worldPoint({-latitude, 0}).y, 1, 1e-12) << latitude;
+  }
+}
+
+TEST(WebMercator, WrapsLongitudesAcrossTheAntimeridian) {
+  const struct {
+    double longitude, wrapped;
+  } cases[] = {{180, -180}, {-180, -180}, {181, -179}, {-181, 179}, {540, -180}, {11.97, 11.97}};
+  for (const auto& test : cases) {
+    EXPECT_NEAR(wrapLongitude(test.longitude), test.wrapped, 1e-12) << test.longitude;
+  }
+}
+
+TEST(MapRegion, MeasuresMetresOnTheGround) {
+  const MapRegion equator = regionWithDistance({0, 0}, 2000, 2000);
+  EXPECT_NEAR(equator.span.latitudeDelta, 2000 / 111195.08, 1e-7);
+  EXPECT_NEAR(equator.span.longitudeDelta, equator.span.latitudeDelta, 1e-12);
+  const MapRegion north = regionWithDistance({60, 0}, 2000, 2000);
+  EXPECT_NEAR(north.span.longitudeDelta, 2 * equator.span.longitudeDelta, 1e-9);
+  const MapRegion pole = regionWithDistance({90, 0}, 2000, 2000);
+  EXPECT_LE(pole.span.longitudeDelta, 360);
+  EXPECT_TRUE(std::isfinite(pole.span.longitudeDelta));
+}
+
+}  // namespace
+}  // namespace wayloom

@@ -1,0 +1,107 @@
+#include <algorithm>
+#include <chrono>
+#include <memory>
+#include <thread>
+#include <vector>
+
+#include "platform/RunLoop.h"
+
+namespace wayloom {
+namespace {
+
+using namespace std::chrono_literals;
+constexpr auto kLimit = 30s;
+
+TEST(RunLoop, RunsWhatManyThreadsPostInEachThreadsOrder) {
+  constexpr int kThreads = 4;
+  constexpr int kEach = 500;
+  RunLoop loop;
+  std::vector<std::vector<int>> seen(kThreads);
+  std::vector<std::thread> threads;
+  for (int thread = 0; thread < kThreads; ++thread) {
+    threads.emplace_back([&, thread] {
+      EXPECT_FALSE(loop.isMainThread());
+      for (int i = 0; i < kEach; ++i) loop.post([&, thread, i] { seen[thread].push_back(i); });
+    });
+  }
+  EXPECT_TRUE(loop.runUntil(
+      [&] {
+        for (const auto& order : seen) {
+          if (order.size() != kEach) return false;
+        }
+        return true;
+      },
+      kLimit));
+  for (auto& thread : threads) thread.join();
+  for (int thread = 0; thread < kThreads; ++thread) {
+    EXPECT_TRUE(std::is_sorted(seen[thread].begin(), seen[thread].end())) << "thread " << thread;
+  }
+}
+
+TEST(RunLoop, FiresTimersByDelayAndOnlyOnce) {
+  RunLoop loop;
+  std::vector<char> fired;
+  const auto late = loop.schedule(20ms, [&] { fired.push_back('c'); });
+  const auto soon = loop.schedule(1ms, [&] { fired.push_back('a'); });
+  const auto equal = loop.schedule(1ms, [&] { fired.push_back('b'); });
+  EXPECT_TRUE(loop.runUntil([&] { return fired.size() == 3; }, kLimit));
+  EXPECT_THAT(fired, testing::ElementsAre('a', 'b', 'c'));
+  EXPECT_FALSE(loop.runUntil([&] { return fired.size() > 3; }, 30ms));
+}
+
+TEST(RunLoop, DropsACancelledTimerAndLetsATimerCancelItself) {
+  RunLoop loop;
+  int fired = 0;
+  auto cancelled = loop.schedule(1ms, [&] { fired += 100; });
+  std::unique_ptr<MainQueue::Timer> own;
+  auto witness = std::make_shared<int>(7);
+  own = loop.schedule(2ms, [&, witness] {
+    own.reset();
+    fired += *witness;
+  });
+  cancelled.reset();
+  EXPECT_TRUE(loop.runUntil([&] { return fired != 0; }, kLimit));
+  EXPECT_EQ(fired, 7);
+  EXPECT_EQ(witness.use_count(), 1) << "the loop still holds the work of a timer that fired";
+}
+
+TEST(RunLoop, LetsNeitherTimersNorPostsStarveTheOther) {
+  RunLoop loop;
+  int timers = 0;
+  int posts = 0;
+  std::unique_ptr<MainQueue::Timer> timer;
+  std::function<void()> again = [&] {
+    ++timers;
+    timer = loop.schedule(0ms, again);
+  };
+  std::function<void()> repost = [&] {
+    ++posts;
+    loop.post(repost);
+  };
+  again();
+  repost();
+  EXPECT_TRUE(loop.runUntil([&] { return timers > 50 && posts > 50; }, kLimit))
+      << timers << " timers, " << posts << " posts";
+}
+
+TEST(RunLoop, TakesTheLongestDelayWithoutOverflow) {
+  RunLoop loop;
+  bool fired = false;
+  const auto timer = loop.schedule(std::chrono::milliseconds::max(), [&] { fired = true; });
+  EXPECT_FALSE(loop.runUntil([&] { return fired; }, 1ms));
+}
+
+TEST(RunLoop, AHandleMayOutliveItsLoop) {
+  std::unique_ptr<MainQueue::Timer> timer;
+  auto witness = std::make_shared<int>();
+  {
+    RunLoop loop;
+    timer = loop.schedule(1h, [witness] {});
+    loop.post([witness] { ADD_FAILURE() << "ran after the loop"; });
+  }
+  timer.reset();
+  EXPECT_EQ(witness.use_count(), 1);
+}
+
+}  // namespace
+}  // namespace wayloom

@@ -1,0 +1,121 @@
+#include "regions/RegionWriter.h"
+
+#include <array>
+#include <cerrno>
+#include <charconv>
+#include <cstdlib>
+#include <fcntl.h>
+#include <string>
+#include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
+#include <utility>
+
+namespace wayloom {
+
+namespace {
+
+Failure systemFailure(const std::string& action, const std::filesystem::path& path) {
+  return {action + " " + path.string() + ": " + std::generic_category().message(errno)};
+}
+
+// Makes sure that what was written survives a loss of power.
+bool syncPath(const std::filesystem::path& path, int flags) {
+  const int descriptor = ::open(path.c_str(), flags | O_CLOEXEC);
+  if (descriptor < 0) return false;
+  const bool synced = ::fsync(descriptor) == 0;
+  ::close(descriptor);
+  return synced;
+}
+
+std::string plainNumber(double value) {
+  std::array<char, 32> buffer;
+  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr;
+  return {buffer.data(), end};
+}
+
+// An empty file of an unpredictable name that the store does not take for a region.
+Result<std::filesystem::path> makeTemporary(const std::filesystem::path& target) {
+  std::string pattern = target.string() + ".XXXXXX";
+  const int descriptor = ::mkostemp(pattern.data(), O_CLOEXEC);
+  if (descriptor < 0) return systemFailure("cannot create", target);
+  ::fchmod(descriptor, S_IRUSR | S_IWUSR | S_IRGRP | S_IROTH);
+  ::close(descriptor);
+  return std::filesystem::path(pattern);
+}
+
+}  // namespace
+
+RegionWriter::RegionWriter(std::filesystem::path target, std::filesystem::path temporary,
+                           Database database)
+    : mTarget(std::move(target)),
+      mTemporary(std::move(temporary)),
+      mDatabase(std::move(database)) {}
+
+RegionWriter::RegionWriter(RegionWriter&& other) noexcept
+    : mTarget(std::move(other.mTarget)),
+      mTemporary(std::exchange(other.mTemporary, {})),
+      mDatabase(std::move(other.mDatabase)) {}
+
+RegionWriter::~RegionWriter() {
+  if (!mTemporary.empty()) ::unlink(mTemporary.c_str());
+}
+
+Result<RegionWriter> RegionWriter::create(const std::filesystem::path& target,
+                                          const RegionInfo& info) {
+  if (target.extension() != kRegionExtension) {
+    return Failure{target.string() + " does not end in " + kRegionExtension};
+  }
+  if (info.name.empty() || !isValid(info.bounds)) {
+    return Failure{"a region needs a name and bounds on the globe"};
+  }
+  auto temporary = makeTemporary(target);
+  if (!temporary) return temporary.failure();
+  auto database = Database::openForBuilding(*temporary);
+  if (!database) {
+    ::unlink(temporary->c_str());
+    return Failure{"cannot write " + target.string() + ": " + database.failure().message};
+  }
+  RegionWriter writer(target, std::move(*temporary), std::move(*database));
+  if (auto status = writer.writeHead(info); !status) return status.failure();
+  return writer;
+}
+
+Status RegionWriter::writeHead(const RegionInfo& info) {
+  auto status = mDatabase.execute(
+      "PRAGMA application_id = " + std::to_string(kRegionApplicationId) +
+      "; PRAGMA user_version = " + std::to_string(kRegionVersion) +
+      "; BEGIN; CREATE TABLE meta(key TEXT PRIMARY KEY, value TEXT NOT NULL) WITHOUT ROWID");
+  if (!status) return status;
+  auto insert = mDatabase.prepare("INSERT INTO meta(key, value) VALUES (?1, ?2)");
+  if (!insert) return insert.failure();
+  const std::array<std::pair<std::string_view, std::string>, 6> rows = {{
+      {"name", info.name},
+      {"attribution", info.attribution},
+      {"west", plainNumber(info.bounds.west)},
+      {"south", plainNumber(info.bounds.south)},
+      {"east", plainNumber(info.bounds.east)},
+      {"north", plainNumber(info.bounds.north)},
+  }};
+  for (const auto& [key, value] : rows) {
+    status = insert->bind(1, key).bind(2, value).run();
+    if (!status) return status;
+  }
+  return done();
+}
+
+Status RegionWriter::commit() {
+  // The tables' statistics spare every reader a bad plan.
+  if (auto status = mDatabase.execute("ANALYZE; COMMIT"); !status) return status;
+  if (auto status = mDatabase.close(); !status) return status;
+  if (!syncPath(mTemporary, O_RDWR)) return systemFailure("cannot write", mTarget);
+  if (::rename(mTemporary.c_str(), mTarget.c_str()) != 0) {
+    return systemFailure("cannot replace", mTarget);
+  }
+  mTemporary.clear();
+  const auto folder = mTarget.has_parent_path() ? mTarget.parent_path() : ".";
+  if (!syncPath(folder, O_RDONLY | O_DIRECTORY)) return systemFailure("cannot write", mTarget);
+  return done();
+}
+
+}  // namespace wayloom

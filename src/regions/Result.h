@@ -1,0 +1,41 @@
+#pragma once
+
+#include <string>
+#include <utility>
+#include <variant>
+
+namespace wayloom {
+
+/// Why something could not be done, as a sentence for the user without a full stop.
+struct Failure {
+  std::string message;
+};
+
+/// A value, or the failure that came in its place. Asking a failure for its value is our mistake.
+template <typename Value = std::monostate>
+class [[nodiscard]] Result {
+ public:
+  Result(Value value) : mContent(std::move(value)) {}
+  Result(Failure failure) : mContent(std::move(failure)) {}
+
+  explicit operator bool() const { return mContent.index() == 0; }
+  Value& operator*() { return *std::get_if<0>(&mContent); }
+  const Value& operator*() const { return *std::get_if<0>(&mContent); }
+  Value* operator->() { return std::get_if<0>(&mContent); }
+  const Value* operator->() const { return std::get_if<0>(&mContent); }
+
+  const Failure& failure() const { return *std::get_if<1>(&mContent); }
+
+ private:
+  std::variant<Value, Failure> mContent;
+};
+
+/// The outcome of something that gives no value.
+using Status = Result<>;
+
+/// The status of something that went well.
+inline Status done() {
+  return std::monostate();
+}
+
+}  // namespace wayloom

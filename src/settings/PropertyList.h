@@ -34,8 +34,8 @@ class PropertyList {
     bool operator==(const Uid&) const = default;
   };
 
-  using Value = std::variant<bool, std::int64_t, std::uint64_t, double, std::string, Data, Date, Uid,
-                             Array, Dictionary>;
+  using Value = std::variant<bool, std::int64_t, std::uint64_t, double, std::string, Data, Date,
+                             Uid, Array, Dictionary>;
 
   PropertyList() : mValue(std::string()) {}
   PropertyList(Value value) : mValue(std::move(value)) {}
@@ -48,6 +48,14 @@ class PropertyList {
   PropertyList(std::string value) : mValue(std::move(value)) {}
   PropertyList(Array value) : mValue(std::move(value)) {}
   PropertyList(Dictionary value) : mValue(std::move(value)) {}
+
+  // Out of line: inlined, a tree's destruction swells every caller, and GCC 12 takes the variant's
+  // unused members for uninitialized ones.
+  PropertyList(const PropertyList& other);
+  PropertyList(PropertyList&& other) noexcept;
+  PropertyList& operator=(const PropertyList& other);
+  PropertyList& operator=(PropertyList&& other) noexcept;
+  ~PropertyList();
 
   const Value& value() const { return mValue; }
 

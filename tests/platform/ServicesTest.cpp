@@ -1,0 +1,116 @@
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+
+#include "platform/PreferredLanguage.h"
+#include "platform/Services.h"
+
+namespace wayloom {
+namespace {
+
+class ServicesTest : public testing::Test {
+ protected:
+  ServicesTest() {
+    std::string pattern = testing::TempDir() + "servicesXXXXXX";
+    folder = mkdtemp(pattern.data());
+    file = folder / "services.json";
+  }
+  ~ServicesTest() override { std::filesystem::remove_all(folder); }
+
+  Services read(std::string_view text) {
+    std::ofstream(file) << text;
+    return Services::read(file);
+  }
+
+  std::filesystem::path folder;
+  std::filesystem::path file;
+};
+
+TEST_F(ServicesTest, NothingIsOnlineUnlessTurnedOn) {
+  EXPECT_EQ(Services::read(file).error(), "");
+  EXPECT_EQ(Services::read({}).error(), "");
+  const struct {
+    const char* text;
+    const char* address;
+  } cases[] = {
+      {R"({})", ""},
+      {R"({"geocoding": "https://a.example"})", ""},
+      {R"({"online": false, "geocoding": "https://a.example"})", ""},
+      {R"({"online": true})", ""},
+      {R"({"online": true, "geocoding": "https://a.example"})", "https://a.example"},
+      {R"({"geocoding": "http://[::1]:8080/base//", "online": true})", "http://[::1]:8080/base"},
+  };
+  for (const auto& test : cases) {
+    const Services services = read(test.text);
+    EXPECT_EQ(services.address("geocoding"), test.address) << test.text;
+    EXPECT_EQ(services.address("directions"), "") << test.text;
+    EXPECT_EQ(services.error(), "") << test.text;
+  }
+}
+
+TEST_F(ServicesTest, ADamagedFileTurnsEverythingOffAndSaysWhy) {
+  const std::string good = R"("geocoding": "https://a.example")";
+  const std::string cases[] = {
+      "",
+      "{",
+      "[]",
+      "{\"online\": true, " + good,
+      "{\"online\": \"yes\", " + good + "}",
+      "{\"online\": 1, " + good + "}",
+      "{\"online\": true, " + good + ", \"tiles\": 5}",
+      "{\"online\": true, " + good + ", \"tiles\": \"\"}",
+      "{\"online\": true, " + good + ", \"tiles\": \"file:///etc/passwd\"}",
+      "{\"online\": true, " + good + ", \"tiles\": \"https://\"}",
+      "{\"online\": true, " + good + ", \"tiles\": \"https:///path\"}",
+      "{\"online\": true, " + good + ", \"tiles\": \"https://a.example/?q=\"}",
+      "{\"online\": true, " + good + ", \"tiles\": \"https://user@a.example\"}",
+      "{\"online\": true, " + good + ", \"tiles\": \"https://a.example\\r\\nX: y\"}",
+      "{\"online\": true, " + good + ", \"tiles\": \"\xff\"}",
+      "{\"online\": true, " + good + "}" + std::string(100'000, ' '),
+  };
+  for (const std::string& text : cases) {
+    const Services services = read(text);
+    EXPECT_EQ(services.address("geocoding"), "") << text.substr(0, 200);
+    EXPECT_NE(services.error().find(file.string()), std::string::npos) << text.substr(0, 200);
+  }
+  std::filesystem::remove(file);
+  std::filesystem::create_directory(file);
+  EXPECT_NE(Services::read(file).error(), "");
+}
+
+TEST_F(ServicesTest, FindsTheFileInTheUsersConfiguration) {
+  const struct {
+    const char *configuration, *home, *expected;
+  } cases[] = {{"/c", "/h", "/c/wayloom/services.json"},
+               {"", "/h", "/h/.config/wayloom/services.json"},
+               {"relative", "/h", "/h/.config/wayloom/services.json"},
+               {"", "relative", ""}};
+  const std::string home = getenv("HOME") ? getenv("HOME") : "";
+  for (const auto& test : cases) {
+    setenv("XDG_CONFIG_HOME", test.configuration, 1);
+    setenv("HOME", test.home, 1);
+    EXPECT_EQ(Services::defaultFile(), test.expected) << test.configuration << ' ' << test.home;
+  }
+  unsetenv("XDG_CONFIG_HOME");
+  setenv("HOME", home.c_str(), 1);
+}
+
+TEST(PreferredLanguage, IsTheFirstTheEnvironmentNames) {
+  const struct {
+    const char *language, *all, *lang, *expected;
+  } cases[] = {{"", "", "sv_SE.UTF-8", "sv-SE"},  {"zh_Hans:en", "", "sv_SE", "zh-Hans"},
+               {"", "de_DE@euro", "sv", "de-DE"}, {"", "C", "fr", "fr"},
+               {"", "", "C.UTF-8", "en"},         {"", "POSIX", "", "en"}};
+  for (const auto& test : cases) {
+    setenv("LANGUAGE", test.language, 1);
+    setenv("LC_ALL", test.all, 1);
+    unsetenv("LC_MESSAGES");
+    setenv("LANG", test.lang, 1);
+    EXPECT_EQ(preferredLanguage(), test.expected)
+        << test.language << '|' << test.all << '|' << test.lang;
+  }
+  for (const char* variable : {"LANGUAGE", "LC_ALL", "LANG"}) unsetenv(variable);
+}
+
+}  // namespace
+}  // namespace wayloom

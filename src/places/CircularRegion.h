@@ -1,0 +1,13 @@
+#pragma once
+
+#include "places/Coordinate.h"
+
+namespace wayloom {
+
+/// Everything within `radiusMetres` of `center`.
+struct CircularRegion {
+  Coordinate center;
+  double radiusMetres = 0;
+};
+
+}  // namespace wayloom

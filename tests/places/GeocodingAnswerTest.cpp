@@ -1,0 +1,106 @@
+#include <string>
+
+#include "places/GeocodingAnswer.h"
+
+namespace wayloom {
+namespace {
+
+std::string repeated(std::string_view text, std::size_t times) {
+  std::string all;
+  for (std::size_t i = 0; i < times; ++i) all += text;
+  return all;
+}
+
+TEST(GeocodingAnswer, MakesTheServicesRefusalsErrors) {
+  constexpr int kNone = 0;
+  const struct {
+    const char* status;
+    int code;
+    const char* text;
+  } statuses[] = {
+      {"ZERO_RESULTS", 1, "Zero results returned"},
+      {"OVER_QUERY_LIMIT", 2,
+       "Currently rate limited. Too many queries in a short time. (Over Quota)"},
+      {"REQUEST_DENIED", 3,
+       "Request was denied. Did you remember to add the \"sensor\" parameter?"},
+      {"INVALID_REQUEST", 4, "The request was invalid. Was the \"address\" or \"latlng\" missing?"},
+      {"OK", kNone, ""},
+      {"UNKNOWN_ERROR", kNone, ""},
+      {"zero_results", kNone, ""},
+      {"", kNone, ""},
+  };
+  for (const auto& test : statuses) {
+    SCOPED_TRACE(test.status);
+    const std::string status = std::string(R"("status": ")") + test.status + '"';
+    const GeocodingAnswer empty = readGeocodingAnswer("{" + status + R"(, "results": []})");
+    const GeocodingAnswer missing = readGeocodingAnswer("{" + status + "}");
+    const GeocodingAnswer found = readGeocodingAnswer(R"({"results": [{}, 5], )" + status + "}");
+    ASSERT_TRUE(empty.placemarks);
+    EXPECT_TRUE(empty.placemarks->empty());
+    EXPECT_FALSE(missing.placemarks);
+    EXPECT_EQ(empty.error, missing.error);
+    EXPECT_EQ(empty.error.has_value(), test.code != kNone);
+    if (empty.error) {
+      EXPECT_EQ(*empty.error, (ServiceError{"SVGeocoderErrorDomain", test.code, test.text, {}}));
+    }
+    ASSERT_TRUE(found.placemarks);
+    EXPECT_EQ(found.placemarks->size(), 2u);
+    EXPECT_FALSE(found.error);
+  }
+}
+
+TEST(GeocodingAnswer, KeepsTheServicesOrder) {
+  const GeocodingAnswer answer = readGeocodingAnswer(
+      R"({"results": [{"formatted_address": "b"}, {"formatted_address": "a"},
+                      {"formatted_address": "c"}]})");
+  ASSERT_TRUE(answer.placemarks);
+  std::string order;
+  for (const SVPlacemark& place : *answer.placemarks) order += place.formattedAddress.value_or("?");
+  EXPECT_EQ(order, "bac");
+}
+
+TEST(GeocodingAnswer, FindsNothingInOtherJson) {
+  for (const char* text : {"null", "5", "\"results\"", "[]", "{}", R"({"results": null})",
+                           R"({"results": {"0": {}}})", R"({"results": "x", "status": 5})"}) {
+    const GeocodingAnswer answer = readGeocodingAnswer(text);
+    EXPECT_FALSE(answer.placemarks) << text;
+    EXPECT_FALSE(answer.error) << text;
+  }
+}
+
+TEST(GeocodingAnswer, RefusesDamagedDeepAndHugeAnswers) {
+  const std::size_t deep = 1'000'000;
+  const std::string cases[] = {
+      "",
+      " ",
+      "{\"results\": [{}",
+      "{\"results\": [{}]} more",
+      "{\"results\": [NaN]}",
+      "{\"results\": [1e999]}",
+      "{\"results\": [\"\xc3\x28\"]}",
+      std::string("{\"results\"\0: []}", 15),
+      "<html></html>",
+      repeated("[", deep),
+      repeated("[", deep) + repeated("]", deep),
+      repeated("{\"a\":", deep) + "1" + repeated("}", deep),
+      "{\"results\": \"\\\"\", \"a\": " + repeated("[", 64) + repeated("]", 64) + "}",
+      repeated(" ", GeocodingAnswer::kBodyLimitBytes) + "{}",
+  };
+  for (const std::string& text : cases) {
+    const GeocodingAnswer answer = readGeocodingAnswer(text);
+    EXPECT_FALSE(answer.placemarks) << text.substr(0, 80);
+    ASSERT_TRUE(answer.error) << text.substr(0, 80);
+    EXPECT_EQ(answer.error->domain, "JSONErrorDomain") << text.substr(0, 80);
+  }
+}
+
+TEST(GeocodingAnswer, CountsNoBracketsInsideTexts) {
+  const std::string brackets = repeated("[{\\\"", 500);
+  const GeocodingAnswer answer =
+      readGeocodingAnswer("{\"results\": [{\"formatted_address\": \"" + brackets + "\"}]}");
+  ASSERT_TRUE(answer.placemarks);
+  EXPECT_EQ(answer.placemarks->at(0).formattedAddress, repeated("[{\"", 500));
+}
+
+}  // namespace
+}  // namespace wayloom

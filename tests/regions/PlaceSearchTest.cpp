@@ -1,0 +1,184 @@
+#include <cmath>
+#include <fstream>
+#include <string>
+
+#include "tests/regions/SmallIndex.h"
+
+namespace wayloom {
+namespace {
+
+std::vector<IndexedPlace> someWorld() {
+  std::vector<IndexedPlace> places = {
+      settlement("Paris", "Île-de-France", "France", {48.85, 2.35}, 2100000),
+      settlement("Paris", "Texas", "United States", {33.66, -95.56}, 25000),
+      settlement("Parisot", "Occitanie", "France", {44.26, 1.86}, 500),
+      settlement("Springfield", "Missouri", "United States", {37.2, -93.3}, 167000),
+      settlement("Springfield", "Illinois", "United States", {39.8, -89.6}, 116000),
+      settlement("Göteborg", "Västra Götaland", "Sweden", {57.7, 11.97}, 570000),
+      settlement("Å", "Nordland", "Norway", {67.88, 12.98}, 100),
+      settlement("Tønder", "", "Denmark", {54.93, 8.87}, 7800),
+      settlement("Łódź", "", "Poland", {51.77, 19.47}, 768000),
+      settlement("İzmir", "", "Turkey", {38.41, 27.14}, 2800000),
+      settlement("Großenhain", "Saxony", "Germany", {51.29, 13.53}, 18000),
+      settlement("Хабаровск", "", "Russia", {48.48, 135.08}, 577000),
+      settlement("San", "Ségou", "Mali", {13.3, -4.9}, 25000),
+      settlement("San Diego", "California", "United States", {32.7, -117.2}, 1400000),
+      settlement("Coeur d'Alene", "Idaho", "United States", {47.68, -116.78}, 49000),
+      settlement("Nadi", "", "Fiji", {-17.8, 179.9}, 42000),
+      settlement("Nadi", "", "Sudan", {18.67, 33.7}, 90000),
+      street("Drottninggatan", "Göteborg", "Sweden", {{57.706, 11.965}, {57.7062, 11.97}}),
+      street("Drottninggatan", "Stockholm", "Sweden", {{59.33, 18.06}, {59.34, 18.05}}),
+      street("Lilla Drottninggatan", "Göteborg", "Sweden", {{57.7, 11.97}, {57.701, 11.97}}),
+      address("Drottninggatan 5", "Göteborg", {57.7061, 11.967}),
+  };
+  places[5].otherNames = {"Gothenburg"};
+  return places;
+}
+
+TEST(PlaceSearch, FindsWhatAPersonMeans) {
+  SmallIndex index(someWorld());
+  const struct {
+    const char* text;
+    const char* best;
+  } cases[] = {
+      {"Paris", "Paris, Île-de-France, France"},
+      {"  pArIs ", "Paris, Île-de-France, France"},
+      {"paris, texas", "Paris, Texas, United States"},
+      {"Texas Paris", "Paris, Texas, United States"},
+      {"paris states", "Paris, Texas, United States"},
+      {"pariso", "Parisot, Occitanie, France"},
+      {"springfield", "Springfield, Missouri, United States"},
+      {"Springfield Illinois", "Springfield, Illinois, United States"},
+      {"GOTEBORG", "Göteborg, Västra Götaland, Sweden"},
+      {"Go\u0308teborg", "Göteborg, Västra Götaland, Sweden"},
+      {"gothenburg", "Göteborg, Västra Götaland, Sweden"},
+      {"drottninggatan göteborg", "Drottninggatan, Göteborg"},
+      {"stockholm drott", "Drottninggatan, Stockholm"},
+      {"drottninggatan 5 göteborg", "Drottninggatan 5, Göteborg"},
+      {"Drottninggatan 7, 411 14 Göteborg", "Drottninggatan, Göteborg"},
+      {"drott göteb", "Drottninggatan, Göteborg"},
+      {"a", "Å, Nordland, Norway"},
+      {"Å", "Å, Nordland, Norway"},
+      {"tonder", "Tønder, Denmark"},
+      {"lodz", "Łódź, Poland"},
+      {"IZMIR", "İzmir, Turkey"},
+      {"izmir", "İzmir, Turkey"},
+      {"grossenhain", "Großenhain, Saxony, Germany"},
+      {"ХАБАРОВСК", "Хабаровск, Russia"},
+      {"san", "San, Ségou, Mali"},
+      {"san d", "San Diego, California, United States"},
+      {"coeur dalene", "Coeur d'Alene, Idaho, United States"},
+      {"Coeur d’Alene", "Coeur d'Alene, Idaho, United States"},
+      {"texas", "-"},
+      {"paris göteborg", "-"},
+      {"xyzzy", "-"},
+      {"", "-"},
+      {" ,;.!", "-"},
+  };
+  for (const auto& test : cases) EXPECT_EQ(index.best(test.text), test.best) << test.text;
+}
+
+TEST(PlaceSearch, PrefersWhatIsNear) {
+  SmallIndex index(someWorld());
+  const struct {
+    const char* text;
+    Coordinate near;
+    const char* best;
+  } cases[] = {
+      {"springfield", {39.7, -89.5}, "Springfield, Illinois, United States"},
+      {"springfield", {37.3, -93.2}, "Springfield, Missouri, United States"},
+      {"drottninggatan", {59.3, 18.1}, "Drottninggatan, Stockholm"},
+      {"drottninggatan", {57.7, 12}, "Drottninggatan, Göteborg"},
+      // However far, and in whatever numbers, a place stays where it is.
+      {"paris", {-45, 170}, "Paris, Île-de-France, France"},
+      {"nadi", {-17.8, -179.95}, "Nadi, Fiji"},
+      {"nadi", {-17.8, 180 + 360}, "Nadi, Fiji"},
+      {"nadi", {90, 0}, "Nadi, Sudan"},
+      {"nadi", {std::nan(""), 1e300}, "Nadi, Sudan"},
+  };
+  for (const auto& test : cases) {
+    EXPECT_EQ(index.best(test.text, test.near), test.best)
+        << test.text << " near " << test.near.latitude << ',' << test.near.longitude;
+  }
+}
+
+// More namesakes than are ever looked at, so that the near one is not among the first.
+TEST(PlaceSearch, FindsTheNearOneAmongThousands) {
+  std::vector<IndexedPlace> places;
+  for (int number = 0; number < 3000; ++number) {
+    const double latitude = -60 + number * 0.04;
+    places.push_back(street("Hauptstraße", "Ort " + std::to_string(number), "",
+                            {{latitude, 10}, {latitude, 10.001 + 1.0 / (number + 100)}}));
+  }
+  SmallIndex index(std::move(places));
+  EXPECT_EQ(index.best("hauptstr", Coordinate{-60 + 2900 * 0.04, 10}), "Hauptstraße, Ort 2900");
+  EXPECT_EQ(index.best("hauptstraße", Coordinate{-60 + 2900 * 0.04, 10}), "Hauptstraße, Ort 2900");
+}
+
+TEST(PlaceSearch, TakesAnyText) {
+  SmallIndex index(someWorld());
+  const std::string hostile[] = {
+      "\"",
+      "paris\"",
+      "paris OR NOT * ( AND",
+      "NEAR(paris, 3)",
+      "name : paris",
+      "{name} : ^paris +",
+      "§275",
+      std::string(10000, 'a'),
+      std::string(10000, '"'),
+      [] {
+        std::string words;
+        for (int word = 0; word < 5000; ++word) words.append(std::to_string(word)).append("p ");
+        return words;
+      }(),
+      std::string("par\0is", 6),
+      "\x01\x02\x1b[31m\r\n\t",
+      "\xff\xfe\xc3",
+      "'; DROP TABLE place; --",
+      "%s%n",
+  };
+  for (const auto& text : hostile) {
+    (void)index->search(text, std::nullopt);
+    (void)index->search(text, Coordinate{48, 2});
+    EXPECT_EQ(index.best("paris"), "Paris, Île-de-France, France") << "after " << text;
+  }
+  EXPECT_EQ(index.best("\"paris\" *"), "Paris, Île-de-France, France");
+  EXPECT_EQ(index.best("paris\x01\ttexas"), "Paris, Texas, United States");
+}
+
+TEST(PlaceSearch, GivesOnePlaceOnceFromOverlappingRegions) {
+  auto moved = someWorld();
+  for (auto& place : moved) place.place.coordinate.latitude += 0.001;
+  SmallIndex index({someWorld(), moved});
+  const auto found = index->search("paris", std::nullopt);
+  ASSERT_EQ(found.size(), 3u);
+  EXPECT_EQ(found[0].country, "France");
+  EXPECT_EQ(found[1].country, "United States");
+  EXPECT_EQ(found[2].name, "Parisot");
+}
+
+TEST(PlaceSearch, LivesWithAFileWhoseContentIsDamaged) {
+  SmallIndex whole(someWorld());
+  const auto path = whole.folder().path() / "0.region";
+  const auto size = std::filesystem::file_size(path);
+  std::size_t opened = 0;
+  for (std::uintmax_t offset = 4096; offset < size; offset += 4096) {
+    const TemporaryFolder folder;
+    std::filesystem::copy_file(path, folder.path() / "bad.region");
+    std::fstream file(folder.path() / "bad.region",
+                      std::ios::in | std::ios::out | std::ios::binary);
+    file.seekp(static_cast<std::streamoff>(offset)) << std::string(4096, '\x5a');
+    file.close();
+    auto index = PlaceIndex::open(RegionStore({folder.path()}));
+    ASSERT_TRUE(index);
+    for (const char* text : {"paris", "s", "drottninggatan göteborg"}) {
+      opened += index->search(text, Coordinate{48, 2}).size();
+    }
+    opened += index->placeAt({57.7061, 11.967}).has_value();
+  }
+  EXPECT_GT(opened, 0u) << "no damaged file was usable, so nothing was tried";
+}
+
+}  // namespace
+}  // namespace wayloom

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+
+#include <QtCore/QList>
+#include <QtCore/QPointF>
+
+#include "map/MapMotion.h"
+
+class QKeyEvent;
+class QTouchEvent;
+class QWheelEvent;
+
+namespace wayloom {
+
+/// Turns what fingers, mouse, wheel and keys do into moves of a map. A mouse is one finger. Owned
+/// by MapView, which passes its events on; main thread.
+class MapGestures {
+ public:
+  MapGestures(MapMotion& motion, std::function<void()> tapped);
+
+  /// Where the fingers are now; none when the last was lifted. Times are in milliseconds.
+  void setFingers(const QList<QPointF>& fingers, quint64 timeMs);
+  /// The fingers were taken away by someone else.
+  void cancel();
+  bool isDragging() const { return mIsDragging; }
+
+  void touch(const QTouchEvent& event);
+  void doubleClick(QPointF position);
+  void wheel(const QWheelEvent& event);
+  /// Both say whether the key means something to the map.
+  bool pressKey(const QKeyEvent& event);
+  bool releaseKey(const QKeyEvent& event);
+  /// Keys can no longer be released here.
+  void loseFocus();
+
+ private:
+  struct Sample {
+    QPointF centroid;
+    quint64 timeMs;
+  };
+
+  void putDown(const QList<QPointF>& fingers, quint64 timeMs);
+  void follow(const QList<QPointF>& fingers, quint64 timeMs);
+  void lift(quint64 timeMs);
+  void tap(quint64 timeMs);
+  QPointF velocityAt(quint64 timeMs) const;
+
+  MapMotion& mMotion;
+  std::function<void()> mTapped;
+  QList<QPointF> mFingers;
+  std::deque<Sample> mSamples;
+  Sample mPress{};
+  Sample mLastTap{};
+  bool mIsDragging = false;
+  bool mHadManyFingers = false;
+  bool mIsTouch = false;
+};
+
+}  // namespace wayloom

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstdint>
+
+#include <QtCore/QPointF>
+#include <QtGui/QImage>
+
+#include "places/Coordinate.h"
+
+namespace wayloom {
+
+/// A mark on the map. Shared and never changed once made; the map knows it by its address.
+struct MapPointAnnotation {
+  Coordinate coordinate;
+  std::int32_t tag = 0;
+  /// Its device pixel ratio counts. Null for the map's own pin.
+  QImage image;
+  /// Which place of the image stands on the coordinate, in parts of its size.
+  QPointF anchor{0.5, 1};
+};
+
+}  // namespace wayloom

@@ -1,0 +1,88 @@
+#pragma once
+
+#include <algorithm>
+#include <condition_variable>
+#include <functional>
+#include <mutex>
+#include <vector>
+
+#include <QtTest/QTest>
+
+#include "map/TileSource.h"
+
+namespace wayloom {
+
+/// Draws each tile in one colour told by its zoom, place and nothing else; keeps tiles back for as
+/// long as the test wants.
+class FakeTileSource : public TileSource {
+ public:
+  static QColor colourOf(const TileKey& key) {
+    return QColor((key.zoom * 11 + 40) % 256, (key.x * 37 + 60) % 256, (key.y * 53 + 80) % 256);
+  }
+
+  ~FakeTileSource() override { EXPECT_EQ(mDrawing, 0); }
+
+  QImage draw(const TileKey& key, double scale) override {
+    std::unique_lock lock(mMutex);
+    mDrawn.push_back(key);
+    mMostAtOnce = std::max(mMostAtOnce, ++mDrawing);
+    mChanged.wait(lock, [&] { return key.zoom != mHeldZoom && !mIsHeld; });
+    --mDrawing;
+    const int pixels = static_cast<int>(512 * scale);
+    QImage image(pixels, pixels, QImage::Format_RGB32);
+    image.fill(colourOf(key));
+    return image;
+  }
+  int concurrency() const override { return 2; }
+  int maximumZoom() const override { return 18; }
+  QStringList attributions(double west, double, double east, double) const override {
+    return {QString::number(west < 0) + QString::number(east > 0)};
+  }
+
+  void hold() {
+    set([this] { mIsHeld = true; });
+  }
+  void holdZoom(int zoom) {
+    set([this, zoom] { mHeldZoom = zoom; });
+  }
+  void release() {
+    set([this] {
+      mIsHeld = false;
+      mHeldZoom = -1;
+    });
+  }
+  bool waitUntilDrawing(int count) {
+    return QTest::qWaitFor([&] { return drawing() >= count; });
+  }
+  int drawing() const {
+    const std::lock_guard lock(mMutex);
+    return mDrawing;
+  }
+  std::vector<TileKey> drawn() const {
+    const std::lock_guard lock(mMutex);
+    return mDrawn;
+  }
+  int mostAtOnce() const {
+    const std::lock_guard lock(mMutex);
+    return mMostAtOnce;
+  }
+
+ private:
+  void set(const std::function<void()>& change) {
+    {
+      const std::lock_guard lock(mMutex);
+      change();
+    }
+    mChanged.notify_all();
+  }
+
+  mutable std::mutex mMutex;
+  std::condition_variable mChanged;
+  std::vector<TileKey> mDrawn;
+  bool mIsHeld = false;
+  int mHeldZoom = -1;
+  int mDrawing = 0;
+  int mMostAtOnce = 0;
+};
+
+}  // namespace wayloom

@@ -1,0 +1,193 @@
+#include <cmath>
+
+#include "tests/map/MapWindow.h"
+
+namespace wayloom {
+namespace {
+
+using namespace std::chrono_literals;
+
+struct MapViewTest : testing::Test, MapWindow {};
+
+TEST_F(MapViewTest, EveryCommandIsOneMove) {
+  const MapRegion fitted = map->regionThatFits(regionWithDistance({57.7, 11.97}, 2000, 2000));
+  map->setRegion(fitted, Animated::No);
+  EXPECT_EQ(moves, "wd");
+  map->setRegion(fitted, Animated::No);
+  map->setRegion(map->region(), Animated::Yes);
+  map->setCenterCoordinate({57.7, 11.97}, Animated::No);
+  EXPECT_EQ(moves, "wd") << "what changes nothing is no move";
+  map->setCenterCoordinate({48.85, 2.35}, Animated::No);
+  EXPECT_EQ(moves, "wdwd");
+  EXPECT_NEAR(center().latitude, 48.85, 1e-9);
+  EXPECT_NEAR(center().longitude, 2.35, 1e-9);
+  map->setRegion(regionAround(10, 10, 5), Animated::Yes);
+  EXPECT_EQ(moves, "wdwdW");
+  EXPECT_TRUE(waitFor("wdwdWD")) << moves;
+  EXPECT_NEAR(center().latitude, 10, 1e-9);
+}
+
+TEST_F(MapViewTest, CompletionRunsOnceWhetherTheAnimationEndsOrNot) {
+  int completions = 0;
+  const auto complete = [&] {
+    ++completions;
+    moves += '!';
+  };
+  map->animateCenter({10, 10}, 60ms, complete);
+  EXPECT_TRUE(waitFor("WD!")) << moves;
+  map->animateCenter({10, 10}, 60ms, complete);
+  EXPECT_EQ(moves, "WD!!") << "already there";
+  moves.clear();
+  map->animateCenter({20, 20}, 1h, complete);
+  map->setCenterCoordinate({30, 30}, Animated::No);
+  EXPECT_EQ(moves, "WD!wd");
+  moves.clear();
+  map->animateCenter({40, 40}, 60ms,
+                     [&] { map->setRegion(regionAround(40, 40, 1), Animated::Yes); });
+  EXPECT_TRUE(waitFor("WDWD")) << moves;
+  EXPECT_NEAR(map->region().span.longitudeDelta,
+              map->regionThatFits(regionAround(40, 40, 1)).span.longitudeDelta, 1e-9);
+  EXPECT_EQ(completions, 3);
+}
+
+TEST_F(MapViewTest, CommandFromAReceiverWins) {
+  QObject::connect(map, &MapView::regionWillChange, map, [this] {
+    if (moves == "w") map->setCenterCoordinate({1, 1}, Animated::No);
+  });
+  map->setCenterCoordinate({50, 50}, Animated::No);
+  EXPECT_EQ(moves, "wdwd");
+  EXPECT_NEAR(center().latitude, 1, 1e-9);
+}
+
+TEST_F(MapViewTest, SenselessRegionsAreIgnored) {
+  const double inf = std::numeric_limits<double>::infinity(), nan = std::nan("");
+  const MapRegion before = map->region();
+  for (double bad : {inf, -inf, nan}) {
+    map->setRegion({{bad, 0}, {1, 1}}, Animated::No);
+    map->setRegion({{0, bad}, {1, 1}}, Animated::Yes);
+    map->setRegion({{0, 0}, {bad, 1}}, Animated::No);
+    map->setRegion({{0, 0}, {1, bad}}, Animated::No);
+    map->setCenterCoordinate({bad, 0}, Animated::No);
+    map->setCenterCoordinate({0, bad}, Animated::Yes);
+  }
+  map->setRegion({{0, 0}, {-1, 1}}, Animated::No);
+  EXPECT_EQ(moves, "");
+  EXPECT_EQ(map->region(), before);
+}
+
+TEST(MapViewLayout, RegionSetBeforeThereIsASizeIsFittedOnce) {
+  MapView map;
+  std::string moves;
+  QObject::connect(&map, &MapView::regionWillChange, [&](bool) { moves += 'w'; });
+  QObject::connect(&map, &MapView::regionDidChange, [&](bool) { moves += 'd'; });
+  map.setRegion(regionAround(57.7, 11.97, 0.1), Animated::Yes);
+  map.setCenterCoordinate({57.8, 12}, Animated::No);
+  EXPECT_EQ(moves, "wdwd");
+  EXPECT_NEAR(map.region().center.latitude, 57.8, 1e-9);
+  map.setSize({300, 500});
+  EXPECT_EQ(moves, "wdwd");
+  EXPECT_NEAR(map.region().span.longitudeDelta, 0.1127, 0.0001) << "the height decides";
+  EXPECT_NEAR(map.region().span.latitudeDelta, 0.1, 0.0001);
+  const double zoomed = map.region().span.longitudeDelta;
+  map.setSize({600, 500});
+  EXPECT_EQ(moves, "wdwd") << "a change of size is no move";
+  EXPECT_NEAR(map.region().span.longitudeDelta, zoomed * 2, 1e-9);
+  EXPECT_NEAR(map.region().center.latitude, 57.8, 1e-9);
+}
+
+TEST_F(MapViewTest, ShowsItsTilesWhereTheyBelong) {
+  map->setRegion(regionAround(57.7, 11.97, 0.05), Animated::No);
+  ASSERT_TRUE(waitUntilComplete());
+  const MapCamera& camera = [&] {
+    MapCamera c;
+    c.setSize({400, 600});
+    c.fit(map->region());
+    return c;
+  }();
+  const QImage grabbed = window.grabWindow();
+  for (const PlacedTile& tile : visibleTiles(camera, tileZoom(camera, 18), 1)) {
+    const QRect inView = tile.rect.toRect().intersected(QRect(0, 0, 400, 600));
+    if (inView.width() < 3 || inView.height() < 3) continue;
+    EXPECT_EQ(grabbed.pixelColor(inView.center()), FakeTileSource::colourOf(tile.key))
+        << tile.key.x << ',' << tile.key.y;
+  }
+}
+
+TEST_F(MapViewTest, ParentStandsInForAMissingTile) {
+  map->setRegion(regionAround(0.02, 0.02, 0.05), Animated::No);
+  ASSERT_TRUE(waitUntilComplete());
+  const QColor parent = colourAt(200, 300);
+  const MapRegion region = map->region();
+  MapCamera camera;
+  camera.setSize({400, 600});
+  camera.fit(region);
+  const int zoom = tileZoom(camera, 18);
+  source->holdZoom(zoom + 1);
+  map->setRegion({region.center, {0, region.span.longitudeDelta / 2}}, Animated::No);
+  ASSERT_TRUE(source->waitUntilDrawing(1));
+  EXPECT_EQ(colourAt(200, 300), parent);
+  EXPECT_FALSE(map->isComplete());
+  source->release();
+  ASSERT_TRUE(waitUntilComplete());
+  EXPECT_NE(colourAt(200, 300), parent);
+}
+
+TEST_F(MapViewTest, ChildrenStandInWhenZoomingOut) {
+  map->setRegion(regionAround(0.02, 0.02, 0.05), Animated::No);
+  ASSERT_TRUE(waitUntilComplete());
+  const QColor child = colourAt(200, 300);
+  MapCamera camera;
+  camera.setSize({400, 600});
+  camera.fit(map->region());
+  source->hold();
+  map->setRegion({map->region().center, {0, map->region().span.longitudeDelta * 2}}, Animated::No);
+  ASSERT_TRUE(source->waitUntilDrawing(1));
+  EXPECT_EQ(colourAt(200, 300), child);
+  source->release();
+  EXPECT_TRUE(waitUntilComplete());
+}
+
+TEST_F(MapViewTest, OverlaysAndAnnotationsAreDrawnAndTaken) {
+  map->setRegion(regionAround(0, 0, 1), Animated::No);
+  ASSERT_TRUE(waitUntilComplete());
+  const auto line = std::make_shared<MapPolyline>();
+  const_cast<MapPolyline&>(*line).coordinates =
+      std::make_shared<const std::vector<Coordinate>>(std::vector<Coordinate>{{0, -1}, {0, 1}});
+  map->addOverlay(line);
+  QImage image(20, 20, QImage::Format_RGB32);
+  image.fill(Qt::magenta);
+  const auto mark =
+      std::make_shared<MapPointAnnotation>(MapPointAnnotation{{0, 0.1}, 111111, image, {0.5, 0.5}});
+  map->addAnnotation(mark);
+  const QPoint at = map->viewPoint({0, 0.1}).toPoint();
+  EXPECT_EQ(colourAt(100, 300), QColor(0, 255, 0));
+  EXPECT_EQ(colourAt(at.x(), at.y()), QColor(Qt::magenta));
+  EXPECT_EQ(map->annotations().at(0)->tag, 111111);
+  map->removeOverlay(line);
+  map->removeAnnotation(mark);
+  EXPECT_NE(colourAt(100, 300), QColor(0, 255, 0));
+  EXPECT_NE(colourAt(at.x(), at.y()), QColor(Qt::magenta));
+  EXPECT_TRUE(map->overlays().empty() && map->annotations().empty());
+}
+
+TEST_F(MapViewTest, ShowsTheUserOnlyWhenAsked) {
+  map->setRegion(regionAround(0, 0, 1), Animated::No);
+  ASSERT_TRUE(waitUntilComplete());
+  map->setUserLocation(Coordinate{0.1, 0.1});
+  const QPoint at = map->viewPoint({0.1, 0.1}).toPoint();
+  const QColor without = colourAt(at.x(), at.y());
+  map->setShowsUserLocation(true);
+  EXPECT_NE(colourAt(at.x(), at.y()), without);
+  map->setUserLocation(std::nullopt);
+  EXPECT_EQ(colourAt(at.x(), at.y()), without);
+}
+
+TEST_F(MapViewTest, CreditsWhatIsInView) {
+  map->setRegion(regionAround(0, 50, 1), Animated::No);
+  EXPECT_EQ(map->attribution(), "01");
+  map->setRegion(regionAround(0, -50, 1), Animated::No);
+  EXPECT_EQ(map->attribution(), "10");
+}
+
+}  // namespace
+}  // namespace wayloom

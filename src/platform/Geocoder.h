@@ -23,6 +23,9 @@ struct GeocoderAnswer {
   std::optional<std::string> error;
 };
 
+/// The first line of the first place, if there was no error and there is one.
+std::optional<std::string> firstFormattedLine(const GeocoderAnswer& answer);
+
 /// Turns addresses into places and back. Completions run on the main thread, later; they do not
 /// run any more once the geocoder is destroyed.
 class Geocoder {

@@ -43,9 +43,6 @@ class PositionSource {
   virtual void requestAlwaysAuthorization() = 0;
   virtual void startUpdatingLocation() = 0;
   virtual void stopUpdatingLocation() = 0;
-
-  /// Whether the user has the position service switched on at all.
-  virtual bool locationServicesEnabled() const = 0;
 };
 
 }  // namespace wayloom

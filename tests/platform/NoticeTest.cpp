@@ -1,0 +1,145 @@
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <memory>
+#include <systemd/sd-bus.h>
+#include <thread>
+
+#include "platform/CommandNotice.h"
+#include "platform/DBusNotice.h"
+#include "platform/SystemNotices.h"
+#include "tests/support/TemporaryRoot.h"
+
+namespace wayloom {
+namespace {
+
+constexpr const char* kName = "com.quorvil.wayloom.auto.changed";
+
+/// Sets a variable of the environment for one test.
+class Environment {
+ public:
+  Environment(const char* name, const std::string& value) : mName(name) {
+    if (const char* before = std::getenv(name)) mBefore = before;
+    setenv(name, value.c_str(), 1);
+  }
+  ~Environment() {
+    if (mBefore) {
+      setenv(mName, mBefore->c_str(), 1);
+    } else {
+      unsetenv(mName);
+    }
+  }
+
+ private:
+  const char* mName;
+  std::optional<std::string> mBefore;
+};
+
+/// A message bus of the test's own.
+class PrivateBus {
+ public:
+  PrivateBus() {
+    mDaemon = popen("exec dbus-daemon --session --print-address=1 --print-pid=1 --nofork", "r");
+    address = readLine();
+    mProcess = std::atoi(readLine().c_str());
+  }
+  ~PrivateBus() { stop(); }
+
+  void stop() {
+    if (!mDaemon) return;
+    if (mProcess > 0) kill(mProcess, SIGTERM);
+    pclose(mDaemon);
+    mDaemon = nullptr;
+  }
+
+  std::string address;
+
+ private:
+  std::string readLine() {
+    char line[512] = "";
+    if (!fgets(line, sizeof line, mDaemon)) return {};
+    std::string text = line;
+    while (!text.empty() && text.back() == '\n') text.pop_back();
+    return text;
+  }
+
+  FILE* mDaemon = nullptr;
+  pid_t mProcess = 0;
+};
+
+struct Heard {
+  std::string path, interface, member;
+};
+
+int hear(sd_bus_message* message, void* heard, sd_bus_error* /*error*/) {
+  static_cast<std::vector<Heard>*>(heard)->push_back({sd_bus_message_get_path(message),
+                                                      sd_bus_message_get_interface(message),
+                                                      sd_bus_message_get_member(message)});
+  return 0;
+}
+
+TEST(DBusNotice, ReachesAListenerOnTheSessionBus) {
+  const PrivateBus bus;
+  ASSERT_FALSE(bus.address.empty()) << "dbus-daemon did not start";
+  const Environment environment("DBUS_SESSION_BUS_ADDRESS", bus.address);
+  sd_bus* raw = nullptr;
+  ASSERT_GE(sd_bus_open_user(&raw), 0);
+  const std::unique_ptr<sd_bus, decltype(&sd_bus_flush_close_unref)> listener(
+      raw, sd_bus_flush_close_unref);
+  std::vector<Heard> heard;
+  ASSERT_GE(sd_bus_match_signal(raw, nullptr, nullptr, nullptr, "com.quorvil.wayloom.auto",
+                                "changed", hear, &heard),
+            0);
+
+  DBusNotice notice;
+  notice.post(kName);
+  notice.post(kName);
+  for (int turn = 0; turn < 1000 && heard.size() < 2; ++turn) {
+    if (sd_bus_process(raw, nullptr) == 0) sd_bus_wait(raw, 10'000);
+  }
+  ASSERT_EQ(heard.size(), 2U);
+  EXPECT_EQ(heard[0].path, "/com/quorvil/wayloom");
+}
+
+TEST(DBusNotice, ABusThatIsNotThereOrGoneHoldsNothingUp) {
+  const auto start = std::chrono::steady_clock::now();
+  {
+    const Environment environment("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent/bus");
+    DBusNotice().post(kName);
+  }
+  PrivateBus bus;
+  ASSERT_FALSE(bus.address.empty()) << "dbus-daemon did not start";
+  const Environment environment("DBUS_SESSION_BUS_ADDRESS", bus.address);
+  DBusNotice notice;
+  notice.post(kName);
+  bus.stop();
+  notice.post(kName);
+  notice.post("nodots");
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
+}
+
+TEST(CommandNotice, RunsTheCommandWithTheNameAndNoShell) {
+  const TemporaryRoot root;
+  const auto script = root.path() / "on notice; exit";
+  const auto output = root.path() / "heard";
+  writeBytes(script, "#!/bin/sh\necho \"$# $1\" > '" + output.string() + ".part'\nmv '" +
+                         output.string() + ".part' '" + output.string() + "'\n");
+  std::filesystem::permissions(script, std::filesystem::perms::owner_all);
+  CommandNotice(script.string()).post(kName);
+  const auto limit = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+  while (!std::filesystem::exists(output) && std::chrono::steady_clock::now() < limit) {
+    std::this_thread::yield();
+  }
+  EXPECT_EQ(bytesOf(output), std::string("1 ") + kName + "\n");
+}
+
+TEST(SystemNotices, AMissingCommandDisturbsNothing) {
+  const Environment bus("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent/bus");
+  const Environment command("WAYLOOM_NOTICE_COMMAND", "/nonexistent/command");
+  ASSERT_EQ(noticeCommand(), "/nonexistent/command");
+  SystemNotices(noticeCommand()).post(kName);
+}
+
+}  // namespace
+}  // namespace wayloom

@@ -1,0 +1,92 @@
+#pragma once
+
+#include <optional>
+
+#include "places/Coordinate.h"
+#include "platform/ChangeNotice.h"
+#include "settings/PropertyList.h"
+#include "settings/Result.h"
+#include "settings/SettingsFiles.h"
+
+namespace wayloom {
+
+/// The slider's own range; its low end is "slow".
+inline constexpr float kDriftSpeedMinimum = 0.0F;
+inline constexpr float kDriftSpeedMaximum = 1.0F;
+
+/// What the location settings file says, as every reader takes it.
+struct FixedLocationState {
+  /// The file was there and held at least one entry.
+  bool hasSettings = false;
+  bool enabled = false;
+  bool drifting = false;
+  /// As stored; a slider limits it to its own range.
+  double driftSpeed = 0;
+  Coordinate coordinate;
+  /// Both coordinates stand in the file; otherwise the missing one reads 0.
+  bool hasCoordinate = false;
+};
+
+/// Reads the location settings file; a missing, unreadable or empty one has no settings.
+FixedLocationState readFixedLocation(const SettingsFiles& files);
+
+/// The speed as a slider shows it: limited to the slider's range.
+double sliderSpeed(double storedSpeed);
+
+/// The operations on the fixed position: which notice, which keys, in which order. The screen and
+/// the command line both act through one of these. It holds an in-memory copy of the location
+/// settings file, which is none after the map moved while the file was missing; nothing is written
+/// then. Main thread only.
+class FixedLocation {
+ public:
+  /// Both must outlive this object.
+  FixedLocation(SettingsFiles& files, ChangeNotice& notice);
+
+  /// Re-reads the file. A missing, unreadable or empty one leaves an empty copy, so that the next
+  /// writer creates the file.
+  FixedLocationState refresh();
+
+  /// The message that keeps the screen in its mode while the copy, which is not read again, says
+  /// that the position is on; null otherwise.
+  const char* refusalToLeave() const;
+
+  /// The chosen position: the map's centre after its last move, or what was set.
+  Coordinate coordinate() const { return mCoordinate; }
+  void setCoordinate(Coordinate coordinate) { mCoordinate = coordinate; }
+
+  /// The enable switch: posts the notice, then writes "enable" and the chosen position.
+  [[nodiscard]] Result setEnable(bool on);
+
+  /// The drift switch: posts the notice, then writes "a" and "s".
+  [[nodiscard]] Result setAuto(bool on, float speed);
+
+  /// The drift slider: writes "a" and "s", without a notice.
+  [[nodiscard]] Result autoSlide(bool on, float speed);
+
+  /// The map stopped at `center`: re-reads the file and writes the position into it, without a
+  /// notice. With no file there is nothing to write into; hasSettings() then turns false.
+  [[nodiscard]] Result centerMoved(Coordinate center);
+
+  /// An address search begins: "enable" reads "0" until it has found something.
+  [[nodiscard]] Result beginAddressSearch();
+
+  /// The search found a place while the enable switch showed `switchOn`.
+  [[nodiscard]] Result endAddressSearch(bool switchOn);
+
+  /// The mode button: makes the route mode the current one; refused while refusalToLeave().
+  [[nodiscard]] Result leaveForRoute();
+
+  /// Whether there is a copy to write back.
+  bool hasSettings() const { return mPreferences.has_value(); }
+
+ private:
+  void set(const char* key, std::string value);
+  [[nodiscard]] Result save();
+
+  SettingsFiles& mFiles;
+  ChangeNotice& mNotice;
+  std::optional<PropertyList::Dictionary> mPreferences;
+  Coordinate mCoordinate;
+};
+
+}  // namespace wayloom

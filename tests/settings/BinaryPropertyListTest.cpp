@@ -1,0 +1,221 @@
+#include <bit>
+#include <limits>
+#include <plist/plist.h>
+
+#include "settings/PropertyListFormat.h"
+
+namespace wayloom {
+namespace {
+
+using namespace std::string_literals;
+
+using Array = PropertyList::Array;
+using Dictionary = PropertyList::Dictionary;
+using Value = PropertyList::Value;
+
+std::string bigEndian(std::uint64_t number, std::size_t bytes) {
+  std::string text;
+  for (std::size_t i = bytes; i > 0; --i) {
+    text += static_cast<char>(number >> (8 * (i - 1)));
+  }
+  return text;
+}
+
+/// What a binary file is made of; a test spoils one part.
+struct Parts {
+  std::vector<std::string> objects;
+  std::vector<std::uint64_t> offsets = {};
+  unsigned offsetBytes = 4;
+  unsigned referenceBytes = 1;
+  std::uint64_t root = 0;
+  std::uint64_t countError = 0;
+  std::uint64_t tableError = 0;
+};
+
+std::string binary(Parts parts) {
+  std::string bytes = "bplist00";
+  for (const std::string& object : parts.objects) {
+    parts.offsets.push_back(bytes.size());
+    bytes += object;
+  }
+  const std::uint64_t table = bytes.size() + parts.tableError;
+  for (const std::uint64_t offset : parts.offsets) {
+    bytes += bigEndian(offset, parts.offsetBytes);
+  }
+  bytes += std::string(6, '\0') + static_cast<char>(parts.offsetBytes) +
+           static_cast<char>(parts.referenceBytes);
+  return bytes + bigEndian(parts.offsets.size() + parts.countError, 8) + bigEndian(parts.root, 8) +
+         bigEndian(table, 8);
+}
+
+/// What another implementation reads from our XML, in its own binary form.
+std::string binaryOfOtherWriter(const PropertyList& value) {
+  const SerializedPropertyList xml = serializePropertyList(value);
+  EXPECT_TRUE(xml.bytes) << xml.problem;
+  plist_t other = nullptr;
+  plist_from_xml(xml.bytes->data(), static_cast<std::uint32_t>(xml.bytes->size()), &other);
+  char* bytes = nullptr;
+  std::uint32_t length = 0;
+  plist_to_bin(other, &bytes, &length);
+  std::string binary(bytes == nullptr ? "" : bytes, length);
+  plist_to_bin_free(bytes);
+  plist_free(other);
+  return binary;
+}
+
+TEST(BinaryPropertyListTest, OtherImplementationsReadOursAndWeReadTheirs) {
+  Array many;
+  for (int i = 0; i < 300; ++i) {
+    many.push_back(Dictionary{{"lat", i * 0.1}, {"lng", -i * 1e-7}});
+  }
+  const PropertyList values[] = {true,
+                                 0,
+                                 255,
+                                 65536,
+                                 -1,
+                                 std::numeric_limits<std::int64_t>::min(),
+                                 std::numeric_limits<std::uint64_t>::max(),
+                                 0.1,
+                                 5e-324,
+                                 "",
+                                 "plain",
+                                 "Göteborg & <☕🚗>",
+                                 std::string(1000, 'x'),
+                                 many,
+                                 Array{},
+                                 Dictionary{},
+                                 Dictionary{{"ключ", Array{false, "x"}}, {"a<b", 1}},
+                                 Value(PropertyList::Data{std::vector<std::uint8_t>(300, 7)}),
+                                 Value(PropertyList::Date{789012345}),
+                                 Value(PropertyList::Date{-1e9})};
+  for (const PropertyList& value : values) {
+    const ParsedPropertyList parsed = parsePropertyList(binaryOfOtherWriter(value));
+    ASSERT_TRUE(parsed.value) << parsed.damage << " for " << *serializePropertyList(value).bytes;
+    EXPECT_EQ(*parsed.value, value) << *serializePropertyList(value).bytes;
+  }
+}
+
+TEST(BinaryPropertyListTest, FormsThatOtherWritersSeldomUse) {
+  const std::string minusOne(8, '\xFF');
+  const std::pair<std::string, PropertyList> objects[] = {
+      {"\x22"s + bigEndian(std::bit_cast<std::uint32_t>(1.5f), 4), 1.5},
+      {"\x10\xFF", 255},
+      {"\x14"s + minusOne + minusOne, -1},
+      {"\x14"s + bigEndian(0, 8) + minusOne, std::numeric_limits<std::uint64_t>::max()},
+      {"\x14"s + bigEndian(0, 8) + bigEndian(5, 8), 5},
+      {"\x62\x00\x41\xD8\x00"s, "A\uFFFD"},
+      {"\x62\xDC\x00\x00\x41"s,
+       "\uFFFD"
+       "A"},
+      {"\x62\xD8\x3D\xDE\x97"s, "🚗"},
+      {"\x82\x01\x02\x03"s, Value(PropertyList::Uid{0x10203})},
+      {"\x5F\x11"s + bigEndian(15, 2) + std::string(15, 'x'), std::string(15, 'x')}};
+  for (const auto& [object, value] : objects) {
+    for (const unsigned offsetBytes : {1u, 3u, 8u}) {
+      const ParsedPropertyList parsed =
+          parsePropertyList(binary({.objects = {object}, .offsetBytes = offsetBytes}));
+      ASSERT_TRUE(parsed.value) << parsed.damage << testing::PrintToString(object);
+      EXPECT_EQ(*parsed.value, value) << testing::PrintToString(object);
+    }
+  }
+}
+
+TEST(BinaryPropertyListTest, DamagedObjectsAreRefused) {
+  const std::string eight(8, '\xFF');
+  const std::string objects[] = {std::string(1, '\0'),
+                                 "\x0F",
+                                 "\x15",
+                                 "\x13",
+                                 "\x14"s + bigEndian(1, 8) + bigEndian(0, 8),
+                                 "\x14"s + eight + bigEndian(0, 8),
+                                 "\x20",
+                                 "\x23"
+                                 "abc",
+                                 "\x32"
+                                 "abcd",
+                                 "\x4F\x13"s + eight,
+                                 "\x4F\x20",
+                                 "\x4F",
+                                 "\x5F\x13"s + eight,
+                                 "\x6F\x13"
+                                 "\x7F" +
+                                     eight.substr(1),
+                                 "\x51\xFF",
+                                 "\x70",
+                                 "\x88"s + eight + eight,
+                                 "\xA1",
+                                 "\xA1\x00"s,
+                                 "\xA1\x01",
+                                 "\xAF\x13"s + eight,
+                                 "\xD1",
+                                 "\xD1\x00\x00"s,
+                                 "\xDF\x13"s + eight,
+                                 "\xC0",
+                                 "\xE0"};
+  for (const std::string& object : objects) {
+    EXPECT_FALSE(parsePropertyList(binary({.objects = {object}})).value)
+        << testing::PrintToString(object);
+  }
+}
+
+TEST(BinaryPropertyListTest, DamagedTablesAreRefused) {
+  constexpr std::uint64_t kHuge = std::numeric_limits<std::uint64_t>::max();
+  const std::vector<std::string> good{"\xA1\x01", "\x09"};
+  ASSERT_TRUE(parsePropertyList(binary({.objects = good})).value);
+  const Parts spoiled[] = {{.objects = good, .offsetBytes = 0},
+                           {.objects = good, .offsetBytes = 9},
+                           {.objects = good, .referenceBytes = 0},
+                           {.objects = good, .referenceBytes = 255},
+                           {.objects = good, .root = 2},
+                           {.objects = good, .root = kHuge},
+                           {.objects = good, .countError = 1},
+                           {.objects = good, .countError = kHuge / 2},
+                           {.objects = good, .tableError = 9},
+                           {.objects = good, .tableError = 0 - kHuge / 3},
+                           {.objects = {}, .offsets = {0}},
+                           {.objects = {}, .offsets = {7}},
+                           {.objects = {}, .offsets = {8}},
+                           {.objects = {}, .offsets = {0xFFFFFFFF}},
+                           {.objects = {}}};
+  for (std::size_t i = 0; i < std::size(spoiled); ++i) {
+    EXPECT_FALSE(parsePropertyList(binary(spoiled[i])).value) << "spoiled " << i;
+  }
+}
+
+TEST(BinaryPropertyListTest, SharingCannotGrowASmallFileWithoutEnd) {
+  EXPECT_FALSE(parsePropertyList(binary({.objects = {"\xA1\x00"s}})).value);
+  EXPECT_FALSE(parsePropertyList(binary({.objects = {"\xD1\x01\x00"s, "\x51k"}})).value);
+
+  Parts doubling;
+  for (int i = 1; i <= 60; ++i) {
+    doubling.objects.push_back("\xA2"s + std::string(2, static_cast<char>(i)));
+  }
+  doubling.objects.emplace_back("\x09");
+  EXPECT_FALSE(parsePropertyList(binary(doubling)).value);
+
+  const std::string manyReferences = "\xAF\x12"s + bigEndian(100'000, 4) + std::string(100'000, 1);
+  const std::string longText = "\x5F\x12"s + bigEndian(1'000'000, 4) + std::string(1'000'000, 'x');
+  EXPECT_FALSE(parsePropertyList(binary({.objects = {manyReferences, longText}})).value);
+}
+
+TEST(BinaryPropertyListTest, SpoiledBytesNeverReadAsHalfAFile) {
+  const std::string good = binaryOfOtherWriter(Dictionary{
+      {"enable", "1"}, {"points", Array{Dictionary{{"lat", 1.5}, {"lng", 2}}, "ключ", true}}});
+  for (std::size_t length = 0; length < good.size(); ++length) {
+    EXPECT_FALSE(parsePropertyList(good.substr(0, length)).value) << length;
+  }
+  for (std::size_t at = 0; at < good.size(); ++at) {
+    for (const char byte : {'\0', '\x01', '\x7F', '\xAF', '\xFF'}) {
+      std::string spoiled = good;
+      spoiled[at] = byte;
+      const ParsedPropertyList parsed = parsePropertyList(spoiled);
+      EXPECT_NE(parsed.value.has_value(), !parsed.damage.empty()) << at << ' ' << int{byte};
+      if (parsed.value) {
+        EXPECT_TRUE(serializePropertyList(*parsed.value).bytes) << at << ' ' << int{byte};
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace wayloom

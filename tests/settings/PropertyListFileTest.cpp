@@ -1,0 +1,130 @@
+#include <sys/stat.h>
+
+#include "settings/PropertyListFile.h"
+#include "settings/PropertyListFormat.h"
+#include "tests/settings/TemporaryFolder.h"
+
+namespace wayloom {
+namespace {
+
+namespace fs = std::filesystem;
+using Array = PropertyList::Array;
+using Dictionary = PropertyList::Dictionary;
+using State = PropertyListFile::State;
+
+constexpr const char* kDamaged = "<plist version=\"1.0\"><dict><key>a</key>";
+
+class PropertyListFileTest : public testing::Test {
+ protected:
+  fs::path setAside(int number) const {
+    return mPath.string() + ".damaged-" + std::to_string(number);
+  }
+
+  TemporaryFolder mFolder;
+  fs::path mPath = mFolder.path() / "file.plist";
+  PropertyListFile mFile{mPath, PropertyListFile::Root::Dictionary};
+  const PropertyList mValue = Dictionary{{"enable", "1"}};
+};
+
+TEST_F(PropertyListFileTest, TellsMissingFromDamagedFromLoaded) {
+  EXPECT_EQ(mFile.read().state, State::Missing);
+  EXPECT_EQ(PropertyListFile("/dev/null/file", PropertyListFile::Root::Array).read().state,
+            State::Missing);
+  ASSERT_TRUE(mFile.write(mValue));
+  EXPECT_EQ(mFile.read().state, State::Loaded);
+  EXPECT_EQ(mFile.read().value, mValue);
+
+  const std::pair<std::string, std::string> damages[] = {
+      {"", "line 1"},
+      {kDamaged, "line 1"},
+      {"bplist00", "short"},
+      {"<plist><array/></plist>", "no dictionary"}};
+  for (const auto& [bytes, message] : damages) {
+    putBytes(mPath, bytes);
+    const PropertyListFile::Contents contents = mFile.read();
+    EXPECT_EQ(contents.state, State::Damaged) << bytes;
+    EXPECT_THAT(contents.damage, testing::HasSubstr(message)) << bytes;
+  }
+}
+
+TEST_F(PropertyListFileTest, WhatIsNoFileIsDamagedAndDoesNotBlock) {
+  ASSERT_EQ(::mkfifo(mPath.c_str(), 0644), 0);
+  EXPECT_THAT(mFile.read().damage, testing::HasSubstr("regular file"));
+  fs::remove(mPath);
+  fs::create_directories(mPath / "inner");
+  EXPECT_THAT(mFile.read().damage, testing::HasSubstr("regular file"));
+  EXPECT_FALSE(mFile.write(mValue));
+  EXPECT_TRUE(fs::exists(mPath / "inner"));
+}
+
+TEST_F(PropertyListFileTest, FileBeyondTheSizeLimitIsDamagedWithoutBeingParsed) {
+  putBytes(mPath, "<plist>");
+  fs::resize_file(mPath, std::uintmax_t{1} << 40);
+  EXPECT_THAT(mFile.read().damage, testing::HasSubstr("too large"));
+}
+
+TEST_F(PropertyListFileTest, DamagedFileIsKeptByTheWriteThatReplacesIt) {
+  putBytes(mPath, kDamaged);
+  EXPECT_EQ(mFile.read().state, State::Damaged);
+  EXPECT_EQ(mFolder.entryCount(), 1u) << "reading must not move anything";
+  ASSERT_TRUE(mFile.write(mValue));
+  EXPECT_EQ(bytesOf(setAside(1)), kDamaged);
+  EXPECT_EQ(mFile.read().value, mValue);
+
+  ASSERT_TRUE(mFile.write(mValue));
+  EXPECT_EQ(mFolder.entryCount(), 2u) << "a sound file needs no keeping";
+
+  putBytes(mPath, "second");
+  ASSERT_TRUE(mFile.write(mValue)) << "written without a read";
+  EXPECT_EQ(bytesOf(setAside(1)), kDamaged);
+  EXPECT_EQ(bytesOf(setAside(2)), "second");
+}
+
+TEST_F(PropertyListFileTest, FileOfAnotherRootIsKept) {
+  ASSERT_TRUE(mFile.write(mValue));
+  PropertyListFile asArray(mPath, PropertyListFile::Root::Array);
+  ASSERT_TRUE(asArray.write(Array{"x"}));
+  EXPECT_EQ(asArray.read().value, PropertyList(Array{"x"}));
+  EXPECT_EQ(PropertyListFile(setAside(1), PropertyListFile::Root::Dictionary).read().value, mValue);
+}
+
+TEST_F(PropertyListFileTest, DamageDoneAfterTheReadIsNoticed) {
+  ASSERT_TRUE(mFile.write(mValue));
+  ASSERT_EQ(mFile.read().state, State::Loaded);
+  putBytes(mPath, kDamaged);
+  ASSERT_TRUE(mFile.write(mValue));
+  EXPECT_EQ(bytesOf(setAside(1)), kDamaged);
+}
+
+TEST_F(PropertyListFileTest, RefusedValueChangesNothing) {
+  putBytes(mPath, kDamaged);
+  PropertyList deep = Array{};
+  for (std::size_t depth = 0; depth < kMaximumPropertyListDepth; ++depth) {
+    deep = Array{deep};
+  }
+  for (const PropertyList& value :
+       {PropertyList(Array{}), PropertyList("text"), PropertyList(Dictionary{{"deep", deep}})}) {
+    const Result result = mFile.write(value);
+    EXPECT_FALSE(result);
+    EXPECT_THAT(result.message(), testing::HasSubstr(mPath.string()));
+  }
+  EXPECT_EQ(bytesOf(mPath), kDamaged);
+  EXPECT_EQ(mFolder.entryCount(), 1u);
+}
+
+TEST_F(PropertyListFileTest, WriteFailsWhenNoNumberIsFree) {
+  for (int number = 1; number <= 998; ++number) {
+    putBytes(setAside(number), "kept");
+  }
+  putBytes(mPath, kDamaged);
+  ASSERT_TRUE(mFile.write(mValue));
+  EXPECT_EQ(bytesOf(setAside(999)), kDamaged);
+
+  putBytes(mPath, "once more");
+  const Result result = mFile.write(mValue);
+  EXPECT_THAT(result.message(), testing::HasSubstr("remove some"));
+  EXPECT_EQ(bytesOf(mPath), "once more");
+}
+
+}  // namespace
+}  // namespace wayloom

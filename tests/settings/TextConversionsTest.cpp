@@ -1,0 +1,169 @@
+#include <bit>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <limits>
+#include <random>
+
+#include "settings/TextConversions.h"
+
+namespace wayloom {
+namespace {
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+
+TEST(TextConversionsTest, FlagsAreZeroOrOne) {
+  EXPECT_EQ(formatFlag(true), "1");
+  EXPECT_EQ(formatFlag(false), "0");
+}
+
+std::string printed(double value) {
+  char buffer[400];
+  std::snprintf(buffer, sizeof buffer, "%f", value);
+  return buffer;
+}
+
+TEST(TextConversionsTest, RealsAreFormattedAsPrintfDoes) {
+  EXPECT_EQ(formatReal(48.85837), "48.858370");
+  EXPECT_EQ(formatReal(-0.25), "-0.250000");
+  using Limits = std::numeric_limits<double>;
+  for (const double value : {0.0, -0.0, 0.0000005, 2.5e-7, 1e300, Limits::max(), -Limits::max(),
+                             Limits::denorm_min(), -1e-9, kInfinity, -kInfinity, std::nan(""),
+                             -std::nan(""), 180.0, 0.1234565, 99999999.9999995}) {
+    EXPECT_EQ(formatReal(value), printed(value));
+  }
+  std::mt19937_64 random(1969);
+  std::uniform_real_distribution<double> degrees(-180, 180);
+  for (int i = 0; i < 10000; ++i) {
+    for (const double value : {std::bit_cast<double>(random()), degrees(random)}) {
+      ASSERT_EQ(formatReal(value), printed(value));
+    }
+  }
+}
+
+TEST(TextConversionsTest, BooleanReading) {
+  for (const char* const text : {"1", "9", "Y", "y", "T", "true", "Yes", " \t\n1", "+1", "-1",
+                                 "007", "-00t", "0y", "1abc"}) {
+    EXPECT_TRUE(boolValue(text)) << text;
+  }
+  for (const char* const text :
+       {"", " ", "0", "000", "-", "+", "+-1", "- 1", "no", "F", "x1", "0 1", "0.5",
+        "\xC2\xA0"
+        "1"}) {
+    EXPECT_FALSE(boolValue(text)) << text;
+  }
+}
+
+TEST(TextConversionsTest, IntegerReading) {
+  const std::pair<const char*, std::int32_t> texts[] = {
+      {"", 0},
+      {"7", 7},
+      {" 7", 7},
+      {"\n\t-12x", -12},
+      {"+3", 3},
+      {"007", 7},
+      {"abc", 0},
+      {"1.9", 1},
+      {"1e3", 1},
+      {"0x10", 0},
+      {"--1", 0},
+      {"- 1", 0},
+      {"-", 0},
+      {"1700000000.000000", 1700000000},
+      {"2147483647", 2147483647},
+      {"2147483648", 2147483647},
+      {"-2147483648", std::numeric_limits<std::int32_t>::min()},
+      {"-2147483649", std::numeric_limits<std::int32_t>::min()},
+      {"99999999999999999999999999", 2147483647},
+      {"-99999999999999999999999999", std::numeric_limits<std::int32_t>::min()}};
+  for (const auto& [text, value] : texts) {
+    EXPECT_EQ(intValue(text), value) << text;
+  }
+}
+
+TEST(TextConversionsTest, RealReading) {
+  const std::pair<const char*, double> texts[] = {{"", 0},
+                                                  {"48.858370", 48.85837},
+                                                  {" \t-0.25", -0.25},
+                                                  {"+1.5abc", 1.5},
+                                                  {".5", 0.5},
+                                                  {"5.", 5},
+                                                  {".", 0},
+                                                  {"-.", 0},
+                                                  {"-", 0},
+                                                  {"1e3", 1000},
+                                                  {"1E-3x", 0.001},
+                                                  {"1e", 1},
+                                                  {"1e+", 1},
+                                                  {"1,5", 1},
+                                                  {"nan", 0},
+                                                  {"inf", 0},
+                                                  {"-Infinity", 0},
+                                                  {"0x10", 0},
+                                                  {"--1", 0},
+                                                  {"1e400", kInfinity},
+                                                  {"-1e400", -kInfinity},
+                                                  {"1e-400", 0},
+                                                  {"0e999999", 0},
+                                                  {"0.0000000001e400", kInfinity},
+                                                  {"1e99999999999999999999999", kInfinity},
+                                                  {"1e-99999999999999999999999", 0},
+                                                  {"4.9e-324", 4.9e-324}};
+  for (const auto& [text, value] : texts) {
+    EXPECT_EQ(doubleValue(text), value) << text;
+  }
+  EXPECT_TRUE(std::signbit(doubleValue("-0.0")));
+  EXPECT_EQ(doubleValue(std::string(400, '9')), kInfinity);
+  EXPECT_EQ(doubleValue("0." + std::string(400, '0') + "1"), 0);
+  EXPECT_EQ(doubleValue("0." + std::string(400, '0') + "1e401"), 1);
+}
+
+TEST(TextConversionsTest, RealReadingAgreesWithTheLibraryOnWhateverDigitsComeAlong) {
+  std::mt19937 random(7);
+  const std::string kCharacters = "00123456789.+-eE ";
+  for (int i = 0; i < 20000; ++i) {
+    std::string text;
+    for (std::size_t length = random() % 12; text.size() < length;) {
+      text += kCharacters[random() % kCharacters.size()];
+    }
+    ASSERT_EQ(doubleValue(text), std::strtod(text.c_str(), nullptr)) << '"' << text << '"';
+  }
+}
+
+TEST(TextConversionsTest, ValuesOfFilesReadByWhatTheyAre) {
+  struct Reading {
+    PropertyList value;
+    bool flag;
+    std::int32_t integer;
+    double real;
+  };
+  constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
+  const Reading readings[] = {
+      {" 7.5", true, 7, 7.5},
+      {true, true, 1, 1},
+      {false, false, 0, 0},
+      {-3, true, -3, -3},
+      {0.5, true, 0, 0.5},
+      {-1.9, true, -1, -1.9},
+      {1e20, true, kMost, 1e20},
+      {-kInfinity, true, std::numeric_limits<std::int32_t>::min(), -kInfinity},
+      {std::int64_t{1} << 40, true, kMost, 1099511627776.0},
+      {std::numeric_limits<std::uint64_t>::max(), true, kMost, 18446744073709551616.0},
+      {PropertyList::Array{1}, false, 0, 0},
+      {PropertyList::Dictionary{{"1", "1"}}, false, 0, 0},
+      {PropertyList::Value(PropertyList::Date{5}), false, 0, 0}};
+  for (const Reading& reading : readings) {
+    EXPECT_EQ(boolValue(&reading.value), reading.flag) << reading.real;
+    EXPECT_EQ(intValue(&reading.value), reading.integer) << reading.real;
+    EXPECT_EQ(doubleValue(&reading.value), reading.real) << reading.integer;
+  }
+  const PropertyList* const kNothing = nullptr;
+  EXPECT_FALSE(boolValue(kNothing));
+  EXPECT_EQ(intValue(kNothing), 0);
+  EXPECT_EQ(doubleValue(kNothing), 0);
+  const PropertyList notANumber = std::nan("");
+  EXPECT_EQ(intValue(&notANumber), 0);
+}
+
+}  // namespace
+}  // namespace wayloom

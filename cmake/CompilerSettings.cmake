@@ -24,3 +24,7 @@ if(WAYLOOM_SANITIZE)
   add_compile_options(-fsanitize=${WAYLOOM_SANITIZE} -fno-omit-frame-pointer)
   add_link_options(-fsanitize=${WAYLOOM_SANITIZE})
 endif()
+if(WAYLOOM_FUZZ)
+  # Without coverage of the libraries themselves the fuzzer would only guess.
+  add_compile_options(-fsanitize=fuzzer-no-link)
+endif()

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <exception>
 #include <nlohmann/json.hpp>
+#include <set>
 #include <utility>
 
 #include "ReadFile.h"
@@ -16,7 +17,9 @@ namespace wayloom {
 namespace {
 
 constexpr std::size_t kVotersPerCountry = 40;
+constexpr std::size_t kMajority = 20;
 constexpr double kCoastMetres = 30000;
+constexpr double kBorderMetres = 3000;
 
 // Map makers abbreviate; addresses do not.
 constexpr std::array<std::pair<std::string_view, std::string_view>, 45> kFullNames = {{
@@ -117,11 +120,13 @@ class AreaFinder {
     return std::nullopt;
   }
 
-  // The area whose outline comes nearest, for islands too small for the map's detail.
-  std::optional<std::size_t> near(Coordinate position) const {
+  // The area whose outline comes nearest of those not taken, within a limit.
+  std::optional<std::size_t> near(Coordinate position, double limitMetres,
+                                  const std::set<std::size_t>& taken) const {
     std::optional<std::size_t> nearest;
-    double nearestMetres = kCoastMetres;
+    double nearestMetres = limitMetres;
     for (const Shape& shape : mShapes) {
+      if (taken.contains(shape.area)) continue;
       const double metres = nearestSpot(position, shape.rings.front()).metres;
       if (metres >= nearestMetres) continue;
       nearestMetres = metres;
@@ -138,6 +143,24 @@ class AreaFinder {
   };
   std::vector<Shape> mShapes;
 };
+
+// The area in which most of some cities lie.
+struct Election {
+  std::optional<std::size_t> area;
+  std::size_t votes = 0;
+};
+
+Election elect(const AreaFinder& finder, const std::vector<const City*>& voters) {
+  std::map<std::size_t, std::size_t> votes;
+  for (const City* voter : voters) {
+    if (const auto area = finder.at(voter->coordinate)) ++votes[*area];
+  }
+  Election election;
+  for (const auto& [area, count] : votes) {
+    if (count > election.votes) election = {area, count};
+  }
+  return election;
+}
 
 Result<nlohmann::json> readJson(const std::filesystem::path& path) {
   auto text = readFile(path);
@@ -208,22 +231,25 @@ void Gazetteer::nameCountries() {
   std::map<std::string, std::vector<const City*>> byCode;
   for (const City& city : mCities) byCode[city.country].push_back(&city);
   const AreaFinder finder(mCountries);
+  std::map<std::string, Election> elections;
+  std::set<std::size_t> taken;
   for (auto& [code, cities] : byCode) {
     std::sort(cities.begin(), cities.end(),
               [](const City* a, const City* b) { return a->population > b->population; });
-    std::map<std::size_t, int> votes;
-    for (std::size_t voter = 0; voter < std::min(cities.size(), kVotersPerCountry); ++voter) {
-      if (const auto area = finder.at(cities[voter]->coordinate)) ++votes[*area];
-    }
-    if (votes.empty()) {
-      if (const auto area = finder.near(cities.front()->coordinate)) ++votes[*area];
-    }
-    const auto most =
-        std::max_element(votes.begin(), votes.end(),
-                         [](const auto& a, const auto& b) { return a.second < b.second; });
-    if (most != votes.end()) {
-      mCountryNames[code] = fullCountryName(mCountries.areas[most->first].name);
-    }
+    cities.resize(std::min(cities.size(), kVotersPerCountry));
+    elections[code] = elect(finder, cities);
+    if (elections[code].votes >= kMajority) taken.insert(*elections[code].area);
+  }
+  for (auto& [code, election] : elections) {
+    // A code of few places within another's country may be one that the map shows too roughly.
+    const Coordinate largest = byCode[code].front()->coordinate;
+    const bool isShared =
+        election.area && election.votes < kMajority && taken.contains(*election.area);
+    if (isShared)
+      election.area = finder.near(largest, kBorderMetres, taken).value_or(*election.area);
+    if (!election.area) election.area = finder.near(largest, kCoastMetres, {});
+    if (!election.area) continue;
+    mCountryNames[code] = fullCountryName(mCountries.areas[*election.area].name);
   }
 }
 

@@ -8,6 +8,7 @@
 #include <set>
 #include <utility>
 
+#include "OtherNames.h"
 #include "ReadFile.h"
 #include "regions/GroundGeometry.h"
 #include "regions/RegionFile.h"
@@ -18,6 +19,8 @@ namespace {
 
 constexpr std::size_t kVotersPerCountry = 40;
 constexpr std::size_t kMajority = 20;
+// Below this a city is a namesake of the one that has other names.
+constexpr std::int64_t kLargeCity = 20000;
 constexpr double kCoastMetres = 30000;
 constexpr double kBorderMetres = 3000;
 
@@ -70,22 +73,19 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 45> kFullNam
     {"Gambia", "The Gambia"},
 }};
 
-constexpr std::array<std::pair<std::string_view, std::string_view>, 15> kOtherCountryNames = {{
-    {"AE", "UAE"},
-    {"CD", "DRC"},
-    {"CG", "Congo-Brazzaville"},
-    {"CI", "Ivory Coast"},
-    {"CV", "Cape Verde"},
-    {"CZ", "Czech Republic"},
-    {"GB", "UK"},
-    {"GB", "Great Britain"},
-    {"MM", "Burma"},
-    {"NL", "Holland"},
-    {"SZ", "Swaziland"},
-    {"TL", "East Timor"},
-    {"TR", "Türkiye"},
-    {"US", "USA"},
-    {"US", "United States of America"},
+constexpr std::array<std::pair<std::string_view, std::string_view>, 34> kOtherCountryNames = {{
+    {"AE", "UAE"},         {"CD", "DRC"},           {"CG", "Congo-Brazzaville"},
+    {"CI", "Ivory Coast"}, {"CV", "Cape Verde"},    {"CZ", "Czech Republic"},
+    {"GB", "UK"},          {"GB", "Great Britain"}, {"MM", "Burma"},
+    {"NL", "Holland"},     {"SZ", "Swaziland"},     {"TL", "East Timor"},
+    {"TR", "Türkiye"},     {"US", "USA"},           {"US", "United States of America"},
+    {"AT", "Österreich"},  {"BE", "Belgique"},      {"BR", "Brasil"},
+    {"CH", "Schweiz"},     {"CN", "中国"},          {"DE", "Deutschland"},
+    {"DK", "Danmark"},     {"ES", "España"},        {"FI", "Suomi"},
+    {"GR", "Ellada"},      {"IT", "Italia"},        {"JP", "日本"},
+    {"KR", "대한민국"},    {"NL", "Nederland"},     {"NO", "Norge"},
+    {"PL", "Polska"},      {"RU", "Россия"},        {"SE", "Sverige"},
+    {"UA", "Україна"},
 }};
 
 // Places that are no more: historical, abandoned, destroyed.
@@ -254,9 +254,14 @@ void Gazetteer::nameCountries() {
 }
 
 std::vector<std::string> Gazetteer::otherNames(const City& city) const {
+  std::vector<std::string> names;
   const auto found = mSecondList.find(spotKey(city.country, city.coordinate));
-  if (found == mSecondList.end() || found->second.name == city.name) return {};
-  return {found->second.name};
+  if (found != mSecondList.end() && found->second.name != city.name) {
+    names.push_back(found->second.name);
+  }
+  if (city.population < kLargeCity) return names;
+  for (const auto name : otherNamesOf(city.country, city.name)) names.emplace_back(name);
+  return names;
 }
 
 std::string Gazetteer::divisionName(const City& city) const {

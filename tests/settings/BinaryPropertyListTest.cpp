@@ -16,7 +16,7 @@ using Value = PropertyList::Value;
 std::string bigEndian(std::uint64_t number, std::size_t bytes) {
   std::string text;
   for (std::size_t i = bytes; i > 0; --i) {
-    text += static_cast<char>(number >> (8 * (i - 1)));
+    text += i > 8 ? '\0' : static_cast<char>(number >> (8 * (i - 1)));
   }
   return text;
 }

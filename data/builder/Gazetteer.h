@@ -7,7 +7,7 @@
 
 #include "CityList.h"
 #include "TopoJson.h"
-#include "regions/Result.h"
+#include "settings/Result.h"
 
 namespace wayloom {
 

@@ -49,7 +49,7 @@ const char* FixedLocation::refusalToLeave() const {
   return mPreferences ? wayloom::refusalToLeave(Mode::FixedLocation, *mPreferences) : nullptr;
 }
 
-Result FixedLocation::setEnable(bool on) {
+Status FixedLocation::setEnable(bool on) {
   mNotice.post(kChangeNoticeName);
   set("enable", formatFlag(on));
   set("longitude", formatReal(mCoordinate.longitude));
@@ -57,18 +57,18 @@ Result FixedLocation::setEnable(bool on) {
   return save();
 }
 
-Result FixedLocation::setAuto(bool on, float speed) {
+Status FixedLocation::setAuto(bool on, float speed) {
   mNotice.post(kChangeNoticeName);
   return autoSlide(on, speed);
 }
 
-Result FixedLocation::autoSlide(bool on, float speed) {
+Status FixedLocation::autoSlide(bool on, float speed) {
   set("a", formatFlag(on));
   set("s", formatReal(speed));
   return save();
 }
 
-Result FixedLocation::centerMoved(Coordinate center) {
+Status FixedLocation::centerMoved(Coordinate center) {
   mPreferences = mFiles.loadLocationSettings();
   mCoordinate = center;
   set("longitude", formatReal(center.longitude));
@@ -76,18 +76,18 @@ Result FixedLocation::centerMoved(Coordinate center) {
   return save();
 }
 
-Result FixedLocation::beginAddressSearch() {
+Status FixedLocation::beginAddressSearch() {
   set("enable", formatFlag(false));
   return save();
 }
 
-Result FixedLocation::endAddressSearch(bool switchOn) {
+Status FixedLocation::endAddressSearch(bool switchOn) {
   set("enable", formatFlag(switchOn));
   return save();
 }
 
-Result FixedLocation::leaveForRoute() {
-  if (const char* refusal = refusalToLeave()) return Result::failure(refusal);
+Status FixedLocation::leaveForRoute() {
+  if (const char* refusal = refusalToLeave()) return failed(refusal);
   return mFiles.writeMasterMode(Mode::Route);
 }
 
@@ -95,7 +95,7 @@ void FixedLocation::set(const char* key, std::string value) {
   if (mPreferences) mPreferences->insert_or_assign(key, std::move(value));
 }
 
-Result FixedLocation::save() {
+Status FixedLocation::save() {
   return mFiles.saveLocationSettings(mPreferences);
 }
 

@@ -55,33 +55,33 @@ class FixedLocation {
   void setCoordinate(Coordinate coordinate) { mCoordinate = coordinate; }
 
   /// The enable switch: posts the notice, then writes "enable" and the chosen position.
-  [[nodiscard]] Result setEnable(bool on);
+  [[nodiscard]] Status setEnable(bool on);
 
   /// The drift switch: posts the notice, then writes "a" and "s".
-  [[nodiscard]] Result setAuto(bool on, float speed);
+  [[nodiscard]] Status setAuto(bool on, float speed);
 
   /// The drift slider: writes "a" and "s", without a notice.
-  [[nodiscard]] Result autoSlide(bool on, float speed);
+  [[nodiscard]] Status autoSlide(bool on, float speed);
 
   /// The map stopped at `center`: re-reads the file and writes the position into it, without a
   /// notice. With no file there is nothing to write into; hasSettings() then turns false.
-  [[nodiscard]] Result centerMoved(Coordinate center);
+  [[nodiscard]] Status centerMoved(Coordinate center);
 
   /// An address search begins: "enable" reads "0" until it has found something.
-  [[nodiscard]] Result beginAddressSearch();
+  [[nodiscard]] Status beginAddressSearch();
 
   /// The search found a place while the enable switch showed `switchOn`.
-  [[nodiscard]] Result endAddressSearch(bool switchOn);
+  [[nodiscard]] Status endAddressSearch(bool switchOn);
 
   /// The mode button: makes the route mode the current one; refused while refusalToLeave().
-  [[nodiscard]] Result leaveForRoute();
+  [[nodiscard]] Status leaveForRoute();
 
   /// Whether there is a copy to write back.
   bool hasSettings() const { return mPreferences.has_value(); }
 
  private:
   void set(const char* key, std::string value);
-  [[nodiscard]] Result save();
+  [[nodiscard]] Status save();
 
   SettingsFiles& mFiles;
   ChangeNotice& mNotice;

@@ -9,7 +9,7 @@ void Favorites::load() {
   mEntries = mFiles.loadArray(SettingsFile::Favorites).value_or(PropertyList::Array());
 }
 
-Result Favorites::add(std::string_view name, Coordinate coordinate, std::string_view unnamed) {
+Status Favorites::add(std::string_view name, Coordinate coordinate, std::string_view unnamed) {
   load();
   std::string trimmed = trimmedText(name);
   if (trimmed.empty()) trimmed = unnamed;

@@ -23,7 +23,7 @@ class Favorites {
   const PropertyList::Array& entries() const { return mEntries; }
 
   /// Appends a place to what the file holds now. A name of blanks only becomes `unnamed`.
-  [[nodiscard]] Result add(std::string_view name, Coordinate coordinate, std::string_view unnamed);
+  [[nodiscard]] Status add(std::string_view name, Coordinate coordinate, std::string_view unnamed);
 
  private:
   SettingsFiles& mFiles;

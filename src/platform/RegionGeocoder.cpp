@@ -10,7 +10,7 @@ GeocodedPlace geocoded(const Place& place) {
   return {place.coordinate, addressLines(place)};
 }
 
-GeocoderAnswer failed(std::string error) {
+GeocoderAnswer noAnswer(std::string error) {
   return {std::nullopt, std::move(error)};
 }
 
@@ -27,7 +27,7 @@ void RegionGeocoder::geocodeAddress(const std::string& address, std::optional<Co
                                     Completion completion) {
   ask({[address, near](PlaceIndex& index) {
          const auto found = index.search(address, near);
-         if (found.empty()) return failed("No place of this name was found");
+         if (found.empty()) return noAnswer("No place of this name was found");
          std::vector<GeocodedPlace> places;
          for (const Place& place : found) places.push_back(geocoded(place));
          return GeocoderAnswer{std::move(places), std::nullopt};
@@ -38,7 +38,7 @@ void RegionGeocoder::geocodeAddress(const std::string& address, std::optional<Co
 void RegionGeocoder::reverseGeocode(Coordinate coordinate, Completion completion) {
   ask({[coordinate](PlaceIndex& index) {
          const auto place = index.placeAt(coordinate);
-         if (!place) return failed("There is no address here");
+         if (!place) return noAnswer("There is no address here");
          return GeocoderAnswer{{{geocoded(*place)}}, std::nullopt};
        },
        std::move(completion)});
@@ -64,7 +64,7 @@ std::optional<RegionGeocoder::Request> RegionGeocoder::nextRequest(const std::st
 void RegionGeocoder::answerRequests(const std::stop_token& stop) {
   auto index = PlaceIndex::open(mStore);
   while (auto request = nextRequest(stop)) {
-    auto answer = index ? request->question(*index) : failed(index.failure().message);
+    auto answer = index ? request->question(*index) : noAnswer(index.failure().message);
     complete(std::move(request->completion), std::move(answer));
   }
 }

@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "regions/Result.h"
+#include "settings/Result.h"
 
 struct sqlite3;
 struct sqlite3_stmt;

@@ -4,7 +4,7 @@
 
 #include "regions/Database.h"
 #include "regions/RegionFile.h"
-#include "regions/Result.h"
+#include "settings/Result.h"
 
 namespace wayloom {
 

@@ -10,14 +10,14 @@ const char* refusalToLeave(Mode mode, const PropertyList::Dictionary& settings) 
   return mode == Mode::FixedLocation ? kSpotloomIsWorking : kWayloomIsWorking;
 }
 
-Result switchToMode(SettingsFiles& files, Mode mode) {
+Status switchToMode(SettingsFiles& files, Mode mode) {
   const Mode current = files.readMasterMode();
-  if (current == mode) return Result::success();
+  if (current == mode) return done();
   const SettingsFile own =
       current == Mode::FixedLocation ? SettingsFile::Location : SettingsFile::Route;
   const auto settings = files.loadDictionary(own);
   if (const char* refusal = settings ? refusalToLeave(current, *settings) : nullptr) {
-    return Result::failure(refusal);
+    return failed(refusal);
   }
   return files.writeMasterMode(mode);
 }

@@ -17,6 +17,6 @@ const char* refusalToLeave(Mode mode, const PropertyList::Dictionary& settings);
 
 /// What a mode button does, on the files as they are now: leaves the other mode for `mode` unless
 /// that other mode's simulation is on. Already being there is a success that writes nothing.
-Result switchToMode(SettingsFiles& files, Mode mode);
+Status switchToMode(SettingsFiles& files, Mode mode);
 
 }  // namespace wayloom

@@ -80,12 +80,12 @@ std::optional<FileVersion> versionAt(const fs::path& path) {
 }
 
 /// Gives the file at `path` a further name, under which it outlives its replacement.
-Result keepUnderFurtherName(const fs::path& path, fs::path& furtherName) {
+Status keepUnderFurtherName(const fs::path& path, fs::path& furtherName) {
   for (int number = 1; number <= kLastSetAsideNumber; ++number) {
     furtherName = path;
     furtherName += ".damaged-" + std::to_string(number);
     if (::link(path.c_str(), furtherName.c_str()) == 0) {
-      return Result::success();
+      return done();
     }
     if (errno == EEXIST) {
       continue;
@@ -94,12 +94,12 @@ Result keepUnderFurtherName(const fs::path& path, fs::path& furtherName) {
     std::error_code error;
     if (!fs::exists(fs::symlink_status(furtherName, error)) &&
         fs::copy_file(path, furtherName, error)) {
-      return Result::success();
+      return done();
     }
-    return Result::failure("cannot set aside the damaged " + path.string() + ": " +
+    return failed("cannot set aside the damaged " + path.string() + ": " +
                            error.message());
   }
-  return Result::failure("cannot set aside the damaged " + path.string() + ": " +
+  return failed("cannot set aside the damaged " + path.string() + ": " +
                          std::to_string(kLastSetAsideNumber) + " are kept already, remove some");
 }
 
@@ -131,22 +131,22 @@ PropertyListFile::Contents PropertyListFile::read() const {
   return {State::Loaded, std::move(*parsed.value), {}};
 }
 
-Result PropertyListFile::write(const PropertyList& value) {
+Status PropertyListFile::write(const PropertyList& value) {
   if (!isRightRoot(value)) {
-    return Result::failure("a value of the wrong type for " + mPath.string());
+    return failed("a value of the wrong type for " + mPath.string());
   }
   const SerializedPropertyList serialized = serializePropertyList(value);
   if (!serialized.bytes) {
-    return Result::failure("cannot write " + mPath.string() + ": " + serialized.problem);
+    return failed("cannot write " + mPath.string() + ": " + serialized.problem);
   }
   fs::path setAside;
   if (mustBeSetAside()) {
-    Result kept = keepUnderFurtherName(mPath, setAside);
+    Status kept = keepUnderFurtherName(mPath, setAside);
     if (!kept) {
       return kept;
     }
   }
-  Result replaced = replaceFile(mPath, *serialized.bytes);
+  Status replaced = replaceFile(mPath, *serialized.bytes);
   mSound = replaced ? versionAt(mPath) : std::nullopt;
   if (!replaced && !setAside.empty()) {
     std::error_code error;

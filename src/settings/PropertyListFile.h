@@ -50,7 +50,7 @@ class PropertyListFile {
   ///
   /// A file that is still the one last read or written is known to be sound; any other is read once
   /// more here, to learn whether it must be set aside.
-  Result write(const PropertyList& value);
+  Status write(const PropertyList& value);
 
  private:
   bool isRightRoot(const PropertyList& value) const;

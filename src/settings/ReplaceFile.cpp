@@ -17,8 +17,8 @@ namespace fs = std::filesystem;
 
 constexpr int kNameAttempts = 16;
 
-Result systemFailure(const std::string& what, const fs::path& path, int error) {
-  return Result::failure(what + " " + path.string() + ": " +
+Status systemFailure(const std::string& what, const fs::path& path, int error) {
+  return failed(what + " " + path.string() + ": " +
                          std::generic_category().message(error));
 }
 
@@ -45,7 +45,7 @@ class Temporary {
     }
   }
 
-  Result create() {
+  Status create() {
     for (int attempt = 0; attempt < kNameAttempts; ++attempt) {
       std::string name = mTarget.filename().string();
       name.append(".").append(randomDigits()).append(".tmp");
@@ -53,7 +53,7 @@ class Temporary {
       mFile.reset(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, 0644));
       if (mFile.get() >= 0) {
         mPath = std::move(path);
-        return Result::success();
+        return done();
       }
       if (errno != EEXIST && errno != EINTR) {
         break;
@@ -62,10 +62,10 @@ class Temporary {
     return systemFailure("cannot create a file beside", mTarget, errno);
   }
 
-  Result takePermissionsOfTarget() {
+  Status takePermissionsOfTarget() {
     struct stat old = {};
     if (::stat(mTarget.c_str(), &old) != 0 || !S_ISREG(old.st_mode)) {
-      return Result::success();
+      return done();
     }
     struct stat fresh = {};
     ::fstat(mFile.get(), &fresh);
@@ -78,10 +78,10 @@ class Temporary {
     if (mode != (fresh.st_mode & 0777) && ::fchmod(mFile.get(), mode) != 0) {
       return systemFailure("cannot set the permissions of the new", mTarget, errno);
     }
-    return Result::success();
+    return done();
   }
 
-  Result write(std::string_view bytes) {
+  Status write(std::string_view bytes) {
     while (!bytes.empty()) {
       const ssize_t written = ::write(mFile.get(), bytes.data(), bytes.size());
       if (written < 0 && errno != EINTR) {
@@ -92,15 +92,15 @@ class Temporary {
     if (::fsync(mFile.get()) != 0 || mFile.close() != 0) {
       return systemFailure("cannot put on disk the new", mTarget, errno);
     }
-    return Result::success();
+    return done();
   }
 
-  Result takeNameOfTarget() {
+  Status takeNameOfTarget() {
     if (::rename(mPath.c_str(), mTarget.c_str()) != 0) {
       return systemFailure("cannot replace", mTarget, errno);
     }
     mPath.clear();
-    return Result::success();
+    return done();
   }
 
  private:
@@ -109,7 +109,7 @@ class Temporary {
   Descriptor mFile;
 };
 
-Result syncFolder(const fs::path& target) {
+Status syncFolder(const fs::path& target) {
   const fs::path folder = target.has_parent_path() ? target.parent_path() : fs::path(".");
   const Descriptor descriptor(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   // Some file systems cannot sync a folder and say EINVAL; there is nothing more to be done there.
@@ -117,23 +117,23 @@ Result syncFolder(const fs::path& target) {
     return systemFailure("replaced, but a power cut may undo it: cannot sync the folder of", target,
                          errno);
   }
-  return Result::success();
+  return done();
 }
 
-Result createFolderOf(const fs::path& target) {
+Status createFolderOf(const fs::path& target) {
   std::error_code error;
   fs::create_directories(target.parent_path(), error);
   if (error) {
     return systemFailure("cannot create the folder of", target, error.value());
   }
-  return Result::success();
+  return done();
 }
 
 }  // namespace
 
-Result replaceFile(const fs::path& path, std::string_view bytes) {
+Status replaceFile(const fs::path& path, std::string_view bytes) {
   Temporary temporary(path);
-  Result result = temporary.create();
+  Status result = temporary.create();
   if (!result && path.has_parent_path() && ::access(path.parent_path().c_str(), F_OK) != 0) {
     result = createFolderOf(path);
     if (result) {

@@ -14,6 +14,6 @@ namespace wayloom {
 ///
 /// A file that existed keeps its permissions (and its owner, where the process may set it); a new
 /// one gets 0644 less the process's umask. Missing folders are created. Any thread may call it.
-Result replaceFile(const std::filesystem::path& path, std::string_view bytes);
+Status replaceFile(const std::filesystem::path& path, std::string_view bytes);
 
 }  // namespace wayloom

@@ -2,25 +2,47 @@
 
 #include <string>
 #include <utility>
+#include <variant>
 
 namespace wayloom {
 
-/// Whether something was done: success, or a failure with one line that says what failed, fit to be
-/// shown to a person.
+/// Why something could not be done: one line for a person, without a full stop.
+struct Failure {
+  std::string message;
+};
+
+/// A value, or the failure that came in its place. Asking a failure for its value is our mistake.
+template <typename Value = std::monostate>
 class [[nodiscard]] Result {
  public:
-  static Result success() { return Result(true, {}); }
-  static Result failure(std::string message) { return Result(false, std::move(message)); }
+  Result(Value value) : mContent(std::move(value)) {}
+  Result(Failure failure) : mContent(std::move(failure)) {}
 
-  explicit operator bool() const { return mDone; }
-  /// Empty after a success.
-  const std::string& message() const { return mMessage; }
+  explicit operator bool() const { return mContent.index() == 0; }
+  Value& operator*() { return *std::get_if<0>(&mContent); }
+  const Value& operator*() const { return *std::get_if<0>(&mContent); }
+  Value* operator->() { return std::get_if<0>(&mContent); }
+  const Value* operator->() const { return std::get_if<0>(&mContent); }
+
+  const Failure& failure() const { return *std::get_if<1>(&mContent); }
+  /// The failure's message; empty after a success.
+  std::string message() const { return *this ? std::string() : failure().message; }
 
  private:
-  Result(bool done, std::string message) : mDone(done), mMessage(std::move(message)) {}
-
-  bool mDone;
-  std::string mMessage;
+  std::variant<Value, Failure> mContent;
 };
+
+/// The outcome of something that gives no value.
+using Status = Result<>;
+
+/// The status of something that went well.
+inline Status done() {
+  return std::monostate();
+}
+
+/// The outcome of something that did not.
+inline Failure failed(std::string message) {
+  return {std::move(message)};
+}
 
 }  // namespace wayloom

@@ -42,7 +42,7 @@ Mode SettingsFiles::readMasterMode() const {
   return mode != master->end() && intValue(&mode->second) != 0 ? Mode::FixedLocation : Mode::Route;
 }
 
-Result SettingsFiles::writeMasterMode(Mode mode) {
+Status SettingsFiles::writeMasterMode(Mode mode) {
   return save(SettingsFile::Master,
               PropertyList::Dictionary{{kModeKey, formatFlag(mode == Mode::FixedLocation)}});
 }
@@ -51,9 +51,9 @@ std::optional<PropertyList::Dictionary> SettingsFiles::loadLocationSettings() co
   return loadDictionary(SettingsFile::Location);
 }
 
-Result SettingsFiles::saveLocationSettings(
+Status SettingsFiles::saveLocationSettings(
     const std::optional<PropertyList::Dictionary>& settings) {
-  return settings ? save(SettingsFile::Location, *settings) : Result::success();
+  return settings ? save(SettingsFile::Location, *settings) : done();
 }
 
 std::optional<PropertyList::Dictionary> SettingsFiles::loadDictionary(SettingsFile name) const {
@@ -64,7 +64,7 @@ std::optional<PropertyList::Array> SettingsFiles::loadArray(SettingsFile name) c
   return load<PropertyList::Array>(file(name));
 }
 
-Result SettingsFiles::save(SettingsFile name, const PropertyList& value) {
+Status SettingsFiles::save(SettingsFile name, const PropertyList& value) {
   return file(name).write(value);
 }
 

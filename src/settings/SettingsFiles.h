@@ -29,18 +29,18 @@ class SettingsFiles {
   /// Route when the file is missing, damaged or holds no mode.
   Mode readMasterMode() const;
   /// The file then holds the mode and nothing else.
-  Result writeMasterMode(Mode mode);
+  Status writeMasterMode(Mode mode);
 
   std::optional<PropertyList::Dictionary> loadLocationSettings() const;
   /// Saving nothing writes nothing, successfully.
-  Result saveLocationSettings(const std::optional<PropertyList::Dictionary>& settings);
+  Status saveLocationSettings(const std::optional<PropertyList::Dictionary>& settings);
 
   /// Nothing also for the favourites, whose root is an array.
   std::optional<PropertyList::Dictionary> loadDictionary(SettingsFile name) const;
   /// Nothing also for every file but the favourites.
   std::optional<PropertyList::Array> loadArray(SettingsFile name) const;
   /// Replaces the whole file; fails when the root's type is not the file's.
-  Result save(SettingsFile name, const PropertyList& value);
+  Status save(SettingsFile name, const PropertyList& value);
 
   const std::filesystem::path& path(SettingsFile name) const { return file(name).path(); }
   const PropertyListFile& file(SettingsFile name) const;

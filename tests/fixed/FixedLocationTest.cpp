@@ -33,7 +33,7 @@ TEST_F(FixedLocationTest, EachWriterSetsItsOwnKeysAndOnlyTheSwitchesPostFirst) {
   };
   const struct {
     const char* writer;
-    std::function<Result(FixedLocation&)> write;
+    std::function<Status(FixedLocation&)> write;
     Texts after;
     bool posts;
   } cases[] = {
@@ -154,7 +154,7 @@ TEST_F(FixedLocationTest, TheModeIsLeftOnlyWhileThePositionIsOff) {
   ASSERT_TRUE(files.writeMasterMode(Mode::FixedLocation));
   store({{"enable", "1"}});
   fixed.refresh();
-  const Result refused = fixed.leaveForRoute();
+  const Status refused = fixed.leaveForRoute();
   EXPECT_FALSE(refused);
   EXPECT_EQ(refused.message(), kSpotloomIsWorking);
   EXPECT_EQ(files.readMasterMode(), Mode::FixedLocation);

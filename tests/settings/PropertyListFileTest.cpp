@@ -104,7 +104,7 @@ TEST_F(PropertyListFileTest, RefusedValueChangesNothing) {
   }
   for (const PropertyList& value :
        {PropertyList(Array{}), PropertyList("text"), PropertyList(Dictionary{{"deep", deep}})}) {
-    const Result result = mFile.write(value);
+    const Status result = mFile.write(value);
     EXPECT_FALSE(result);
     EXPECT_THAT(result.message(), testing::HasSubstr(mPath.string()));
   }
@@ -121,7 +121,7 @@ TEST_F(PropertyListFileTest, WriteFailsWhenNoNumberIsFree) {
   EXPECT_EQ(bytesOf(setAside(999)), kDamaged);
 
   putBytes(mPath, "once more");
-  const Result result = mFile.write(mValue);
+  const Status result = mFile.write(mValue);
   EXPECT_THAT(result.message(), testing::HasSubstr("remove some"));
   EXPECT_EQ(bytesOf(mPath), "once more");
 }

@@ -88,7 +88,7 @@ TEST_F(ReplaceFileTest, NewContentsAreOnDiskBeforeTheyTakeTheName) {
 TEST_F(ReplaceFileTest, CreatesMissingFoldersAndAReadableFile) {
   const fs::path path = mFolder.path() / "var/mobile/file.plist";
   const mode_t mask = ::umask(022);
-  const Result result = replaceFile(path, "bytes");
+  const Status result = replaceFile(path, "bytes");
   ::umask(mask);
   ASSERT_TRUE(result) << result.message();
   EXPECT_EQ(bytesOf(path), "bytes");
@@ -117,7 +117,7 @@ void withFullDisk(const std::function<void()>& action) {
 
 TEST_F(ReplaceFileTest, FailuresLeaveTheOldFileAndNothingBesideIt) {
   const auto expectFailure = [&](const std::string& what, int error) {
-    Result result = Result::success();
+    Status result = done();
     withFullDisk([&] { result = replaceFile(mOld, std::string(100'000, 'x')); });
     EXPECT_FALSE(result) << what;
     EXPECT_THAT(result.message(), testing::HasSubstr(mOld.string())) << what;
@@ -130,7 +130,7 @@ TEST_F(ReplaceFileTest, FailuresLeaveTheOldFileAndNothingBesideIt) {
   for (const auto& [call, error] : {std::pair("sync file", EIO), std::pair("rename", EROFS)}) {
     mCalls.failing = call;
     mCalls.error = error;
-    const Result result = replaceFile(mOld, "new");
+    const Status result = replaceFile(mOld, "new");
     EXPECT_FALSE(result) << call;
     EXPECT_THAT(result.message(), testing::HasSubstr(std::generic_category().message(error)));
     EXPECT_EQ(bytesOf(mOld), "old") << call;
@@ -141,7 +141,7 @@ TEST_F(ReplaceFileTest, FailuresLeaveTheOldFileAndNothingBesideIt) {
 TEST_F(ReplaceFileTest, FolderThatCannotBeSyncedIsReportedWithTheNewFileInPlace) {
   mCalls.failing = "sync folder";
   mCalls.error = EIO;
-  const Result result = replaceFile(mOld, "new");
+  const Status result = replaceFile(mOld, "new");
   EXPECT_THAT(result.message(), testing::HasSubstr("power cut"));
   EXPECT_EQ(bytesOf(mOld), "new");
   mCalls.error = EINVAL;
@@ -151,7 +151,7 @@ TEST_F(ReplaceFileTest, FolderThatCannotBeSyncedIsReportedWithTheNewFileInPlace)
 TEST_F(ReplaceFileTest, TargetsThatNoFileCanTake) {
   fs::create_directories(mFolder.path() / "folder/inner");
   for (const char* const name : {"folder", "file.plist/below", "file.plist/far/below"}) {
-    const Result result = replaceFile(mFolder.path() / name, "new");
+    const Status result = replaceFile(mFolder.path() / name, "new");
     EXPECT_FALSE(result) << name;
     EXPECT_THAT(result.message(), testing::HasSubstr(name));
   }

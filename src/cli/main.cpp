@@ -1,1 +1,153 @@
-int main() { return 0; }
+#include <CLI/CLI.hpp>
+#include <clocale>
+#include <iostream>
+
+#include "cli/Commands.h"
+
+namespace {
+
+using wayloom::CommandLine;
+using wayloom::ExitStatus;
+
+/// What was typed, until the whole line is known to be right.
+struct Typed {
+  CommandLine::Options options;
+  std::string place;
+  std::string text;
+  std::string mode;
+  std::string near;
+  std::string drift;
+  double speed = 0;
+  int limit = 10;
+  std::function<ExitStatus(CommandLine&)> command;
+};
+
+std::optional<std::string> given(const std::string& text) {
+  return text.empty() ? std::nullopt : std::optional(text);
+}
+
+void addModeCommands(CLI::App& app, Typed& typed) {
+  app.add_subcommand("status", "Show mode, fixed location, drift and route")->callback([&typed] {
+    typed.command = wayloom::showStatus;
+  });
+  auto* mode = app.add_subcommand("mode", "Show the mode, or switch it as the mode button does");
+  mode->add_option("MODE", typed.mode)->check(CLI::IsMember({"fixed", "route"}));
+  mode->callback([&typed] {
+    typed.command = [&typed](CommandLine& line) {
+      if (typed.mode.empty()) return wayloom::showMode(line);
+      return wayloom::switchMode(
+          line, typed.mode == "fixed" ? wayloom::Mode::FixedLocation : wayloom::Mode::Route);
+    };
+  });
+}
+
+void addFixedCommands(CLI::App& app, Typed& typed) {
+  auto* fixed = app.add_subcommand("fixed", "The fixed location")->require_subcommand(1);
+
+  auto* on = fixed->add_subcommand("on", "Turn it on, at PLACE or where it was");
+  on->add_option("PLACE", typed.place, "LAT,LON, #:LAT,LON or an address");
+  on->callback([&typed] {
+    typed.command = [&typed](CommandLine& line) {
+      return wayloom::turnFixedOn(line, given(typed.place));
+    };
+  });
+
+  fixed->add_subcommand("off", "Turn it off; the position is kept")->callback([&typed] {
+    typed.command = wayloom::turnFixedOff;
+  });
+
+  auto* move = fixed->add_subcommand("move", "Move the position to PLACE, on or off");
+  move->add_option("PLACE", typed.place, "LAT,LON, #:LAT,LON or an address")->required();
+  move->callback([&typed] {
+    typed.command = [&typed](CommandLine& line) { return wayloom::moveFixed(line, typed.place); };
+  });
+
+  auto* drift = fixed->add_subcommand("drift", "Let the position drift by itself, or not");
+  drift->add_option("on|off", typed.drift)->required()->check(CLI::IsMember({"on", "off"}));
+  auto* speed = drift->add_option("--speed", typed.speed, "0 (slow) to 1 (fast)");
+  drift->callback([&typed, speed] {
+    typed.command = [&typed, isGiven = speed->count() > 0](CommandLine& line) {
+      return wayloom::setDrift(line, typed.drift == "on",
+                               isGiven ? std::optional(typed.speed) : std::nullopt);
+    };
+  });
+
+  auto* slider = fixed->add_subcommand("speed", "Set the drift speed while drift is on");
+  slider->add_option("SPEED", typed.speed, "0 (slow) to 1 (fast)")->required();
+  slider->callback([&typed] {
+    typed.command = [&typed](CommandLine& line) {
+      return wayloom::setDriftSpeed(line, typed.speed);
+    };
+  });
+}
+
+void addPlaceCommands(CLI::App& app, Typed& typed) {
+  auto* search = app.add_subcommand("search", "Find places by name or address");
+  search->add_option("TEXT", typed.text)->required();
+  search->add_option("--near", typed.near, "LAT,LON that nearer places are preferred to");
+  search->add_option("--limit", typed.limit, "How many places at the most")
+      ->check(CLI::Range(1, 100))
+      ->capture_default_str();
+  search->callback([&typed] {
+    typed.command = [&typed](CommandLine& line) {
+      return wayloom::searchPlaces(line, typed.text, given(typed.near), typed.limit);
+    };
+  });
+
+  auto* address = app.add_subcommand("address", "Show the address of PLACE");
+  address->add_option("PLACE", typed.place, "LAT,LON, #:LAT,LON or an address")->required();
+  address->callback([&typed] {
+    typed.command = [&typed](CommandLine& line) { return wayloom::showAddress(line, typed.place); };
+  });
+}
+
+/// A southern latitude must not be taken for an option: "-33.9,151.2" becomes "#:-33.9,151.2".
+std::vector<std::string> arguments(int argc, char* argv[]) {
+  std::vector<std::string> result(argv + 1, argv + argc);
+  for (std::string& argument : result) {
+    const bool isPosition = argument.size() > 1 && argument[0] == '-' &&
+                            (std::isdigit(static_cast<unsigned char>(argument[1])) != 0) &&
+                            argument.find(',') != std::string::npos;
+    if (isPosition) argument.insert(0, "#:");
+  }
+  std::reverse(result.begin(), result.end());
+  return result;
+}
+
+int run(int argc, char* argv[]) {
+  Typed typed;
+  CLI::App app("Decides where the phone says it is.", "wayloomctl");
+  app.set_version_flag("--version", std::string("wayloomctl ") + WAYLOOM_VERSION);
+  app.add_option("--root", typed.options.root, "Folder below which the settings files stand");
+  app.add_option("--regions", typed.options.regions, "Folder with the region files");
+  app.add_flag("--json", typed.options.json, "Answer with one JSON document");
+  app.require_subcommand(0, 1);
+  app.fallthrough();
+  addModeCommands(app, typed);
+  addFixedCommands(app, typed);
+  addPlaceCommands(app, typed);
+  try {
+    app.parse(arguments(argc, argv));
+  } catch (const CLI::Success& success) {
+    return app.exit(success);
+  } catch (const CLI::ParseError& error) {
+    std::cerr << "wayloomctl: " << error.what() << "; see 'wayloomctl --help'\n";
+    return static_cast<int>(ExitStatus::WrongUsage);
+  }
+  CommandLine line(typed.options);
+  if (!typed.command) {
+    return static_cast<int>(line.wrongUsage("no command given; see 'wayloomctl --help'"));
+  }
+  return static_cast<int>(typed.command(line));
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+  try {
+    return run(argc, argv);
+  } catch (const std::exception& error) {
+    std::cerr << "wayloomctl: " << error.what() << '\n';
+    return static_cast<int>(ExitStatus::Failed);
+  }
+}

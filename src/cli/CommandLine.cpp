@@ -1,0 +1,71 @@
+#include "cli/CommandLine.h"
+
+#include <algorithm>
+#include <iostream>
+
+#include "platform/RegionGeocoder.h"
+#include "platform/SystemNotices.h"
+#include "regions/RegionDirectories.h"
+#include "regions/RegionStore.h"
+#include "settings/SettingsRoot.h"
+
+namespace wayloom {
+
+namespace {
+
+/// The message as one line, whatever it quotes.
+std::string oneLine(std::string text) {
+  std::replace_if(
+      text.begin(), text.end(), [](unsigned char c) { return c < 0x20 || c == 0x7F; }, ' ');
+  return text;
+}
+
+}  // namespace
+
+CommandLine::CommandLine(const Options& options)
+    : mOptions(options), mFiles(settingsRoot(options.root)) {}
+
+CommandLine::~CommandLine() = default;
+
+ChangeNotice& CommandLine::notice() {
+  if (!mNotice) mNotice = std::make_unique<SystemNotices>(noticeCommand());
+  return *mNotice;
+}
+
+Geocoder& CommandLine::geocoder() {
+  if (!mGeocoder) {
+    const RegionStore store(regionDirectories(mOptions.regions));
+    for (const RefusedRegion& refused : store.refused()) {
+      warn("region " + refused.path.string() + " is left out: " + refused.reason);
+    }
+    mGeocoder = std::make_unique<RegionGeocoder>(store, mLoop);
+  }
+  return *mGeocoder;
+}
+
+ExitStatus CommandLine::answer(const Answer& answer) const {
+  if (mOptions.json) {
+    // Texts come from files; what is no UTF-8 in them must not stop the answer.
+    std::cout << answer.json.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << '\n';
+  } else {
+    std::cout << answer.text << '\n';
+  }
+  std::cout.flush();
+  return std::cout ? ExitStatus::Done : fail("cannot write the answer");
+}
+
+ExitStatus CommandLine::fail(const std::string& why) const {
+  warn(why);
+  return ExitStatus::Failed;
+}
+
+ExitStatus CommandLine::wrongUsage(const std::string& why) const {
+  warn(why);
+  return ExitStatus::WrongUsage;
+}
+
+void CommandLine::warn(const std::string& what) const {
+  std::cerr << "wayloomctl: " << oneLine(what) << '\n';
+}
+
+}  // namespace wayloom

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/ChangeNotice.h"
+#include "platform/Geocoder.h"
+#include "platform/RunLoop.h"
+#include "settings/Result.h"
+#include "settings/SettingsFiles.h"
+
+namespace wayloom {
+
+/// How a command ends, as the shell sees it.
+enum class ExitStatus { Done = 0, Failed = 1, WrongUsage = 2 };
+
+/// One answer of a command, in both forms; only the form asked for is printed.
+struct Answer {
+  std::string text;
+  nlohmann::json json;
+};
+
+/// What the commands share: the files, the notice, the regions and the way to answer. Services are
+/// made when first needed, so that a command pays only for what it uses. Main thread only.
+class CommandLine {
+ public:
+  struct Options {
+    std::optional<std::filesystem::path> root;
+    std::optional<std::filesystem::path> regions;
+    bool json = false;
+  };
+
+  explicit CommandLine(const Options& options);
+  ~CommandLine();
+
+  SettingsFiles& files() { return mFiles; }
+  ChangeNotice& notice();
+  Geocoder& geocoder();
+  RunLoop& loop() { return mLoop; }
+
+  /// Prints the answer on standard output.
+  ExitStatus answer(const Answer& answer) const;
+  /// Prints one line on standard error that says why, and what to do.
+  ExitStatus fail(const std::string& why) const;
+  ExitStatus wrongUsage(const std::string& why) const;
+  /// A warning on standard error; the command goes on.
+  void warn(const std::string& what) const;
+
+ private:
+  Options mOptions;
+  SettingsFiles mFiles;
+  RunLoop mLoop;
+  std::unique_ptr<ChangeNotice> mNotice;
+  std::unique_ptr<Geocoder> mGeocoder;
+};
+
+}  // namespace wayloom

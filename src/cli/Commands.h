@@ -1,0 +1,28 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "cli/CommandLine.h"
+
+namespace wayloom {
+
+// One function per command of wayloomctl; each does what the control of the same name on a screen
+// does, and answers.
+
+ExitStatus showStatus(CommandLine& line);
+
+ExitStatus showMode(CommandLine& line);
+ExitStatus switchMode(CommandLine& line, Mode mode);
+
+ExitStatus turnFixedOn(CommandLine& line, const std::optional<std::string>& place);
+ExitStatus turnFixedOff(CommandLine& line);
+ExitStatus moveFixed(CommandLine& line, const std::string& place);
+ExitStatus setDrift(CommandLine& line, bool on, std::optional<double> speed);
+ExitStatus setDriftSpeed(CommandLine& line, double speed);
+
+ExitStatus searchPlaces(CommandLine& line, const std::string& text,
+                        const std::optional<std::string>& near, int limit);
+ExitStatus showAddress(CommandLine& line, const std::string& place);
+
+}  // namespace wayloom

@@ -16,8 +16,9 @@ class PolylinePath {
   explicit PolylinePath(const std::vector<Coordinate>& coordinates);
 
   /// The parts of the line that touch the view, in view points, each at least two points long.
-  /// Points closer together than can be seen are left out, and the nearer the more there are: the
-  /// work of painting is bounded however long the line.
+  /// Points that could not be told from the line without them are left out, more generously the
+  /// more there are, and a line that is nothing but noise is cut short: the work of painting is
+  /// bounded however long the line.
   std::vector<QPolygonF> inView(const MapCamera& camera, double marginPoints) const;
 
  private:

@@ -1,0 +1,193 @@
+// Pans and zooms a map across Gothenburg in the event loop and prints the longest time the main
+// thread was busy with one event, and the memory the process took at most.
+//
+//   bench_panning [SECONDS] [--line] [--picture FILE.png]
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <ctime>
+#include <random>
+#include <sys/resource.h>
+
+#include <QtCore/QCommandLineParser>
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QThread>
+#include <QtCore/QTimer>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QPainter>
+#include <QtQuick/QQuickWindow>
+
+#include "map/MapView.h"
+
+namespace wayloom {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr Coordinate kGothenburg{57.705, 11.965};
+
+/// Paints streets that are not there, at about the cost of real ones.
+class PaintedTileSource : public TileSource {
+ public:
+  QImage draw(const TileKey& key, double scale) override {
+    const int pixels = static_cast<int>(512 * scale);
+    QImage image(pixels, pixels, QImage::Format_RGB32);
+    image.fill(QColor(0xf2, 0xef, 0xe9));
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(scale, scale);
+    std::mt19937 random(static_cast<unsigned>(key.zoom * 7919 + key.x * 104729 + key.y));
+    std::uniform_real_distribution<double> anywhere(0, 512);
+    for (int i = 0; i < 2500; ++i) {
+      const QPointF from(anywhere(random), anywhere(random));
+      const QPointF to = from + QPointF(anywhere(random) - 256, anywhere(random) - 256) / 4;
+      painter.setPen(
+          QPen(i % 2 ? Qt::white : QColor(0xd0, 0xc8, 0xb8), 4, Qt::SolidLine, Qt::RoundCap));
+      painter.drawLine(from, to);
+    }
+    painter.setPen(Qt::darkGray);
+    painter.drawRect(QRectF(0.5, 0.5, 511, 511));
+    painter.drawText(16, 32, QStringLiteral("%1 / %2 / %3").arg(key.zoom).arg(key.x).arg(key.y));
+    return image;
+  }
+  int concurrency() const override { return 2; }
+  int maximumZoom() const override { return 19; }
+  QStringList attributions(double, double, double, double) const override { return {}; }
+};
+
+/// Notes how long the main thread was busy with each event, in milliseconds of the clock and of
+/// work: nothing else can be answered meanwhile.
+class TimedApplication : public QGuiApplication {
+ public:
+  using QGuiApplication::QGuiApplication;
+
+  bool notify(QObject* receiver, QEvent* event) override {
+    // Render threads deliver events of their own.
+    if (QThread::currentThread() != thread() || mIsBusy) {
+      return QGuiApplication::notify(receiver, event);
+    }
+    mIsBusy = true;
+    QElapsedTimer clock;
+    clock.start();
+    const double workStartMs = workMs();
+    const bool result = QGuiApplication::notify(receiver, event);
+    mWorkMs.push_back(workMs() - workStartMs);
+    mClockMs.push_back(static_cast<double>(clock.nsecsElapsed()) / 1e6);
+    mIsBusy = false;
+    return result;
+  }
+
+  void forget() {
+    mClockMs.clear();
+    mWorkMs.clear();
+  }
+  void print() {
+    print("of the clock", mClockMs);
+    print("of work", mWorkMs);
+  }
+
+ private:
+  static double workMs() {
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
+  }
+  static void print(const char* what, std::vector<double>& times) {
+    if (times.empty()) return;
+    std::sort(times.begin(), times.end());
+    const auto over = times.end() - std::upper_bound(times.begin(), times.end(), 16.0);
+    std::printf(
+        "main thread busy, ms %-12s  longest %.1f  99.9%% %.1f  99%% %.1f  median %.2f  "
+        "over 16 ms: %td of %zu\n",
+        what, times.back(), times[times.size() * 999 / 1000], times[times.size() * 99 / 100],
+        times[times.size() / 2], over, times.size());
+  }
+
+  bool mIsBusy = false;
+  std::vector<double> mClockMs, mWorkMs;
+};
+
+std::shared_ptr<const MapPolyline> longLine() {
+  auto points = std::make_shared<std::vector<Coordinate>>();
+  for (int i = 0; i < 100'000; ++i) {
+    const double turn = i * 0.002;
+    points->push_back({kGothenburg.latitude + 1e-6 * i * std::sin(turn) / 3,
+                       kGothenburg.longitude + 2e-6 * i * std::cos(turn) / 3});
+  }
+  auto line = std::make_shared<MapPolyline>();
+  line->coordinates = std::move(points);
+  return line;
+}
+
+/// Goes from place to place for ever, now and then to another zoom.
+class Tour {
+ public:
+  explicit Tour(MapView& map) : mMap(map) {
+    QObject::connect(&map, &MapView::regionDidChange, &map, [this] {
+      QMetaObject::invokeMethod(
+          &mMap, [this] { go(); }, Qt::QueuedConnection);
+    });
+    mMap.setRegion(regionWithDistance(kGothenburg, 2000, 2000), Animated::No);
+  }
+
+ private:
+  void go() {
+    std::uniform_real_distribution<double> offset(-0.02, 0.02);
+    const Coordinate next{kGothenburg.latitude + offset(mRandom),
+                          kGothenburg.longitude + 2 * offset(mRandom)};
+    const double metres = 800 << (mRandom() % 4);
+    if (++mLegs % 4 == 0) {
+      mMap.setRegion(regionWithDistance(next, metres, metres), Animated::Yes);
+    } else {
+      mMap.animateCenter(next, 1200ms, nullptr);
+    }
+  }
+
+  MapView& mMap;
+  std::mt19937 mRandom{1};
+  int mLegs = 0;
+};
+
+int run(TimedApplication& application, int seconds, bool withLine, const QString& picture) {
+  QQuickWindow window;
+  window.resize(375, 667);
+  MapView map(window.contentItem());
+  map.setSize({375, 667});
+  map.setTileSource(std::make_shared<PaintedTileSource>());
+  if (withLine) map.addOverlay(longLine());
+  map.addAnnotation(
+      std::make_shared<MapPointAnnotation>(MapPointAnnotation{kGothenburg, 1, {}, {}}));
+  map.setShowsUserLocation(true);
+  map.setUserLocation(Coordinate{57.708, 11.97});
+  window.show();
+  application.forget();  // Opening a window is no panning.
+  Tour tour(map);
+  QTimer::singleShot(std::chrono::seconds(seconds), &window, [&] {
+    application.print();
+    const bool isSaved = picture.isEmpty() || window.grabWindow().save(picture);
+    QCoreApplication::exit(isSaved ? 0 : 1);
+  });
+  const int status = TimedApplication::exec();
+  rusage usage{};
+  getrusage(RUSAGE_SELF, &usage);
+  std::printf("most memory: %.1f MB\n", static_cast<double>(usage.ru_maxrss) / 1024);
+  return status;
+}
+
+}  // namespace
+}  // namespace wayloom
+
+int main(int argc, char* argv[]) {
+  wayloom::TimedApplication application(argc, argv);
+  QCommandLineParser parser;
+  parser.addHelpOption();
+  parser.addPositionalArgument("SECONDS", "How long to pan; 60 if not given.");
+  parser.addOption({"line", "Show a line of 100,000 points."});
+  parser.addOption({"picture", "Save the last frame.", "FILE"});
+  parser.process(application);
+  const QStringList arguments = parser.positionalArguments();
+  const int seconds = arguments.isEmpty() ? 60 : arguments.first().toInt();
+  return wayloom::run(application, std::max(1, seconds), parser.isSet("line"),
+                      parser.value("picture"));
+}

@@ -5,6 +5,7 @@ find_package(EXPAT REQUIRED)
 find_package(CURL REQUIRED)
 find_package(Threads REQUIRED)
 find_package(nlohmann_json REQUIRED)
+find_path(RAPIDJSON_INCLUDE_DIR rapidjson/document.h REQUIRED)
 find_package(CLI11 REQUIRED)
 
 if(WAYLOOM_SCREENS)

@@ -1,13 +1,15 @@
 #include "places/GeocodingAnswer.h"
 
-#include <nlohmann/json.hpp>
-#include <string>
+#include <rapidjson/document.h>
 
 namespace wayloom {
 
 namespace {
 
-using nlohmann::json;
+/// Without recursion; strict about UTF-8; every number to its last bit.
+constexpr unsigned kParseFlags = rapidjson::kParseIterativeFlag |
+                                 rapidjson::kParseValidateEncodingFlag |
+                                 rapidjson::kParseFullPrecisionFlag;
 
 /// Counted on the bytes: a parsed answer of millions of brackets would take hundreds of megabytes
 /// before anyone could look at its depth.
@@ -33,7 +35,7 @@ GeocodingAnswer unreadable(const char* text) {
   return {std::nullopt, ServiceError{kJsonErrorDomain, 1, text, {}}};
 }
 
-std::optional<ServiceError> refusal(const std::string& status) {
+std::optional<ServiceError> refusal(std::string_view status) {
   static constexpr struct {
     SVGeocoderErrorCode code;
     const char* status;
@@ -60,18 +62,21 @@ std::optional<ServiceError> refusal(const std::string& status) {
 GeocodingAnswer readGeocodingAnswer(std::string_view body) {
   if (body.size() > GeocodingAnswer::kBodyLimitBytes) return unreadable("The answer is too large.");
   if (nestsTooDeep(body)) return unreadable("The answer is nested too deeply.");
-  const json document = json::parse(body, nullptr, /*allow_exceptions=*/false);
-  if (document.is_discarded()) return unreadable("The answer is not valid JSON.");
+  rapidjson::Document document;
+  document.Parse<kParseFlags>(body.data(), body.size());
+  if (document.HasParseError()) return unreadable("The answer is not valid JSON.");
   GeocodingAnswer answer;
-  if (!document.is_object()) return answer;
-  const auto results = document.find("results");
-  if (results != document.end() && results->is_array()) {
-    answer.placemarks.emplace(results->begin(), results->end());
-    if (!results->empty()) return answer;
+  const rapidjson::Value& root = document;
+  if (!root.IsObject()) return answer;
+  const auto results = root.FindMember("results");
+  if (results != root.MemberEnd() && results->value.IsArray()) {
+    const auto elements = results->value.GetArray();
+    answer.placemarks.emplace(elements.Begin(), elements.End());
+    if (!elements.Empty()) return answer;
   }
-  const auto status = document.find("status");
-  if (status != document.end() && status->is_string()) {
-    answer.error = refusal(status->get_ref<const std::string&>());
+  const auto status = root.FindMember("status");
+  if (status != root.MemberEnd() && status->value.IsString()) {
+    answer.error = refusal({status->value.GetString(), status->value.GetStringLength()});
   }
   return answer;
 }

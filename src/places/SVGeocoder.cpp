@@ -121,7 +121,7 @@ void SVGeocoder::start() {
   if (mEnvironment.serviceAddress.empty()) {
     connectionDidFailWithError({kUrlErrorDomain,
                                 kUrlErrorCannotFindHost,
-                                "No online geocoding service is turned on in services.json.",
+                                "No online geocoding service is turned on in services.json",
                                 {}});
     return;
   }

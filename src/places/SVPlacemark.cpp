@@ -1,8 +1,9 @@
 #include "places/SVPlacemark.h"
 
+#include <algorithm>
 #include <cmath>
 #include <initializer_list>
-#include <nlohmann/json.hpp>
+#include <rapidjson/document.h>
 #include <string_view>
 
 #include "settings/TextConversions.h"
@@ -11,54 +12,56 @@ namespace wayloom {
 
 namespace {
 
-using nlohmann::json;
+using Value = rapidjson::Value;
 
 constexpr std::string_view kMissing = "(null)";
 
 /// The value for a key; null when there is none or `dictionary` is something else.
-const json& value(const json& dictionary, const char* key) {
-  static const json null;
-  if (!dictionary.is_object()) return null;
-  const auto found = dictionary.find(key);
-  return found == dictionary.end() ? null : *found;
+const Value& value(const Value& dictionary, const char* key) {
+  static const Value null;
+  if (!dictionary.IsObject()) return null;
+  const auto found = dictionary.FindMember(key);
+  return found == dictionary.MemberEnd() ? null : found->value;
 }
 
-std::optional<std::string> text(const json& dictionary, const char* key) {
-  const json& found = value(dictionary, key);
-  if (!found.is_string()) return std::nullopt;
-  return found.get_ref<const std::string&>();
+std::string_view view(const Value& text) {
+  return {text.GetString(), text.GetStringLength()};
 }
 
-double number(const json& dictionary, const char* key) {
-  const json& found = value(dictionary, key);
-  if (found.is_number()) return found.get<double>();
-  if (found.is_string()) return doubleValue(found.get_ref<const std::string&>());
-  return 0;
+std::optional<std::string> text(const Value& dictionary, const char* key) {
+  const Value& found = value(dictionary, key);
+  if (!found.IsString()) return std::nullopt;
+  return std::string(view(found));
 }
 
-Coordinate coordinateIn(const json& dictionary) {
+double number(const Value& dictionary, const char* key) {
+  const Value& found = value(dictionary, key);
+  if (found.IsNumber()) return found.GetDouble();
+  return found.IsString() ? doubleValue(view(found)) : 0;
+}
+
+Coordinate coordinateIn(const Value& dictionary) {
   return {number(dictionary, "lat"), number(dictionary, "lng")};
 }
 
 }  // namespace
 
-SVPlacemark::SVPlacemark(const json& dictionary)
+SVPlacemark::SVPlacemark(const Value& dictionary)
     : formattedAddress(text(dictionary, "formatted_address")) {
-  const json& components = value(dictionary, "address_components");
-  if (components.is_array()) {
-    for (const json& component : components) readComponent(component);
+  const Value& components = value(dictionary, "address_components");
+  if (components.IsArray()) {
+    for (const Value& component : components.GetArray()) readComponent(component);
   }
   readGeometry(value(dictionary, "geometry"));
 }
 
-void SVPlacemark::readComponent(const json& component) {
-  const json& types = value(component, "types");
-  if (!types.is_array()) return;
-  const auto isAny = [&types](std::initializer_list<const char*> names) {
-    for (const json& type : types) {
-      for (const char* name : names) {
-        if (type == name) return true;
-      }
+void SVPlacemark::readComponent(const Value& component) {
+  const Value& types = value(component, "types");
+  if (!types.IsArray()) return;
+  const auto isAny = [&types](std::initializer_list<std::string_view> names) {
+    for (const Value& type : types.GetArray()) {
+      if (!type.IsString()) continue;
+      if (std::find(names.begin(), names.end(), view(type)) != names.end()) return true;
     }
     return false;
   };
@@ -79,10 +82,10 @@ void SVPlacemark::readComponent(const json& component) {
   if (isAny({"postal_code"})) postalCode = longName;
 }
 
-void SVPlacemark::readGeometry(const json& geometry) {
-  const json& position = value(geometry, "location");
-  if (position.is_object()) location = coordinate = coordinateIn(position);
-  const json& bounds = value(geometry, "bounds");
+void SVPlacemark::readGeometry(const Value& geometry) {
+  const Value& position = value(geometry, "location");
+  if (position.IsObject()) location = coordinate = coordinateIn(position);
+  const Value& bounds = value(geometry, "bounds");
   const Coordinate northeast = coordinateIn(value(bounds, "northeast"));
   const Coordinate southwest = coordinateIn(value(bounds, "southwest"));
   region = {coordinate,

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <nlohmann/json_fwd.hpp>
 #include <optional>
+#include <rapidjson/fwd.h>
 #include <string>
 
 #include "places/Coordinate.h"
@@ -14,7 +14,7 @@ struct SVPlacemark {
   SVPlacemark() = default;
   /// Reads one element of the service's "results"; what is missing or of another type counts as
   /// missing.
-  explicit SVPlacemark(const nlohmann::json& dictionary);
+  explicit SVPlacemark(const rapidjson::Value& dictionary);
 
   std::optional<std::string> formattedAddress;
   std::optional<std::string> subThoroughfare;
@@ -42,8 +42,8 @@ struct SVPlacemark {
   bool operator==(const SVPlacemark&) const = default;
 
  private:
-  void readComponent(const nlohmann::json& component);
-  void readGeometry(const nlohmann::json& geometry);
+  void readComponent(const rapidjson::Value& component);
+  void readGeometry(const rapidjson::Value& geometry);
 };
 
 }  // namespace wayloom

@@ -1,27 +1,34 @@
-#include <limits>
-#include <nlohmann/json.hpp>
+#include <initializer_list>
+#include <rapidjson/document.h>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "places/SVPlacemark.h"
 
 namespace wayloom {
 namespace {
 
-using nlohmann::json;
-
-SVPlacemark parsed(const char* text) {
-  return SVPlacemark(json::parse(text));
+SVPlacemark parsed(const std::string& text) {
+  rapidjson::Document document;
+  document.Parse(text.data(), text.size());
+  EXPECT_FALSE(document.HasParseError()) << text;
+  return SVPlacemark(document);
 }
 
 /// A result with one component for each entry: types, then long name; the short name is "s-" and
 /// the long one.
 SVPlacemark withComponents(
     std::initializer_list<std::pair<std::vector<const char*>, const char*>> components) {
-  json result;
+  std::string result;
   for (const auto& [types, name] : components) {
-    result["address_components"].push_back(
-        {{"types", types}, {"long_name", name}, {"short_name", std::string("s-") + name}});
+    std::string list;
+    for (const char* type : types) list.append(list.empty() ? "\"" : ", \"").append(type) += '"';
+    result.append(result.empty() ? "{" : ", {");
+    result.append("\"types\": [").append(list).append("], \"long_name\": \"").append(name);
+    result.append("\", \"short_name\": \"s-").append(name).append("\"}");
   }
-  return SVPlacemark(result);
+  return parsed("{\"address_components\": [" + result + "]}");
 }
 
 TEST(SVPlacemark, FillsEveryFieldFromItsComponent) {

@@ -36,10 +36,12 @@ class WebGeocoderTest : public testing::Test {
     auto shortened = environment(server);
     shortened.timeout = timeout;
     WebGeocoder geocoder(shortened);
-    std::optional<GeocoderAnswer> answer;
-    geocoder.geocodeAddress("x", std::nullopt, [&](const auto& given) { answer = given; });
-    EXPECT_TRUE(loop.runUntil([&] { return answer.has_value(); }, kLimit));
-    return answer.value_or(GeocoderAnswer());
+    std::vector<GeocoderAnswer> answers;
+    geocoder.geocodeAddress("x", std::nullopt,
+                            [&](const auto& given) { answers.push_back(given); });
+    EXPECT_TRUE(loop.runUntil([&] { return !answers.empty(); }, kLimit));
+    answers.resize(1);
+    return answers.front();
   }
 
   RunLoop loop;

@@ -3,7 +3,11 @@
 #include <algorithm>
 #include <iostream>
 
+#include "places/WebGeocoder.h"
+#include "platform/CurlWebRequests.h"
+#include "platform/PreferredLanguage.h"
 #include "platform/RegionGeocoder.h"
+#include "platform/Services.h"
 #include "platform/SystemNotices.h"
 #include "regions/RegionDirectories.h"
 #include "regions/RegionStore.h"
@@ -33,14 +37,24 @@ ChangeNotice& CommandLine::notice() {
 }
 
 Geocoder& CommandLine::geocoder() {
-  if (!mGeocoder) {
-    const RegionStore store(regionDirectories(mOptions.regions));
-    for (const RefusedRegion& refused : store.refused()) {
-      warn("region " + refused.path.string() + " is left out: " + refused.reason);
-    }
-    mGeocoder = std::make_unique<RegionGeocoder>(store, mLoop);
-  }
+  if (!mGeocoder) mGeocoder = mOptions.online ? makeOnlineGeocoder() : makeRegionGeocoder();
   return *mGeocoder;
+}
+
+std::unique_ptr<Geocoder> CommandLine::makeOnlineGeocoder() {
+  const Services services = Services::read(Services::defaultFile());
+  if (!services.error().empty()) warn(services.error());
+  mRequests = std::make_unique<CurlWebRequests>(mLoop);
+  return std::make_unique<WebGeocoder>(
+      SVGeocoderEnvironment{*mRequests, mLoop, services.address("geocoding"), preferredLanguage});
+}
+
+std::unique_ptr<Geocoder> CommandLine::makeRegionGeocoder() {
+  const RegionStore store(regionDirectories(mOptions.regions));
+  for (const RefusedRegion& refused : store.refused()) {
+    warn("region " + refused.path.string() + " is left out: " + refused.reason);
+  }
+  return std::make_unique<RegionGeocoder>(store, mLoop);
 }
 
 ExitStatus CommandLine::answer(const Answer& answer) const {

@@ -10,6 +10,7 @@
 #include "platform/ChangeNotice.h"
 #include "platform/Geocoder.h"
 #include "platform/RunLoop.h"
+#include "platform/WebRequests.h"
 #include "settings/Result.h"
 #include "settings/SettingsFiles.h"
 
@@ -31,6 +32,8 @@ class CommandLine {
   struct Options {
     std::optional<std::filesystem::path> root;
     std::optional<std::filesystem::path> regions;
+    /// Ask the online service of services.json instead of the regions for places and addresses.
+    bool online = false;
     bool json = false;
   };
 
@@ -51,10 +54,14 @@ class CommandLine {
   void warn(const std::string& what) const;
 
  private:
+  std::unique_ptr<Geocoder> makeOnlineGeocoder();
+  std::unique_ptr<Geocoder> makeRegionGeocoder();
+
   Options mOptions;
   SettingsFiles mFiles;
   RunLoop mLoop;
   std::unique_ptr<ChangeNotice> mNotice;
+  std::unique_ptr<WebRequests> mRequests;
   std::unique_ptr<Geocoder> mGeocoder;
 };
 

@@ -120,6 +120,10 @@ int run(int argc, char* argv[]) {
   app.set_version_flag("--version", std::string("wayloomctl ") + WAYLOOM_VERSION);
   app.add_option("--root", typed.options.root, "Folder below which the settings files stand");
   app.add_option("--regions", typed.options.regions, "Folder with the region files");
+  app.add_option_function<std::string>(
+         "--service", [&typed](const std::string& name) { typed.options.online = name == "web"; },
+         "Who knows places and addresses: the regions (default), or the web as in services.json")
+      ->check(CLI::IsMember({"regions", "web"}));
   app.add_flag("--json", typed.options.json, "Answer with one JSON document");
   app.require_subcommand(0, 1);
   app.fallthrough();

@@ -116,6 +116,17 @@ std::span<const std::byte> Statement::bytes(int column) const {
   return {data, static_cast<std::size_t>(sqlite3_column_bytes(mStatement.get(), column))};
 }
 
+SqlValue Statement::value(int column) const {
+  switch (sqlite3_column_type(mStatement.get(), column)) {
+    case SQLITE_INTEGER:
+      return integer(column);
+    case SQLITE_FLOAT:
+      return real(column);
+    default:
+      return std::string(text(column));
+  }
+}
+
 void Database::Closer::operator()(sqlite3* handle) const {
   sqlite3_close_v2(handle);
 }

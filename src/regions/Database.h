@@ -7,6 +7,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <variant>
 
 #include "settings/Result.h"
 
@@ -14,6 +15,9 @@ struct sqlite3;
 struct sqlite3_stmt;
 
 namespace wayloom {
+
+/// What a column may hold where its type is not known beforehand.
+using SqlValue = std::variant<std::int64_t, double, std::string>;
 
 /// One prepared statement. It must not outlive its Database. Parameters count from 1, columns
 /// from 0. A fault while binding is kept and reported by the next step().
@@ -38,6 +42,8 @@ class Statement {
   /// Text and bytes live until the next step, reset or destruction.
   std::string_view text(int column) const;
   std::span<const std::byte> bytes(int column) const;
+  /// Numbers as they are, all else as text.
+  SqlValue value(int column) const;
 
  private:
   friend class Database;

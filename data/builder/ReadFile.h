@@ -1,0 +1,13 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include "regions/Result.h"
+
+namespace wayloom {
+
+/// The whole content of a file.
+Result<std::string> readFile(const std::filesystem::path& path);
+
+}  // namespace wayloom

@@ -1,0 +1,249 @@
+#include "StreetLabels.h"
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+#include <optional>
+#include <sstream>
+
+#include "regions/DrawingTable.h"
+
+namespace wayloom {
+
+namespace {
+
+using Labels = std::vector<StreetLabel>;
+
+constexpr double kRepeatPixels = 420;
+constexpr double kStepPixels = 40;
+constexpr double kEndPixels = 6;
+
+// All stretches that carry one text, the most important kind of street among them.
+struct Carrier {
+  std::string text;
+  Street::Kind kind = Street::Kind::kPath;
+  std::vector<MapPath> paths;
+  double length = 0;
+};
+
+std::vector<Carrier> carriers(const std::map<std::string, Carrier>& byText) {
+  std::vector<Carrier> result;
+  for (const auto& [text, unjoined] : byText) {
+    Carrier carrier = unjoined;
+    carrier.text = text;
+    carrier.paths = joined(unjoined.paths);
+    std::sort(carrier.paths.begin(), carrier.paths.end(),
+              [](const auto& a, const auto& b) { return lengthOf(a) > lengthOf(b); });
+    for (const MapPath& path : carrier.paths) carrier.length += lengthOf(path);
+    result.push_back(std::move(carrier));
+  }
+  std::stable_sort(result.begin(), result.end(), [](const Carrier& a, const Carrier& b) {
+    return a.kind != b.kind ? a.kind > b.kind : a.length > b.length;
+  });
+  return result;
+}
+
+void carry(std::map<std::string, Carrier>& byText, const std::string& text, const Street& street) {
+  Carrier& carrier = byText[text];
+  carrier.kind = std::max(carrier.kind, street.kind);
+  carrier.paths.push_back(street.paths.front());
+}
+
+int firstZoomOf(Street::Kind kind) {
+  if (kind >= Street::Kind::kSecondary) return 13;
+  if (kind >= Street::Kind::kTertiary) return 14;
+  if (kind >= Street::Kind::kPedestrian) return 15;
+  return kind >= Street::Kind::kService ? 16 : 17;
+}
+
+double textSize(Street::Kind kind, int zoom) {
+  const double size = kind >= Street::Kind::kSecondary ? 11.5 : 10.5;
+  return size + (zoom >= 16 ? 1 : 0);
+}
+
+double angleBetween(const MapPoint& a, const MapPoint& b, const MapPoint& c) {
+  const double turn = std::atan2(c.y - b.y, c.x - b.x) - std::atan2(b.y - a.y, b.x - a.x);
+  return std::abs(std::remainder(turn, 2 * M_PI));
+}
+
+// Letters on a sharp or winding bend do not read as a word.
+bool isReadable(const MapPath& path) {
+  const double chord = std::hypot(path.back().x - path.front().x, path.back().y - path.front().y);
+  if (chord < 0.93 * lengthOf(path)) return false;
+  for (std::size_t i = 2; i < path.size(); ++i) {
+    if (angleBetween(path[i - 2], path[i - 1], path[i]) > 0.6) return false;
+  }
+  return true;
+}
+
+// The boxes of a text along a path, in pixels: squares of the text's height, one after the other.
+std::vector<MapBox> boxesAlong(const MapPath& path, double pixel, double size) {
+  const double half = size * 0.75;
+  const double length = lengthOf(path);
+  const int count = std::max(1, static_cast<int>(std::ceil(length / pixel / half)));
+  std::vector<MapBox> boxes;
+  for (int i = 0; i <= count; ++i) {
+    const MapPoint p = pointAlong(path, length * i / count);
+    boxes.push_back(
+        {p.x / pixel - half, p.y / pixel - half, p.x / pixel + half, p.y / pixel + half});
+  }
+  return boxes;
+}
+
+// One zoom's labels in the making.
+class Sheet {
+ public:
+  explicit Sheet(int zoom) : mPixel(metresPerPixel(zoom)) {}
+
+  double pixel() const { return mPixel; }
+  const Labels& labels() const { return mLabels; }
+
+  // Adds the label unless it touches another or the same text stands nearby.
+  bool add(StreetLabel label) {
+    const auto boxes = boxesAlong(label.path, mPixel, label.size);
+    const MapPoint middle = pointAlong(label.path, lengthOf(label.path) / 2);
+    for (const MapPoint& other : mPlaces[label.text]) {
+      const double apart = std::hypot(other.x - middle.x, other.y - middle.y);
+      if (apart < kRepeatPixels * mPixel) return false;
+    }
+    if (!std::all_of(boxes.begin(), boxes.end(),
+                     [this](const MapBox& box) { return mGrid.isFree(box); })) {
+      return false;
+    }
+    reserve(label);
+    mPlaces[label.text].push_back(middle);
+    mLabels.push_back(std::move(label));
+    return true;
+  }
+
+  void reserve(const StreetLabel& label) {
+    for (const MapBox& box : boxesAlong(label.path, mPixel, label.size)) mGrid.take(box);
+  }
+
+ private:
+  double mPixel;
+  LabelGrid mGrid;
+  std::map<std::string, std::vector<MapPoint>> mPlaces;
+  Labels mLabels;
+};
+
+std::optional<StreetLabel> labelAt(const Carrier& carrier, const MapPath& path, double middle,
+                                   int zoom) {
+  const double pixel = metresPerPixel(zoom);
+  const double size = textSize(carrier.kind, zoom);
+  const double half = (textWidth(carrier.text) * size / 2 + kEndPixels) * pixel;
+  if (middle < half || middle > lengthOf(path) - half) return {};
+  // Bends of less than a pixel or two only make the letters dance.
+  MapPath stretch = simplified(partOf(path, middle - half, middle + half), 2 * pixel);
+  if (!isReadable(stretch)) return {};
+  return StreetLabel{carrier.text, carrier.kind, size, smoothed(stretch, 2)};
+}
+
+void addAlong(const Carrier& carrier, const MapPath& path, int zoom, Sheet& sheet) {
+  const double length = lengthOf(path);
+  const double step = kStepPixels * metresPerPixel(zoom);
+  // From the middle outwards: a name reads best halfway along its street.
+  for (double offset = 0; offset < length / 2; offset += step) {
+    for (const double middle : {length / 2 - offset, length / 2 + offset}) {
+      if (auto label = labelAt(carrier, path, middle, zoom)) sheet.add(std::move(*label));
+    }
+  }
+}
+
+// A label of the zoom before, at the size of this one: the text takes half the street it took.
+std::optional<StreetLabel> shrunk(const StreetLabel& label, int zoom) {
+  Carrier carrier{label.text, label.kind, {label.path}};
+  return labelAt(carrier, label.path, lengthOf(label.path) / 2, zoom);
+}
+
+std::vector<std::string> split(const std::string& list) {
+  std::vector<std::string> parts;
+  std::istringstream stream(list);
+  for (std::string part; std::getline(stream, part, ';');) parts.push_back(part);
+  return parts;
+}
+
+Status writeSheets(Database& database, const std::string& name, int firstZoom,
+                   const std::vector<Labels>& sheets) {
+  for (std::size_t i = 0; i < sheets.size(); ++i) {
+    const bool isLast = i + 1 == sheets.size();
+    const int zoom = firstZoom + static_cast<int>(i);
+    DrawingTable table(database, name + (isLast ? "" : "_z" + std::to_string(zoom)),
+                       {"name", "kind", "size", "min_zoom"});
+    for (const StreetLabel& label : sheets[i]) {
+      table.add({DrawingShape::Kind::kLine, {label.path}},
+                {label.text, kindName(label.kind), label.size, zoom});
+    }
+    if (!table.status()) return table.status();
+  }
+  return done();
+}
+
+}  // namespace
+
+std::vector<Labels> selectStreetLabels(const std::vector<Street>& streets) {
+  std::map<std::string, Carrier> byText;
+  for (const Street& street : streets) {
+    if (!street.name.empty() && !street.isArea) carry(byText, street.name, street);
+  }
+  const std::vector<Carrier> ordered = carriers(byText);
+  std::vector<Labels> sheets;
+  for (int zoom = kFirstStreetLabelZoom; zoom <= kLastStreetLabelZoom; ++zoom) {
+    Sheet sheet(zoom);
+    if (!sheets.empty()) {
+      for (const StreetLabel& before : sheets.back()) {
+        if (auto label = shrunk(before, zoom)) sheet.add(std::move(*label));
+      }
+    }
+    for (const Carrier& carrier : ordered) {
+      if (zoom < firstZoomOf(carrier.kind)) continue;
+      for (const MapPath& path : carrier.paths) addAlong(carrier, path, zoom, sheet);
+    }
+    sheets.push_back(sheet.labels());
+  }
+  return sheets;
+}
+
+std::vector<Labels> selectShields(const std::vector<Street>& streets,
+                                  const std::vector<Labels>& names) {
+  std::map<std::string, Carrier> byText;
+  for (const Street& street : streets) {
+    // Slip roads carry the numbers of where they lead, and exits those of the exit.
+    if (street.isLink || street.isArea || street.kind < Street::Kind::kSecondary) continue;
+    for (const std::string& ref : split(street.ref)) {
+      if (ref.size() <= 7) carry(byText, ref, street);
+    }
+  }
+  const std::vector<Carrier> ordered = carriers(byText);
+  std::vector<Labels> sheets;
+  for (int zoom = kFirstShieldZoom; zoom <= kLastShieldZoom; ++zoom) {
+    Sheet sheet(zoom);
+    if (zoom >= kFirstStreetLabelZoom) {
+      for (const auto& name : names[static_cast<std::size_t>(zoom - kFirstStreetLabelZoom)]) {
+        sheet.reserve(name);
+      }
+    }
+    for (const Carrier& carrier : ordered) {
+      constexpr double kSize = 9.5;
+      const double half = textWidth(carrier.text) * kSize / 2 * sheet.pixel();
+      for (const MapPath& path : carrier.paths) {
+        const double length = lengthOf(path);
+        for (double at = length / 2; at < length; at += kStepPixels * sheet.pixel()) {
+          const MapPoint p = pointAlong(path, at);
+          sheet.add({carrier.text, carrier.kind, kSize, {{p.x - half, p.y}, {p.x + half, p.y}}});
+        }
+      }
+    }
+    sheets.push_back(sheet.labels());
+  }
+  return sheets;
+}
+
+Status writeStreetLabels(Database& database, const std::vector<Street>& streets) {
+  const auto names = selectStreetLabels(streets);
+  auto status = writeSheets(database, "road_label", kFirstStreetLabelZoom, names);
+  if (!status) return status;
+  return writeSheets(database, "road_shield", kFirstShieldZoom, selectShields(streets, names));
+}
+
+}  // namespace wayloom

@@ -1,0 +1,73 @@
+// Makes the default region files from the data packages:
+//   region-builder NODE_MODULES OUTPUT_DIRECTORY
+
+#include <cstdio>
+#include <filesystem>
+
+#include "GothenburgPlaces.h"
+#include "StreetDrawing.h"
+#include "WorldDrawing.h"
+#include "WorldPlaces.h"
+#include "regions/RegionWriter.h"
+
+namespace {
+
+using namespace wayloom;
+using std::filesystem::path;
+
+constexpr char kOpenStreetMap[] = "© OpenStreetMap contributors";
+constexpr char kWorldSources[] = "Natural Earth, GeoNames";
+
+MapBox boundsOfAll(const std::vector<Street>& streets) {
+  std::vector<MapPath> paths;
+  for (const Street& street : streets) {
+    paths.insert(paths.end(), street.paths.begin(), street.paths.end());
+  }
+  return boundsOf({DrawingShape::Kind::kLine, paths});
+}
+
+Status buildWorld(const path& packages, const path& target) {
+  auto writer = RegionWriter::create(target, {"World", kWorldSources, {}});
+  if (!writer) return writer.failure();
+  if (auto status = addWorldDrawing(writer->database(), packages); !status) return status;
+  if (auto status = addWorldPlaces(writer->database(), packages); !status) return status;
+  return writer->commit();
+}
+
+Status buildGothenburg(const path& packages, const path& target) {
+  const auto streets = readStreets(packages / "geojson-path-finder/test/large-network.json");
+  if (!streets) return streets.failure();
+  if (streets->empty()) return Failure{"the street data holds no streets"};
+  const MapBox box = boundsOfAll(*streets);
+  const Coordinate southWest = coordinateAt(MapPoint{box.xmin, box.ymin});
+  const Coordinate northEast = coordinateAt(MapPoint{box.xmax, box.ymax});
+  auto writer = RegionWriter::create(
+      target, {"Gothenburg",
+               kOpenStreetMap,
+               {southWest.longitude, southWest.latitude, northEast.longitude, northEast.latitude}});
+  if (!writer) return writer.failure();
+  if (auto status = addStreetDrawing(writer->database(), *streets); !status) return status;
+  if (auto status = addGothenburgPlaces(writer->database(), packages); !status) return status;
+  return writer->commit();
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+  if (argc != 3) {
+    std::fputs("usage: region-builder NODE_MODULES OUTPUT_DIRECTORY\n", stderr);
+    return 2;
+  }
+  const path packages = argv[1];
+  const path output = argv[2];
+  std::error_code error;
+  std::filesystem::create_directories(output, error);
+  for (const auto& status : {buildWorld(packages, output / "world.region"),
+                             buildGothenburg(packages, output / "gothenburg.region")}) {
+    if (!status) {
+      std::fprintf(stderr, "region-builder: %s\n", status.failure().message.c_str());
+      return 1;
+    }
+  }
+  return 0;
+}

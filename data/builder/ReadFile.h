@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <string>
 
-#include "regions/Result.h"
+#include "settings/Result.h"
 
 namespace wayloom {
 

@@ -24,10 +24,13 @@ struct Scale {
   Street::Kind least;
   int zoom;
 };
-constexpr std::array kScales = {
-    Scale{"_z10", Street::Kind::kPrimary, 10}, Scale{"_z12", Street::Kind::kTertiary, 12},
-    Scale{"_z13", Street::Kind::kResidential, 13}, Scale{"_z14", Street::Kind::kService, 14},
-    Scale{"", Street::Kind::kPath, 18}};
+constexpr std::array kScales = {Scale{"_z10", Street::Kind::kPrimary, 10},
+                                Scale{"_z12", Street::Kind::kTertiary, 12},
+                                Scale{"_z13", Street::Kind::kResidential, 13},
+                                Scale{"_z14", Street::Kind::kService, 14},
+                                Scale{"_z15", Street::Kind::kPath, 15},
+                                Scale{"_z16", Street::Kind::kPath, 16},
+                                Scale{"", Street::Kind::kPath, 18}};
 
 Status writeBuiltUpArea(Database& database, const std::vector<Street>& streets) {
   std::vector<MapPath> lines;
@@ -76,14 +79,15 @@ Status writeRoads(Database& database, const std::vector<Street>& streets, const 
 
 }  // namespace
 
-Status addStreetDrawing(Database& database, const std::vector<Street>& streets) {
-  for (const auto write : {writeBuiltUpArea, writeSquares, writeStreetLabels}) {
+Status addStreetDrawing(Database& database, const std::vector<Street>& streets,
+                        const std::vector<PlaceLabel>& labels) {
+  for (const auto write : {writeBuiltUpArea, writeSquares}) {
     if (auto status = write(database, streets); !status) return status;
   }
   for (const Scale& scale : kScales) {
     if (auto status = writeRoads(database, streets, scale); !status) return status;
   }
-  return done();
+  return writeStreetLabels(database, streets, labels);
 }
 
 Result<std::vector<Street>> readStreets(const std::filesystem::path& path) {

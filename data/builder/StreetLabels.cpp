@@ -6,6 +6,7 @@
 #include <optional>
 #include <sstream>
 
+#include "LabelGrid.h"
 #include "regions/DrawingTable.h"
 
 namespace wayloom {
@@ -93,7 +94,11 @@ std::vector<MapBox> boxesAlong(const MapPath& path, double pixel, double size) {
 // One zoom's labels in the making.
 class Sheet {
  public:
-  explicit Sheet(int zoom) : mPixel(metresPerPixel(zoom)) {}
+  Sheet(int zoom, const std::vector<PlaceLabel>& places) : mPixel(metresPerPixel(zoom)) {
+    for (const PlaceLabel& place : places) {
+      if (place.firstZoom <= zoom && zoom <= place.lastZoom) mGrid.take(labelBox(place, zoom));
+    }
+  }
 
   double pixel() const { return mPixel; }
   const Labels& labels() const { return mLabels; }
@@ -156,11 +161,20 @@ std::optional<StreetLabel> shrunk(const StreetLabel& label, int zoom) {
   return labelAt(carrier, label.path, lengthOf(label.path) / 2, zoom);
 }
 
-std::vector<std::string> split(const std::string& list) {
-  std::vector<std::string> parts;
+// The numbers of a road, all written the same way: "E6;E 20" gives "E 6" and "E 20".
+std::vector<std::string> numbersOf(const std::string& list) {
+  constexpr std::size_t kLongest = 7;
+  std::vector<std::string> numbers;
   std::istringstream stream(list);
-  for (std::string part; std::getline(stream, part, ';');) parts.push_back(part);
-  return parts;
+  for (std::string number; std::getline(stream, number, ';');) {
+    std::erase(number, ' ');
+    const auto digit = number.find_first_of("0123456789");
+    if (digit != std::string::npos && digit > 0) {
+      number = number.substr(0, digit) + ' ' + number.substr(digit);
+    }
+    if (!number.empty() && number.size() <= kLongest) numbers.push_back(number);
+  }
+  return numbers;
 }
 
 Status writeSheets(Database& database, const std::string& name, int firstZoom,
@@ -181,7 +195,8 @@ Status writeSheets(Database& database, const std::string& name, int firstZoom,
 
 }  // namespace
 
-std::vector<Labels> selectStreetLabels(const std::vector<Street>& streets) {
+std::vector<Labels> selectStreetLabels(const std::vector<Street>& streets,
+                                       const std::vector<PlaceLabel>& places) {
   std::map<std::string, Carrier> byText;
   for (const Street& street : streets) {
     if (!street.name.empty() && !street.isArea) carry(byText, street.name, street);
@@ -189,7 +204,7 @@ std::vector<Labels> selectStreetLabels(const std::vector<Street>& streets) {
   const std::vector<Carrier> ordered = carriers(byText);
   std::vector<Labels> sheets;
   for (int zoom = kFirstStreetLabelZoom; zoom <= kLastStreetLabelZoom; ++zoom) {
-    Sheet sheet(zoom);
+    Sheet sheet(zoom, places);
     if (!sheets.empty()) {
       for (const StreetLabel& before : sheets.back()) {
         if (auto label = shrunk(before, zoom)) sheet.add(std::move(*label));
@@ -205,19 +220,18 @@ std::vector<Labels> selectStreetLabels(const std::vector<Street>& streets) {
 }
 
 std::vector<Labels> selectShields(const std::vector<Street>& streets,
-                                  const std::vector<Labels>& names) {
+                                  const std::vector<Labels>& names,
+                                  const std::vector<PlaceLabel>& places) {
   std::map<std::string, Carrier> byText;
   for (const Street& street : streets) {
-    // Slip roads carry the numbers of where they lead, and exits those of the exit.
-    if (street.isLink || street.isArea || street.kind < Street::Kind::kSecondary) continue;
-    for (const std::string& ref : split(street.ref)) {
-      if (ref.size() <= 7) carry(byText, ref, street);
-    }
+    // Slip roads carry the numbers of where they lead, small roads numbers no sign shows.
+    if (street.isLink || street.isArea || street.kind < Street::Kind::kPrimary) continue;
+    for (const std::string& number : numbersOf(street.ref)) carry(byText, number, street);
   }
   const std::vector<Carrier> ordered = carriers(byText);
   std::vector<Labels> sheets;
   for (int zoom = kFirstShieldZoom; zoom <= kLastShieldZoom; ++zoom) {
-    Sheet sheet(zoom);
+    Sheet sheet(zoom, places);
     if (zoom >= kFirstStreetLabelZoom) {
       for (const auto& name : names[static_cast<std::size_t>(zoom - kFirstStreetLabelZoom)]) {
         sheet.reserve(name);
@@ -239,11 +253,24 @@ std::vector<Labels> selectShields(const std::vector<Street>& streets,
   return sheets;
 }
 
-Status writeStreetLabels(Database& database, const std::vector<Street>& streets) {
-  const auto names = selectStreetLabels(streets);
+Status writeStreetLabels(Database& database, const std::vector<Street>& streets,
+                         const std::vector<PlaceLabel>& allPlaces) {
+  // Only those near the streets can be in their way.
+  std::vector<MapPath> lines;
+  for (const Street& street : streets) lines.push_back(street.paths.front());
+  const MapBox box = boundsOf({DrawingShape::Kind::kLine, lines});
+  const double margin = 256 * metresPerPixel(kFirstShieldZoom);
+  std::vector<PlaceLabel> places;
+  std::copy_if(allPlaces.begin(), allPlaces.end(), std::back_inserter(places),
+               [&](const PlaceLabel& place) {
+                 return place.point.x > box.xmin - margin && place.point.x < box.xmax + margin &&
+                        place.point.y > box.ymin - margin && place.point.y < box.ymax + margin;
+               });
+  const auto names = selectStreetLabels(streets, places);
   auto status = writeSheets(database, "road_label", kFirstStreetLabelZoom, names);
   if (!status) return status;
-  return writeSheets(database, "road_shield", kFirstShieldZoom, selectShields(streets, names));
+  return writeSheets(database, "road_shield", kFirstShieldZoom,
+                     selectShields(streets, names, places));
 }
 
 }  // namespace wayloom

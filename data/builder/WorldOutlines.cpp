@@ -78,6 +78,15 @@ void appendVisibleRuns(const MapPath& path, std::vector<MapPath>& lines) {
 
 }  // namespace
 
+Topology simplified(Topology topology, double tolerance) {
+  for (auto& arc : topology.arcs) {
+    const MapPath path = simplified(project(arc), tolerance);
+    arc.clear();
+    for (const MapPoint& point : path) arc.push_back(coordinateAt(point));
+  }
+  return topology;
+}
+
 std::vector<MapPolygon> mapPolygons(const Topology& topology, const Topology::Area& area) {
   std::vector<MapPolygon> result;
   for (const Topology::Polygon& polygon : area.polygons) {

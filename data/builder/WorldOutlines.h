@@ -12,6 +12,10 @@ namespace wayloom {
 /// edge.
 std::vector<MapPolygon> mapPolygons(const Topology& topology, const Topology::Area& area);
 
+/// The topology with its arcs simplified to within `tolerance` metres of EPSG:3857. What shares an
+/// arc still does.
+Topology simplified(Topology topology, double tolerance);
+
 enum class ArcUse { kCoast, kBorder };
 
 /// The arcs that bound one area only (coast) or lie between two (borders), without the seams that

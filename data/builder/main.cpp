@@ -26,15 +26,17 @@ MapBox boundsOfAll(const std::vector<Street>& streets) {
   return boundsOf({DrawingShape::Kind::kLine, paths});
 }
 
-Status buildWorld(const path& packages, const path& target) {
+using Labels = std::vector<PlaceLabel>;
+
+Status buildWorld(const path& packages, const Labels& labels, const path& target) {
   auto writer = RegionWriter::create(target, {"World", kWorldSources, {}});
   if (!writer) return writer.failure();
-  if (auto status = addWorldDrawing(writer->database(), packages); !status) return status;
+  if (auto status = addWorldDrawing(writer->database(), packages, labels); !status) return status;
   if (auto status = addWorldPlaces(writer->database(), packages); !status) return status;
   return writer->commit();
 }
 
-Status buildGothenburg(const path& packages, const path& target) {
+Status buildGothenburg(const path& packages, const Labels& labels, const path& target) {
   const auto streets = readStreets(packages / "geojson-path-finder/test/large-network.json");
   if (!streets) return streets.failure();
   if (streets->empty()) return Failure{"the street data holds no streets"};
@@ -46,9 +48,17 @@ Status buildGothenburg(const path& packages, const path& target) {
                kOpenStreetMap,
                {southWest.longitude, southWest.latitude, northEast.longitude, northEast.latitude}});
   if (!writer) return writer.failure();
-  if (auto status = addStreetDrawing(writer->database(), *streets); !status) return status;
+  if (auto status = addStreetDrawing(writer->database(), *streets, labels); !status) return status;
   if (auto status = addGothenburgPlaces(writer->database(), packages); !status) return status;
   return writer->commit();
+}
+
+Status build(const path& packages, const path& output) {
+  const auto labels = worldLabels(packages);
+  if (!labels) return labels.failure();
+  auto status = buildWorld(packages, *labels, output / "world.region");
+  if (!status) return status;
+  return buildGothenburg(packages, *labels, output / "gothenburg.region");
 }
 
 }  // namespace
@@ -58,16 +68,12 @@ int main(int argc, char* argv[]) {
     std::fputs("usage: region-builder NODE_MODULES OUTPUT_DIRECTORY\n", stderr);
     return 2;
   }
-  const path packages = argv[1];
   const path output = argv[2];
   std::error_code error;
   std::filesystem::create_directories(output, error);
-  for (const auto& status : {buildWorld(packages, output / "world.region"),
-                             buildGothenburg(packages, output / "gothenburg.region")}) {
-    if (!status) {
-      std::fprintf(stderr, "region-builder: %s\n", status.failure().message.c_str());
-      return 1;
-    }
+  if (const auto status = build(argv[1], output); !status) {
+    std::fprintf(stderr, "region-builder: %s\n", status.failure().message.c_str());
+    return 1;
   }
   return 0;
 }

@@ -8,7 +8,7 @@
 
 #include "regions/Database.h"
 #include "regions/DrawingShape.h"
-#include "regions/Result.h"
+#include "settings/Result.h"
 
 namespace wayloom {
 

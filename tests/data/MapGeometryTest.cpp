@@ -1,0 +1,102 @@
+#include <cmath>
+#include <numbers>
+
+#include "Contour.h"
+#include "MapGeometry.h"
+
+namespace wayloom {
+namespace {
+
+MapPath circle(MapPoint centre, double radius, int points) {
+  MapPath ring;
+  for (int i = 0; i <= points; ++i) {
+    const double angle = 2 * std::numbers::pi * (i % points) / points;
+    ring.push_back({centre.x + radius * std::cos(angle), centre.y + radius * std::sin(angle)});
+  }
+  return ring;
+}
+
+double areaOf(const std::vector<MapPolygon>& polygons) {
+  double area = 0;
+  for (const MapPolygon& polygon : polygons) {
+    for (const MapPath& ring : polygon) area += signedArea(ring);
+  }
+  return area;
+}
+
+TEST(MapGeometry, PiecesCoverWhatWasCut) {
+  MapPath hole = circle({10, 20}, 40, 500);
+  std::reverse(hole.begin(), hole.end());
+  const MapPolygon ring = {circle({0, 0}, 100, 3000), hole};
+  const auto pieces = cutToPieces({ring}, {-128, -128, 128, 128}, 200, 0);
+  EXPECT_GT(pieces.size(), 10U);
+  EXPECT_NEAR(areaOf(pieces), areaOf({ring}), 1e-6);
+  for (const MapPolygon& piece : pieces) {
+    std::size_t points = 0;
+    for (const MapPath& path : piece) {
+      points += path.size();
+      EXPECT_EQ(path.front(), path.back());
+    }
+    EXPECT_LE(points, 200U);
+  }
+}
+
+TEST(MapGeometry, PiecesReachOverTheirSeams) {
+  const MapPolygon square = {{{-50, -50}, {50, -50}, {50, 50}, {-50, 50}, {-50, -50}}};
+  const double overlap = 2;
+  const auto pieces = cutToPieces({square}, {-64, -64, 64, 64}, 4, overlap);
+  ASSERT_GT(pieces.size(), 1U);
+  EXPECT_GT(areaOf(pieces), areaOf({square}) + 100 * overlap);
+}
+
+TEST(MapGeometry, SimplifyingStaysWithinTheTolerance) {
+  const MapPath ring = circle({0, 0}, 100, 2000);
+  const MapPath rough = simplified(ring, 1);
+  EXPECT_LT(rough.size(), 60U);
+  EXPECT_EQ(rough.front(), ring.front());
+  EXPECT_EQ(rough.back(), ring.back());
+  EXPECT_NEAR(signedArea(rough), signedArea(ring), 2 * std::numbers::pi * 100);
+}
+
+TEST(MapGeometry, PartsOfAPathMeasureWhatWasAsked) {
+  const MapPath path = {{0, 0}, {10, 0}, {10, 10}, {30, 10}};
+  for (const double from : {0.0, 5.0, 10.0, 19.0}) {
+    for (const double length : {0.5, 6.0, 15.0}) {
+      EXPECT_NEAR(lengthOf(partOf(path, from, from + length)), length, 1e-9)
+          << from << " + " << length;
+    }
+  }
+}
+
+TEST(MapGeometry, LabelsStandInsideTheirArea) {
+  // A crescent: its centre lies outside.
+  MapPolygon crescent = {circle({0, 0}, 100, 200)};
+  crescent.push_back(circle({30, 0}, 75, 200));
+  const MapPoint point = labelPoint(crescent);
+  EXPECT_LT(std::hypot(point.x, point.y), 100);
+  EXPECT_GT(std::hypot(point.x - 30, point.y), 75);
+}
+
+TEST(Contour, GoesAroundAHillOnce) {
+  HeightGrid grid{60, 60, std::vector<float>(3600)};
+  for (int row = 0; row < 60; ++row) {
+    for (int column = 0; column < 60; ++column) {
+      grid.at(column, row) = static_cast<float>(40 - std::hypot(column - 30, row - 30));
+    }
+  }
+  const auto rings = contours(grid, 20);
+  ASSERT_EQ(rings.size(), 1U);
+  EXPECT_NEAR(signedArea(rings[0]), std::numbers::pi * 400, 10);
+}
+
+TEST(Contour, KeepsSaddlesClosed) {
+  HeightGrid grid{4, 4, {0, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 0}};
+  for (const MapPath& ring : contours(grid, 0.5F)) {
+    EXPECT_EQ(ring.front(), ring.back());
+    EXPECT_GT(signedArea(ring), 0);
+  }
+  EXPECT_EQ(contours(grid, 0.5F).size(), 2U);
+}
+
+}  // namespace
+}  // namespace wayloom

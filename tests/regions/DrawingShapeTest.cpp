@@ -1,0 +1,61 @@
+#include <cmath>
+#include <limits>
+#include <random>
+
+#include "regions/DrawingShape.h"
+
+namespace wayloom {
+namespace {
+
+using Kind = DrawingShape::Kind;
+
+std::vector<DrawingShape> shapes() {
+  return {{Kind::kPoint, {{{1.5, -2.25}}}},
+          {Kind::kLine, {{{0, 0}, {-2e7, 2e7}, {1e-9, 3}}}},
+          {Kind::kPolygon,
+           {{{0, 0}, {9, 0}, {9, 9}, {0, 0}}, {{1, 1}, {2, 1}, {2, 2}, {1, 2}, {1, 1}}}}};
+}
+
+TEST(DrawingShape, ComesBackAsItWas) {
+  for (const DrawingShape& shape : shapes()) {
+    const auto back = decodeShape(encodeShape(shape));
+    ASSERT_TRUE(back) << static_cast<int>(shape.kind);
+    EXPECT_EQ(*back, shape) << static_cast<int>(shape.kind);
+  }
+}
+
+TEST(DrawingShape, IsRefusedWhenCutOrLengthened) {
+  for (const DrawingShape& shape : shapes()) {
+    const std::string bytes = encodeShape(shape);
+    for (std::size_t length = 0; length < bytes.size(); ++length) {
+      EXPECT_FALSE(decodeShape(bytes.substr(0, length))) << "cut at " << length;
+    }
+    EXPECT_FALSE(decodeShape(bytes + '\0'));
+  }
+}
+
+TEST(DrawingShape, IsRefusedWithCoordinatesThatAreNone) {
+  for (const double value : {std::nan(""), std::numeric_limits<double>::infinity(), 1e10, -1e300}) {
+    EXPECT_FALSE(decodeShape(encodeShape({Kind::kPoint, {{{value, 0}}}}))) << value;
+    EXPECT_FALSE(decodeShape(encodeShape({Kind::kLine, {{{0, 0}, {0, value}}}}))) << value;
+  }
+}
+
+TEST(DrawingShape, SurvivesEveryDamagedByte) {
+  std::mt19937 random(1);
+  for (const DrawingShape& shape : shapes()) {
+    const std::string bytes = encodeShape(shape);
+    for (std::size_t at = 0; at < bytes.size(); ++at) {
+      for (int round = 0; round < 8; ++round) {
+        std::string damaged = bytes;
+        damaged[at] = static_cast<char>(random());
+        if (const auto read = decodeShape(damaged)) {
+          EXPECT_LE(boundsOf(*read).xmax, 1e9) << "byte " << at;
+        }
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace wayloom

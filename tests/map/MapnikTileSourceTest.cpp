@@ -112,18 +112,28 @@ TEST(MapnikTileSource, ABrokenRegionTakesNothingFromTheOthers) {
         "CREATE VIRTUAL TABLE idx_land_geometry USING rtree(pkid, xmin, xmax, ymin, ymax);"
         "INSERT INTO idx_land_geometry VALUES (1,-2e7,2e7,-2e7,2e7), (2,-2e7,2e7,-2e7,2e7),"
         "(3,-2e7,2e7,-2e7,2e7), (4,-2e7,2e7,-2e7,2e7), (99,-2e7,2e7,-2e7,2e7);"
-        "CREATE TABLE coast(other TEXT); CREATE TABLE idx_coast_geometry(x);"
-        "CREATE TABLE place_label(fid INTEGER PRIMARY KEY, geometry BLOB, name BLOB, size TEXT);"
-        "INSERT INTO place_label VALUES (1, x'010100000000000000000000000000000000000000', "
-        "x'ff00fe', 'large');"
-        "CREATE VIRTUAL TABLE idx_place_label_geometry USING rtree(pkid, xmin, xmax, ymin, ymax);"
-        "INSERT INTO idx_place_label_geometry VALUES (1, 0, 0, 0, 0)"));
+        "CREATE TABLE coast(other TEXT); CREATE TABLE idx_coast_geometry(x);"));
   });
   for (const Region& bad : {region(folder.path() / "missing.region"),
                             region(folder.path() / "text.region"), torn, oddTables}) {
     MapnikTileSource source({bad, good});
     EXPECT_EQ(source.draw({1, 0, 0}, 1), alone) << bad.path;
   }
+}
+
+TEST(MapnikTileSource, DrawsOnWithTextThatIsNone) {
+  const TemporaryFolder folder;
+  const Region odd = write(folder.path() / "odd.region", addLand, [](Database& database) {
+    EXPECT_TRUE(database.execute(
+        "CREATE TABLE place_label(fid INTEGER PRIMARY KEY, geometry BLOB, name BLOB, size TEXT);"
+        "INSERT INTO place_label VALUES (1, x'010100000000000000000000000000000000000000', "
+        "x'ff00fe', 'large');"
+        "CREATE VIRTUAL TABLE idx_place_label_geometry USING rtree(pkid, xmin, xmax, ymin, ymax);"
+        "INSERT INTO idx_place_label_geometry VALUES (1, 0, 0, 0, 0)"));
+  });
+  MapnikTileSource source({odd});
+  const TileKey key{0, 0, 0};
+  EXPECT_FALSE(isBlue(colourAt(source.draw(key, 1), key, -8, -8)));
 }
 
 TEST(MapnikTileSource, HasNoTileOutsideTheWorld) {

@@ -6,10 +6,10 @@ namespace wayloom {
 
 namespace {
 
-/// Without recursion; strict about UTF-8; every number to its last bit.
-constexpr unsigned kParseFlags = rapidjson::kParseIterativeFlag |
-                                 rapidjson::kParseValidateEncodingFlag |
-                                 rapidjson::kParseFullPrecisionFlag;
+/// Without recursion; strict about UTF-8. Numbers may be off by their last bits: RapidJSON's exact
+/// way shifts by absurd amounts when an exponent is absurd, and the last bits are no distance.
+constexpr unsigned kParseFlags =
+    rapidjson::kParseIterativeFlag | rapidjson::kParseValidateEncodingFlag;
 
 /// Counted on the bytes: a parsed answer of millions of brackets would take hundreds of megabytes
 /// before anyone could look at its depth.

@@ -32,7 +32,11 @@ struct Scale {
 };
 constexpr std::array kScales = {Scale{"110m", "_z1", 0, 1}, Scale{"50m", "_z2", 2, 2},
                                 Scale{"50m", "_z4", 3, 4},  Scale{"10m", "_z5", 5, 5},
-                                Scale{"10m", "_z7", 6, 7},  Scale{"10m", "", 8, 18}};
+                                Scale{"10m", "_z7", 6, 7},  Scale{"10m", "_z8", 8, 8},
+                                Scale{"10m", "", 9, 18}};
+
+// From here on the corners of the most detailed outlines would show.
+constexpr int kFirstSmoothZoom = 9;
 
 // So little that nobody sees what is left out.
 constexpr double kTolerancePixels = 0.35;
@@ -81,6 +85,12 @@ Status writeLines(Database& database, const std::string& name, const std::vector
   return table.status();
 }
 
+// The data is kept on a grid of some 400 by 200 metres: its steps go first, then the corners, then
+// the points that rounding adds where the line is straight.
+Topology rounded(Topology topology) {
+  return simplified(smoothed(simplified(std::move(topology), 250)), 60);
+}
+
 Status writeScale(Database& database, const std::filesystem::path& packages, const Scale& scale) {
   const auto path = packages / "world-atlas" / (std::string("countries-") + scale.name + ".json");
   auto land = readTopology(path, "land");
@@ -90,6 +100,12 @@ Status writeScale(Database& database, const std::filesystem::path& packages, con
   const double tolerance = kTolerancePixels * metresPerPixel(scale.lastZoom);
   *land = simplified(std::move(*land), tolerance);
   *countries = simplified(std::move(*countries), tolerance);
+  if (scale.firstZoom >= kFirstSmoothZoom) {
+    // Rounding quadruples the points; most of the data's own lie closer than the grid it is kept
+    // on.
+    *land = rounded(std::move(*land));
+    *countries = rounded(std::move(*countries));
+  }
   if (auto status = writeLand(database, *land, scale); !status) return status;
   auto status = writeLines(database, std::string("coast") + scale.ending,
                            mapLines(*countries, ArcUse::kCoast));

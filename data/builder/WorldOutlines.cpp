@@ -87,6 +87,16 @@ Topology simplified(Topology topology, double tolerance) {
   return topology;
 }
 
+Topology smoothed(Topology topology) {
+  for (auto& arc : topology.arcs) {
+    unwrap(arc);
+    const MapPath path = smoothed(project(arc), 2);
+    arc.clear();
+    for (const MapPoint& point : path) arc.push_back(coordinateAt(point));
+  }
+  return topology;
+}
+
 std::vector<MapPolygon> mapPolygons(const Topology& topology, const Topology::Area& area) {
   std::vector<MapPolygon> result;
   for (const Topology::Polygon& polygon : area.polygons) {

@@ -16,6 +16,9 @@ std::vector<MapPolygon> mapPolygons(const Topology& topology, const Topology::Ar
 /// arc still does.
 Topology simplified(Topology topology, double tolerance);
 
+/// The topology with the corners of its arcs rounded; their ends stay where arcs meet.
+Topology smoothed(Topology topology);
+
 enum class ArcUse { kCoast, kBorder };
 
 /// The arcs that bound one area only (coast) or lie between two (borders), without the seams that

@@ -7,16 +7,16 @@ function(wayloom_qml_module target uri)
   string(REPLACE "." "/" path ${uri})
   qt_add_qml_module(${target} URI ${uri} VERSION 1.0 STATIC
     OUTPUT_DIRECTORY "${WAYLOOM_QML_OUTPUT}/${path}" RESOURCE_PREFIX /qt/qml ${ARGN})
-  target_link_libraries(${target} PRIVATE wayloom_options PUBLIC Qt6::Quick)
+  target_link_libraries(${target} PUBLIC Qt6::Quick)
   target_compile_definitions(${target} PUBLIC QT_NO_KEYWORDS)
 endfunction()
 
 wayloom_qml_module(wayloom_map Wayloom.Map)
-target_link_libraries(wayloom_map PUBLIC wayloom_regions)
+target_link_libraries(wayloom_map PRIVATE wayloom_options PUBLIC wayloom_regions)
 target_include_directories(wayloom_map PRIVATE "${CMAKE_SOURCE_DIR}/src/map")
 
 wayloom_qml_module(wayloom_screens Wayloom.Screens)
-target_link_libraries(wayloom_screens PUBLIC wayloom_map Qt6::Positioning)
+target_link_libraries(wayloom_screens PRIVATE wayloom_options PUBLIC wayloom_map Qt6::Positioning)
 
 # Layouts and kit: QML only. Each folder adds its own files with wayloom_add_layout.
 set_property(GLOBAL PROPERTY WAYLOOM_LAYOUTS "")
@@ -36,10 +36,18 @@ macro(wayloom_add_kit)
   wayloom_add_qml(WAYLOOM_KIT ${ARGN})
 endmacro()
 
+function(wayloom_set_singleton file)
+  set_source_files_properties("${CMAKE_CURRENT_SOURCE_DIR}/${file}"
+    TARGET_DIRECTORY wayloom_screens PROPERTIES QT_QML_SINGLETON_TYPE TRUE)
+endfunction()
+
 function(wayloom_finish_screen_targets)
   get_property(kit GLOBAL PROPERTY WAYLOOM_KIT)
   get_property(layouts GLOBAL PROPERTY WAYLOOM_LAYOUTS)
   wayloom_qml_module(wayloom_kit Wayloom.Kit QML_FILES ${kit})
+  file(GLOB icons CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/resources/icons/*.svg")
+  qt_add_resources(wayloom_kit icons PREFIX /icons BASE "${CMAKE_SOURCE_DIR}/resources/icons"
+    FILES ${icons})
   wayloom_qml_module(wayloom_layouts Wayloom.Layouts QML_FILES ${layouts})
   target_link_libraries(wayloom PRIVATE wayloom_screens wayloom_mapplugin wayloom_screensplugin
     wayloom_kitplugin wayloom_layoutsplugin)

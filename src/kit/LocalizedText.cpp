@@ -1,0 +1,11 @@
+#include "kit/LocalizedText.h"
+
+#include <QtCore/QCoreApplication>
+
+namespace wayloom {
+
+QString localizedText(const char* key) {
+  return QCoreApplication::translate("Wayloom", key);
+}
+
+}  // namespace wayloom

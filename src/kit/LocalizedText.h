@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QtCore/QString>
+
+namespace wayloom {
+
+/// The text for a key of the one string table; the key itself when the table has no entry. Layouts
+/// reach the same table with qsTranslate("Wayloom", key).
+QString localizedText(const char* key);
+
+}  // namespace wayloom

@@ -1,8 +1,341 @@
 import QtQuick
 import Wayloom.Kit
 import Wayloom.Map
+import Wayloom.Screens as Screens
 
-Item {
-    FlatButton { text: "hello" }
-    MapView { anchors.fill: parent }
+// The fixed-location screen: a bar with search and address, the map under a fixed centre mark, and
+// the drift panel while the position is on.
+FocusScope {
+    id: root
+
+    required property Screens.SpotloomViewController controller
+
+    Component.onCompleted: controller.viewDidLoad(mainMapView)
+
+    Connections {
+        target: root.controller
+        function onKeyboardDismissed() { mainMapView.forceActiveFocus() }
+    }
+
+    MapView {
+        id: mainMapView
+
+        objectName: "mainMapView"
+        anchors.fill: parent
+        anchors.topMargin: topView.y + topView.height
+        focus: true
+        onTapped: mainMapView.forceActiveFocus()
+        Accessible.role: Accessible.Graphic
+        Accessible.name: qsTranslate("Wayloom", "Map")
+    }
+
+    // The mark's tip is the chosen position; its shadow lies two points below.
+    Image {
+        id: locationImageView
+
+        objectName: "locationImageView"
+        anchors.horizontalCenter: mainMapView.horizontalCenter
+        anchors.bottom: mainMapView.verticalCenter
+        anchors.bottomMargin: -2
+        source: "qrc:/icons/pin.svg"
+        sourceSize: Qt.size(36, 46)
+    }
+
+    Attribution {
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: (v_auto.visible ? v_auto.height : 0) + 4
+        maximumWidth: parent.width - 2 * (btn_mine.width + 2 * FlatPalette.margin)
+        text: mainMapView.attribution
+    }
+
+    Rectangle {
+        id: bgLabel
+
+        objectName: "bgLabel"
+        width: parent.width
+        height: 20
+        color: FlatPalette.surface
+    }
+
+    Rectangle {
+        id: topView
+
+        objectName: "topView"
+        y: 20
+        width: parent.width
+        height: addressRow.y + addressRow.height
+        color: FlatPalette.surface
+
+        Row {
+            id: searchRow
+
+            x: FlatPalette.margin
+            width: parent.width - 2 * FlatPalette.margin
+            spacing: FlatPalette.spacing
+
+            FlatTextField {
+                id: searchField
+
+                objectName: "searchField"
+                width: parent.width - searchButton.width - parent.spacing
+                placeholderText: qsTranslate("Wayloom", "Enter Address Here")
+                text: root.controller.searchText
+                onTextEdited: root.controller.searchText = text
+                onAccepted: root.controller.textFieldShouldReturn()
+                inputMethodHints: Qt.ImhNoPredictiveText
+                Keys.onEscapePressed: mainMapView.forceActiveFocus()
+            }
+            FlatButton {
+                id: searchButton
+
+                objectName: "searchButton"
+                width: 92
+                text: qsTranslate("Wayloom", "Search")
+                onClicked: root.controller.searchButtonClicked()
+            }
+        }
+
+        Item {
+            id: actionRow
+
+            x: FlatPalette.margin
+            y: searchRow.height + FlatPalette.spacing
+            width: parent.width - 2 * FlatPalette.margin
+            height: FlatPalette.controlHeight
+
+            Row {
+                spacing: FlatPalette.spacing
+
+                FlatButton {
+                    id: addButton
+
+                    objectName: "addButton"
+                    width: 112
+                    text: qsTranslate("Wayloom", "Add To →")
+                    onClicked: root.controller.addToFavorites()
+                }
+                FlatButton {
+                    id: favoritesButton
+
+                    objectName: "favoritesButton"
+                    width: 112
+                    text: qsTranslate("Wayloom", "Favorites")
+                    onClicked: root.controller.showFavoritesView()
+                }
+            }
+
+            IconButton {
+                id: btn_info
+
+                objectName: "btn_info"
+                anchors.right: enableSwitch.left
+                anchors.rightMargin: FlatPalette.spacing
+                width: FlatPalette.controlHeight
+                height: FlatPalette.controlHeight
+                raised: false
+                icon.source: "qrc:/icons/info.svg"
+                onClicked: root.controller.showInfoView()
+                Accessible.name: qsTranslate("Wayloom", "Information")
+            }
+
+            FlatSwitch {
+                id: enableSwitch
+
+                objectName: "enableSwitch"
+                anchors.right: parent.right
+                anchors.verticalCenter: parent.verticalCenter
+                checked: root.controller.enabled
+                onToggled: {
+                    root.controller.setEnable(checked)
+                    // The file decides: after a refusal the switch springs back.
+                    checked = Qt.binding(() => root.controller.enabled)
+                }
+                Accessible.name: qsTranslate("Wayloom", "Fixed location")
+            }
+        }
+
+        Item {
+            id: addressRow
+
+            x: FlatPalette.margin
+            y: actionRow.y + actionRow.height + 4
+            width: parent.width - 2 * FlatPalette.margin
+            height: 36
+
+            Image {
+                id: addressMark
+
+                anchors.verticalCenter: parent.verticalCenter
+                source: "qrc:/icons/place.svg"
+                sourceSize: Qt.size(16, 16)
+            }
+            Text {
+                id: addressLabel
+
+                objectName: "addressLabel"
+                anchors.left: addressMark.right
+                anchors.leftMargin: 6
+                anchors.right: parent.right
+                height: parent.height
+                text: root.controller.addressText
+                color: FlatPalette.text
+                font.pixelSize: FlatPalette.bodySize
+                verticalAlignment: Text.AlignVCenter
+                elide: Text.ElideRight
+                textFormat: Text.PlainText
+            }
+            Spinner {
+                id: spinner
+
+                objectName: "spinner"
+                anchors.verticalCenter: parent.verticalCenter
+                anchors.left: addressLabel.left
+                visible: root.controller.spinning
+            }
+        }
+
+        Rectangle {
+            anchors.top: parent.bottom
+            width: parent.width
+            height: 1
+            color: FlatPalette.separator
+        }
+
+        // A touch beside the controls takes the keyboard away.
+        TapHandler { onTapped: mainMapView.forceActiveFocus() }
+    }
+
+    IconButton {
+        id: btn_mine
+
+        objectName: "btn_mine"
+        x: FlatPalette.margin
+        y: root.height - root.controller.buttonInset
+        icon.source: "qrc:/icons/locate.svg"
+        onClicked: root.controller.mineLocationButtonClicked()
+        Accessible.name: qsTranslate("Wayloom", "My location")
+        Behavior on y { NumberAnimation { duration: 200; easing.type: Easing.OutCubic } }
+    }
+
+    IconButton {
+        id: btn_exchange
+
+        objectName: "btn_exchange"
+        x: root.width - width - FlatPalette.margin
+        y: root.height - root.controller.buttonInset
+        cornerRadius: 8
+        icon.source: "qrc:/icons/exchange.svg"
+        onClicked: root.controller.exchange()
+        Accessible.name: qsTranslate("Wayloom", "Switch mode")
+        Behavior on y { NumberAnimation { duration: 200; easing.type: Easing.OutCubic } }
+    }
+
+    Rectangle {
+        id: v_auto
+
+        objectName: "v_auto"
+        anchors.bottom: parent.bottom
+        width: parent.width
+        height: 80
+        visible: root.controller.autoPanelShown
+        color: FlatPalette.surface
+
+        Rectangle {
+            width: parent.width
+            height: 1
+            color: FlatPalette.separator
+        }
+
+        Text {
+            id: lb_auto
+
+            objectName: "lb_auto"
+            anchors.left: parent.left
+            anchors.leftMargin: FlatPalette.margin
+            anchors.right: s_auto.left
+            anchors.rightMargin: FlatPalette.margin
+            anchors.verticalCenter: s_auto.verticalCenter
+            text: qsTranslate("Wayloom", "Turn on the switch will change your coordinate automatic in a range")
+            color: FlatPalette.text
+            font.pixelSize: FlatPalette.captionSize
+            wrapMode: Text.Wrap
+            maximumLineCount: 2
+            elide: Text.ElideRight
+        }
+
+        FlatSwitch {
+            id: s_auto
+
+            objectName: "s_auto"
+            anchors.right: parent.right
+            anchors.rightMargin: FlatPalette.margin
+            y: 8
+            checked: root.controller.drifting
+            onToggled: {
+                root.controller.setAuto(checked)
+                checked = Qt.binding(() => root.controller.drifting)
+            }
+            Accessible.name: lb_auto.text
+        }
+
+        Text {
+            id: lb_slow
+
+            objectName: "lb_slow"
+            anchors.left: parent.left
+            anchors.leftMargin: FlatPalette.margin
+            anchors.verticalCenter: sd_auto.verticalCenter
+            text: qsTranslate("Wayloom", "slow")
+            color: FlatPalette.secondaryText
+            font.pixelSize: FlatPalette.captionSize
+        }
+
+        FlatSlider {
+            id: sd_auto
+
+            objectName: "sd_auto"
+            anchors.left: lb_slow.right
+            anchors.right: lb_fast.left
+            anchors.margins: FlatPalette.spacing
+            y: 44
+            from: root.controller.driftSpeedMinimum
+            to: root.controller.driftSpeedMaximum
+            value: root.controller.driftSpeed
+            acceptsTouches: root.controller.sliderAcceptsTouches
+            tint: acceptsTouches ? FlatPalette.turquoise : FlatPalette.lockedTint
+            onMoved: {
+                root.controller.autoSlide(value)
+                value = Qt.binding(() => root.controller.driftSpeed)
+            }
+            Accessible.name: qsTranslate("Wayloom", "Drift speed")
+        }
+
+        Text {
+            id: lb_fast
+
+            objectName: "lb_fast"
+            anchors.right: parent.right
+            anchors.rightMargin: FlatPalette.margin
+            anchors.verticalCenter: sd_auto.verticalCenter
+            text: qsTranslate("Wayloom", "fast")
+            color: FlatPalette.secondaryText
+            font.pixelSize: FlatPalette.captionSize
+        }
+    }
+
+    FavoriteNamePanel {
+        id: alertView
+
+        objectName: "alertView"
+        controller: root.controller
+        onClosed: mainMapView.forceActiveFocus()
+    }
+
+    ProgressOverlay {
+        objectName: "HUD"
+        anchors.fill: parent
+        shown: root.controller.overlayShown
+        labelText: root.controller.overlayText
+    }
 }

@@ -1,0 +1,51 @@
+#include "app/AppDelegate.h"
+
+#include <QtGui/QGuiApplication>
+#include <QtQml/QQmlEngine>
+
+namespace wayloom {
+
+namespace {
+constexpr QSize kPhoneSize(375, 667);
+constexpr QSize kSmallestSize(320, 480);
+}  // namespace
+
+AppDelegate::AppDelegate(AppServices& services)
+    : mServices(services),
+      mLocationController({.files = services.files,
+                           .notice = services.notice,
+                           .location = services.location,
+                           .alerts = services.alerts,
+                           .screens = *this,
+                           .tiles = services.tiles}) {
+  connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
+          [this](Qt::ApplicationState state) {
+            if (state == Qt::ApplicationActive) didBecomeActive();
+          });
+}
+
+bool AppDelegate::didFinishLaunching() {
+  mWindow.setTitle(QStringLiteral("Wayloom"));
+  mWindow.setMinimumSize(kSmallestSize);
+  mWindow.setResizeMode(QQuickView::SizeRootObjectToView);
+  mWindow.engine()->addImportPath(QStringLiteral("qrc:/qt/qml"));
+  mWindow.setInitialProperties(
+      {{QStringLiteral("locationController"), QVariant::fromValue(&mLocationController)},
+       {QStringLiteral("alerts"), QVariant::fromValue(&mServices.alerts)}});
+  mWindow.setSource(QUrl(QStringLiteral("qrc:/qt/qml/Wayloom/Layouts/AppWindow.qml")));
+  if (mWindow.status() != QQuickView::Ready) return false;
+  mWindow.resize(kPhoneSize);
+  mWindow.show();
+  return true;
+}
+
+void AppDelegate::didBecomeActive() {
+  mLocationController.viewWillAppear();
+}
+
+void AppDelegate::changeToLocation() {}
+void AppDelegate::changeToRouter() {}
+void AppDelegate::presentFavorites(SpotloomViewController& /*delegate*/) {}
+void AppDelegate::presentInfo() {}
+
+}  // namespace wayloom

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+
+#include "kit/AlertPresenter.h"
+#include "map/TileSource.h"
+#include "places/LocationClass.h"
+#include "platform/QtMainQueue.h"
+#include "platform/RegionGeocoder.h"
+#include "platform/SettingsDefaults.h"
+#include "platform/SystemNotices.h"
+#include "regions/RegionStore.h"
+#include "settings/SettingsFiles.h"
+
+namespace wayloom {
+
+/// Everything the platform gives the application, made once at start from what the command line
+/// says. Lives on the main thread, longer than any screen.
+class AppServices {
+ public:
+  struct Options {
+    std::optional<std::filesystem::path> root;
+    std::optional<std::filesystem::path> regions;
+    /// Ask nobody where the device is: the configured position answers.
+    bool configuredPositionOnly = false;
+  };
+
+  explicit AppServices(const Options& options);
+
+  SettingsFiles files;
+  SystemNotices notice;
+  RegionStore regions;
+  QtMainQueue mainQueue;
+  RegionGeocoder geocoder;
+  SettingsDefaults defaults;
+  AlertPresenter alerts;
+  LocationClass location;
+  std::shared_ptr<TileSource> tiles;
+
+ private:
+  LocationPlatform locationPlatform(bool configuredPositionOnly);
+};
+
+}  // namespace wayloom

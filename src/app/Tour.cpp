@@ -1,0 +1,137 @@
+#include "app/Tour.h"
+
+#include <cstdio>
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QDeadlineTimer>
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtGui/QImage>
+#include <QtGui/QKeyEvent>
+#include <QtGui/QMouseEvent>
+#include <QtQuick/QQuickItem>
+
+namespace wayloom {
+
+namespace {
+constexpr std::chrono::seconds kPatience{30};
+}
+
+Tour::Tour(QQuickView& window, SettingsFiles& files, const QString& directory)
+    : mWindow(window), mFiles(files), mDirectory(directory) {}
+
+bool Tour::run() {
+  if (!QDir().mkpath(mDirectory)) {
+    std::fprintf(stderr, "wayloom: cannot make the folder %s\n", qPrintable(mDirectory));
+    return false;
+  }
+  if (!pinPlace() || !saveFavorite()) return false;
+  for (const SettingsFile name : {SettingsFile::Location, SettingsFile::Favorites}) printFile(name);
+  return true;
+}
+
+bool Tour::pinPlace() {
+  if (!waitForMap() || !savePicture("start")) return false;
+
+  if (!click("searchField")) return false;
+  type(QStringLiteral("kungsportsavenyn göteborg"));
+  press(Qt::Key_Return);
+  const bool found = waitUntil("the searched address", [this] {
+    return !find("HUD")->property("shown").toBool() && !find("spinner")->isVisible() &&
+           !find("addressLabel")->property("text").toString().isEmpty();
+  });
+  if (!found || !waitForMap() || !savePicture("search")) return false;
+
+  // Where no file was yet, the switch springs back once.
+  if (!click("enableSwitch")) return false;
+  if (!find("v_auto")->isVisible() && !click("enableSwitch")) return false;
+  return click("s_auto") && click("sd_auto") && waitForMap() && savePicture("pinned");
+}
+
+bool Tour::saveFavorite() {
+  if (!click("addButton")) return false;
+  const bool asked =
+      waitUntil("the name panel", [this] { return find("alertView")->opacity() == 1.0; });
+  if (!asked || !savePicture("favourite") || !click("okButton")) return false;
+  return waitUntil("the name panel's end", [this] { return !find("alertView")->isVisible(); });
+}
+
+QQuickItem* Tour::find(const char* objectName) const {
+  return mWindow.rootObject()->findChild<QQuickItem*>(QString::fromLatin1(objectName));
+}
+
+bool Tour::click(const char* objectName) {
+  QQuickItem* item = find(objectName);
+  if (!item || !item->isVisible() || !item->isEnabled()) {
+    std::fprintf(stderr, "wayloom: there is no %s to click\n", objectName);
+    return false;
+  }
+  const QPointF point = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
+  const QPointF global = mWindow.mapToGlobal(point);
+  for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+    const Qt::MouseButtons held = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
+    QMouseEvent event(type, point, point, global, Qt::LeftButton, held, Qt::NoModifier);
+    QCoreApplication::sendEvent(&mWindow, &event);
+  }
+  return true;
+}
+
+void Tour::type(const QString& text) {
+  for (const QChar character : text) {
+    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+      QKeyEvent event(type, 0, Qt::NoModifier, character);
+      QCoreApplication::sendEvent(&mWindow, &event);
+    }
+  }
+}
+
+void Tour::press(Qt::Key key) {
+  for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+    QKeyEvent event(type, key, Qt::NoModifier);
+    QCoreApplication::sendEvent(&mWindow, &event);
+  }
+}
+
+bool Tour::waitUntil(const char* what, const Condition& condition) {
+  const QDeadlineTimer deadline(kPatience);
+  while (!condition()) {
+    if (deadline.hasExpired()) {
+      std::fprintf(stderr, "wayloom: %s did not come about\n", what);
+      return false;
+    }
+    QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+  }
+  return true;
+}
+
+bool Tour::waitForMap() {
+  // The map stands still and complete for a moment, so that no animation is caught half way.
+  QDeadlineTimer still(std::chrono::milliseconds(400));
+  return waitUntil("the map", [&] {
+    const QQuickItem* map = find("mainMapView");
+    const bool settled = map->property("complete").toBool() && !map->property("moving").toBool();
+    if (!settled) still.setRemainingTime(400);
+    return settled && still.hasExpired();
+  });
+}
+
+bool Tour::savePicture(const char* name) {
+  const QString path =
+      QDir(mDirectory)
+          .filePath(QStringLiteral("%1-%2.png").arg(++mPictures).arg(QLatin1String(name)));
+  if (!mWindow.grabWindow().save(path)) {
+    std::fprintf(stderr, "wayloom: cannot save the picture %s\n", qPrintable(path));
+    return false;
+  }
+  std::printf("%s\n", qPrintable(path));
+  return true;
+}
+
+void Tour::printFile(SettingsFile name) const {
+  const std::filesystem::path& path = mFiles.path(name);
+  QFile file(QString::fromStdString(path.string()));
+  if (!file.open(QIODevice::ReadOnly)) return;
+  std::printf("\n%s\n%s", path.c_str(), file.readAll().constData());
+}
+
+}  // namespace wayloom

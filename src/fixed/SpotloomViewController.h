@@ -1,0 +1,151 @@
+#pragma once
+
+#include <QtCore/QObject>
+#include <QtCore/QPointer>
+#include <QtCore/QString>
+#include <QtQml/qqmlregistration.h>
+
+#include "app/ScreenSwitcher.h"
+#include "fixed/FixedLocation.h"
+#include "lists/Favorites.h"
+#include "map/MapView.h"
+#include "places/LocationClass.h"
+#include "platform/Alerts.h"
+
+namespace wayloom {
+
+/// The fixed-location screen: the centre of its map is the position that can be pinned. It brings
+/// the controls in line with the location settings file and hands every touch to FixedLocation.
+/// Made by the application and alive as long as it; main thread only.
+class SpotloomViewController : public QObject, public LocationDelegate {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("the application makes it")
+  Q_PROPERTY(bool enabled READ enabled NOTIFY changed)
+  Q_PROPERTY(bool autoPanelShown READ autoPanelShown NOTIFY changed)
+  Q_PROPERTY(bool drifting READ drifting NOTIFY changed)
+  Q_PROPERTY(double driftSpeed READ driftSpeed NOTIFY changed)
+  Q_PROPERTY(double driftSpeedMinimum READ driftSpeedMinimum CONSTANT)
+  Q_PROPERTY(double driftSpeedMaximum READ driftSpeedMaximum CONSTANT)
+  Q_PROPERTY(bool sliderAcceptsTouches READ sliderAcceptsTouches NOTIFY changed)
+  Q_PROPERTY(int buttonInset READ buttonInset NOTIFY changed)
+  Q_PROPERTY(QString addressText READ addressText NOTIFY changed)
+  Q_PROPERTY(bool spinning READ spinning NOTIFY changed)
+  Q_PROPERTY(bool overlayShown READ overlayShown NOTIFY changed)
+  Q_PROPERTY(QString overlayText READ overlayText NOTIFY changed)
+  Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY changed)
+  Q_PROPERTY(QString favoriteName READ favoriteName WRITE setFavoriteName NOTIFY changed)
+  Q_PROPERTY(bool namingFavorite READ namingFavorite NOTIFY changed)
+
+ public:
+  struct Services {
+    SettingsFiles& files;
+    ChangeNotice& notice;
+    LocationClass& location;
+    Alerts& alerts;
+    ScreenSwitcher& screens;
+    std::shared_ptr<TileSource> tiles;
+  };
+
+  explicit SpotloomViewController(const Services& services, QObject* parent = nullptr);
+
+  /// The layout is there; `mainMapView` belongs to it.
+  Q_INVOKABLE void viewDidLoad(wayloom::MapView* mainMapView);
+  /// The screen appears, or the application came to the front while it is the current one.
+  void viewWillAppear();
+
+  /// Reloads the settings and brings every control in line with them; with location, the map too.
+  void refreshViewByStatusWithLocation(bool withLocation);
+  void refreshButtonWithEnable(bool enabled);
+  void refreshAuotViewWithEnable(bool on);
+
+  Q_INVOKABLE void setEnable(bool on);
+  Q_INVOKABLE void exchange();
+  Q_INVOKABLE void setAuto(bool on);
+  Q_INVOKABLE void autoSlide(double speed);
+  Q_INVOKABLE void searchButtonClicked();
+  Q_INVOKABLE bool textFieldShouldReturn();
+  Q_INVOKABLE void mineLocationButtonClicked();
+  Q_INVOKABLE void addToFavorites();
+  Q_INVOKABLE void okButtonClicked();
+  Q_INVOKABLE void cancelButtonClicked();
+  Q_INVOKABLE void showFavoritesView();
+  Q_INVOKABLE void showInfoView();
+
+  /// A favourite was chosen on another screen.
+  void favoritesDidSelected();
+
+  void locationSuccess(Location* location, double latitude, double longitude) override;
+  void locationFailed(Location* location, const std::optional<std::string>& error) override;
+  void reverseGeocoderSuccess(Location* location, const std::string& address) override;
+  void reverseGeocoderFailed(Location* location, const std::optional<std::string>& error) override;
+  void geocoderSuccess(Location* location, Coordinate coordinate) override;
+  void geocoderFailed(Location* location, const std::optional<std::string>& error) override;
+  // For geocoding services that report this way; Location does not.
+  void geocoderSuccess(Location* location, const std::string& address);
+  void geocoderCoordinateFailed(Location* location, const std::optional<std::string>& error);
+
+  bool enabled() const { return mView.enabled; }
+  bool autoPanelShown() const { return mView.autoPanelShown; }
+  bool drifting() const { return mView.drifting; }
+  double driftSpeed() const { return mView.driftSpeed; }
+  double driftSpeedMinimum() const { return kDriftSpeedMinimum; }
+  double driftSpeedMaximum() const { return kDriftSpeedMaximum; }
+  bool sliderAcceptsTouches() const { return mView.sliderAcceptsTouches; }
+  int buttonInset() const { return mView.buttonInset; }
+  QString addressText() const { return mView.addressText; }
+  bool spinning() const { return mView.spinning; }
+  bool overlayShown() const { return mView.overlayShown && mOverlayAttached; }
+  QString overlayText() const { return mView.overlayText; }
+  QString searchText() const { return mView.searchText; }
+  void setSearchText(const QString& text);
+  QString favoriteName() const { return mView.favoriteName; }
+  void setFavoriteName(const QString& name);
+  bool namingFavorite() const { return mView.namingFavorite; }
+
+ Q_SIGNALS:
+  void changed();
+  /// The search field gives up the keyboard.
+  void keyboardDismissed();
+
+ private:
+  /// What the controls show.
+  struct View {
+    bool enabled = false;
+    bool autoPanelShown = false;
+    bool drifting = false;
+    double driftSpeed = kDriftSpeedMinimum;
+    bool sliderAcceptsTouches = false;
+    int buttonInset = 0;
+    QString addressText;
+    bool spinning = false;
+    bool overlayShown = false;
+    QString overlayText;
+    QString searchText;
+    QString favoriteName;
+    bool namingFavorite = false;
+
+    bool operator==(const View&) const = default;
+  };
+
+  /// Applies a change to what the controls show and announces it if there is one.
+  template <typename Change>
+  void update(Change&& change);
+
+  void regionWillChange();
+  void regionDidChange();
+  void showAddress(const QString& address);
+  void showPoint(Coordinate coordinate);
+  void startLocation();
+
+  Services mServices;
+  FixedLocation mFixedLocation;
+  Favorites mFavorites;
+  QPointer<MapView> mMainMapView;
+  View mView;
+  /// The overlay is attached to no view until the first address search; showing it before that
+  /// shows nothing.
+  bool mOverlayAttached = false;
+};
+
+}  // namespace wayloom

@@ -1,0 +1,102 @@
+#pragma once
+
+#include <memory>
+
+#include <QtQml/QQmlEngine>
+#include <QtQuick/QQuickItem>
+#include <QtQuick/QQuickView>
+#include <QtTest/QTest>
+
+#include "kit/AlertPresenter.h"
+#include "map/TileSource.h"
+#include "places/LocationClass.h"
+#include "tests/support/FakePlatform.h"
+#include "tests/support/RecordedNotice.h"
+#include "tests/support/TemporaryRoot.h"
+
+namespace wayloom {
+
+/// Tiles of one colour, drawn at once.
+class PlainTiles : public TileSource {
+ public:
+  QImage draw(const TileKey& /*key*/, double /*scale*/) override {
+    QImage image(8, 8, QImage::Format_RGB32);
+    image.fill(Qt::lightGray);
+    return image;
+  }
+  int concurrency() const override { return 1; }
+  int maximumZoom() const override { return 18; }
+  QStringList attributions(double, double, double, double) const override { return {"Test"}; }
+};
+
+/// What a screen stands on in a test: real files under a root of their own, and fakes that answer
+/// when the test says so. Layouts are shown off screen and touched with real events.
+class ScreenHarness {
+ public:
+  TemporaryRoot root;
+  SettingsFiles files{root.path()};
+  RecordedNotice notice{files};
+  FakeGeocoder geocoder;
+  FakeDefaults defaults;
+  AlertPresenter alerts;
+  FakePositionSource* position = nullptr;
+  LocationClass location{LocationPlatform{[] { return true; },
+                                          [this] {
+                                            auto made = std::make_unique<FakePositionSource>();
+                                            position = made.get();
+                                            return made;
+                                          },
+                                          {},
+                                          geocoder,
+                                          defaults,
+                                          alerts}};
+  std::shared_ptr<TileSource> tiles = std::make_shared<PlainTiles>();
+  QQuickView view;
+
+  /// Shows a layout of the module Wayloom.Layouts with these properties set.
+  [[nodiscard]] bool show(const QString& layout, const QVariantMap& properties) {
+    view.engine()->addImportPath("qrc:/qt/qml");
+    view.setResizeMode(QQuickView::SizeRootObjectToView);
+    view.setInitialProperties(properties);
+    view.setSource(QUrl("qrc:/qt/qml/Wayloom/Layouts/" + layout + ".qml"));
+    view.resize(375, 667);
+    view.show();
+    return view.status() == QQuickView::Ready && QTest::qWaitForWindowExposed(&view);
+  }
+
+  QQuickItem* find(const char* objectName) const {
+    return view.rootObject()->findChild<QQuickItem*>(objectName);
+  }
+
+  QPoint centerOf(const char* objectName) const {
+    const QQuickItem* item = find(objectName);
+    return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
+  }
+
+  void click(const char* objectName) {
+    QTest::mouseClick(&view, Qt::LeftButton, Qt::NoModifier, centerOf(objectName));
+  }
+
+  void type(const QString& text) {
+    for (const QChar character : text)
+      QTest::sendKeyEvent(QTest::Click, &view, Qt::Key_unknown, character, Qt::NoModifier);
+  }
+
+  /// Drags by `offset` and rests before letting go, so that the map does not run on.
+  void drag(const char* objectName, QPoint offset) {
+    const QPoint from = centerOf(objectName);
+    QTest::mousePress(&view, Qt::LeftButton, Qt::NoModifier, from);
+    constexpr int kSteps = 8;
+    for (int step = 1; step <= kSteps; ++step) {
+      QTest::mouseMove(&view, from + offset * step / kSteps, 10);
+    }
+    QTest::mouseMove(&view, from + offset, 300);
+    QTest::mouseRelease(&view, Qt::LeftButton, Qt::NoModifier, from + offset);
+  }
+
+  std::map<std::string, std::string> stored(SettingsFile name) const {
+    return textsIn(files, name);
+  }
+};
+
+}  // namespace wayloom

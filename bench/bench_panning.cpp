@@ -15,10 +15,11 @@
 #include <QtCore/QThread>
 #include <QtCore/QTimer>
 #include <QtGui/QGuiApplication>
-#include <QtGui/QPainter>
 #include <QtQuick/QQuickWindow>
 
 #include "map/MapView.h"
+#include "map/MapnikTileSource.h"
+#include "regions/RegionDirectories.h"
 
 namespace wayloom {
 namespace {
@@ -26,35 +27,6 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr Coordinate kGothenburg{57.705, 11.965};
-
-/// Paints streets that are not there, at about the cost of real ones.
-class PaintedTileSource : public TileSource {
- public:
-  QImage draw(const TileKey& key, double scale) override {
-    const int pixels = static_cast<int>(512 * scale);
-    QImage image(pixels, pixels, QImage::Format_RGB32);
-    image.fill(QColor(0xf2, 0xef, 0xe9));
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(scale, scale);
-    std::mt19937 random(static_cast<unsigned>(key.zoom * 7919 + key.x * 104729 + key.y));
-    std::uniform_real_distribution<double> anywhere(0, 512);
-    for (int i = 0; i < 2500; ++i) {
-      const QPointF from(anywhere(random), anywhere(random));
-      const QPointF to = from + QPointF(anywhere(random) - 256, anywhere(random) - 256) / 4;
-      painter.setPen(
-          QPen(i % 2 ? Qt::white : QColor(0xd0, 0xc8, 0xb8), 4, Qt::SolidLine, Qt::RoundCap));
-      painter.drawLine(from, to);
-    }
-    painter.setPen(Qt::darkGray);
-    painter.drawRect(QRectF(0.5, 0.5, 511, 511));
-    painter.drawText(16, 32, QStringLiteral("%1 / %2 / %3").arg(key.zoom).arg(key.x).arg(key.y));
-    return image;
-  }
-  int concurrency() const override { return 2; }
-  int maximumZoom() const override { return 19; }
-  QStringList attributions(double, double, double, double) const override { return {}; }
-};
 
 /// Notes how long the main thread was busy with each event, in milliseconds of the clock and of
 /// work: nothing else can be answered meanwhile.
@@ -154,7 +126,7 @@ int run(TimedApplication& application, int seconds, bool withLine, const QString
   window.resize(375, 667);
   MapView map(window.contentItem());
   map.setSize({375, 667});
-  map.setTileSource(std::make_shared<PaintedTileSource>());
+  map.setTileSource(std::make_shared<MapnikTileSource>(RegionStore(regionDirectories()).regions()));
   if (withLine) map.addOverlay(longLine());
   map.addAnnotation(
       std::make_shared<MapPointAnnotation>(MapPointAnnotation{kGothenburg, 1, {}, {}}));

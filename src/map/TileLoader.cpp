@@ -3,10 +3,18 @@
 #include <algorithm>
 #include <utility>
 
+#include <sys/resource.h>
+
 namespace wayloom {
 
 namespace {
 constexpr int kMostWorkers = 16;
+
+/// Where a thread and the main thread both want the processor, the main thread shall have it.
+void yieldToMainThread() {
+  constexpr int kNice = 10;
+  setpriority(PRIO_PROCESS, 0, kNice);  // On Linux this is the calling thread's own.
+}
 }
 
 std::shared_ptr<TileLoader> TileLoader::of(const std::shared_ptr<TileSource>& source) {
@@ -67,6 +75,7 @@ QImage TileLoader::image(const TileRequest& tile) {
 }
 
 void TileLoader::work(std::stop_token stop) {
+  yieldToMainThread();
   while (true) {
     TileRequest tile;
     {

@@ -1,5 +1,7 @@
 #include "platform/QtPositionSource.h"
 
+#include <QtCore/QFile>
+#include <QtCore/QStandardPaths>
 #include <QtPositioning/QGeoCoordinate>
 
 namespace wayloom {
@@ -13,12 +15,23 @@ double accuracyOf(const QGeoPositionInfo& info) {
              : 0;
 }
 
+/// Whether the desktop's service can be there at all. Its plugin is often installed without it, and
+/// then reports every request as denied.
+bool isGeoClueInstalled() {
+  return QFile::exists(QStringLiteral("/run/dbus/system_bus_socket")) &&
+         !QStandardPaths::locate(
+              QStandardPaths::GenericDataLocation,
+              QStringLiteral("dbus-1/system-services/org.freedesktop.GeoClue2.service"))
+              .isEmpty();
+}
+
 }  // namespace
 
 std::unique_ptr<PositionSource> QtPositionSource::make(std::unique_ptr<PositionSource> standIn) {
   std::unique_ptr<QGeoPositionInfoSource> source(
       QGeoPositionInfoSource::createDefaultSource(nullptr));
-  if (!source) return standIn;
+  const bool isGeoClue = source && source->sourceName() == QLatin1String("geoclue2");
+  if (!source || (isGeoClue && !isGeoClueInstalled())) return standIn;
   return std::make_unique<QtPositionSource>(std::move(source), std::move(standIn));
 }
 
@@ -42,12 +55,18 @@ void QtPositionSource::setDesiredAccuracyBest() {
 
 void QtPositionSource::startUpdatingLocation() {
   mHasReported = false;
+  mIsUpdating = true;
   mSource->startUpdates();
 }
 
 void QtPositionSource::stopUpdatingLocation() {
-  mSource->stopUpdates();
+  stopSource();
   mStandIn->stopUpdatingLocation();
+}
+
+void QtPositionSource::stopSource() {
+  if (mIsUpdating) mSource->stopUpdates();
+  mIsUpdating = false;
 }
 
 void QtPositionSource::positionUpdated(const QGeoPositionInfo& info) {
@@ -74,7 +93,7 @@ void QtPositionSource::errorOccurred(QGeoPositionInfoSource::Error error) {
     mDelegate->didFailWithError(PositionError{0, "The position service gave no position"});
   } else {
     // The service is not there after all.
-    mSource->stopUpdates();
+    stopSource();
     mStandIn->startUpdatingLocation();
   }
 }

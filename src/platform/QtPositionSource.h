@@ -33,6 +33,7 @@ class QtPositionSource : public QObject, public PositionSource {
  private:
   void positionUpdated(const QGeoPositionInfo& info);
   void errorOccurred(QGeoPositionInfoSource::Error error);
+  void stopSource();
 
   std::unique_ptr<QGeoPositionInfoSource> mSource;
   std::unique_ptr<PositionSource> mStandIn;
@@ -40,6 +41,7 @@ class QtPositionSource : public QObject, public PositionSource {
   double mDistanceFilterMetres = 0;
   Coordinate mLastReported;
   bool mHasReported = false;
+  bool mIsUpdating = false;
 };
 
 }  // namespace wayloom

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include <QtGui/QGuiApplication>
+
 #include "map/MapnikTileSource.h"
 #include "platform/ConfiguredPosition.h"
 #include "platform/QtPositionSource.h"
@@ -35,7 +37,14 @@ AppServices::AppServices(const Options& options)
       regions(regionDirectories(options.regions)),
       geocoder(regions, mainQueue),
       location(locationPlatform(options.configuredPositionOnly)),
-      tiles(std::make_shared<MapnikTileSource>(regions.regions())) {}
+      tiles(std::make_shared<MapnikTileSource>(regions.regions())),
+      mTileLoader(TileLoader::of(tiles)) {
+  mTileLoader->want(this, {{TileKey{0, 0, 0}, qGuiApp->devicePixelRatio()}});
+}
+
+AppServices::~AppServices() {
+  mTileLoader->forget(this);
+}
 
 LocationPlatform AppServices::locationPlatform(bool configuredPositionOnly) {
   return {

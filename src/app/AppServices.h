@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "kit/AlertPresenter.h"
+#include "map/TileLoader.h"
 #include "map/TileSource.h"
 #include "places/LocationClass.h"
 #include "platform/QtMainQueue.h"
@@ -28,6 +29,9 @@ class AppServices {
   };
 
   explicit AppServices(const Options& options);
+  ~AppServices();
+  AppServices(const AppServices&) = delete;
+  AppServices& operator=(const AppServices&) = delete;
 
   SettingsFiles files;
   SystemNotices notice;
@@ -41,6 +45,10 @@ class AppServices {
 
  private:
   LocationPlatform locationPlatform(bool configuredPositionOnly);
+
+  /// Draws the world's tile while the screens are still being loaded: the map then starts with its
+  /// style and fonts read.
+  std::shared_ptr<TileLoader> mTileLoader;
 };
 
 }  // namespace wayloom

@@ -1,6 +1,9 @@
 #include "app/Tour.h"
 
 #include <cstdio>
+#include <ctime>
+#include <optional>
+#include <unistd.h>
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDeadlineTimer>
@@ -14,8 +17,23 @@
 namespace wayloom {
 
 namespace {
+
 constexpr std::chrono::seconds kPatience{30};
+
+/// How long this process has run, as the system counts it; none where it does not tell.
+std::optional<double> secondsSinceStart() {
+  QFile stat(QStringLiteral("/proc/self/stat"));
+  timespec now{};
+  if (!stat.open(QIODevice::ReadOnly) || clock_gettime(CLOCK_BOOTTIME, &now) != 0) return {};
+  const QByteArray line = stat.readAll();
+  // Behind the name, which may hold blanks, the start is the 20th field, in clock ticks since boot.
+  const QList<QByteArray> fields = line.mid(line.lastIndexOf(')') + 2).split(' ');
+  if (fields.size() < 20) return {};
+  const double started = fields[19].toDouble() / static_cast<double>(sysconf(_SC_CLK_TCK));
+  return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) / 1e9 - started;
 }
+
+}  // namespace
 
 Tour::Tour(QQuickView& window, SettingsFiles& files, const QString& directory)
     : mWindow(window), mFiles(files), mDirectory(directory) {}
@@ -31,6 +49,12 @@ bool Tour::run() {
 }
 
 bool Tour::pinPlace() {
+  const bool drawn = waitUntil(
+      "the first map", [this] { return find("mainMapView")->property("complete").toBool(); });
+  if (!drawn) return false;
+  if (const auto seconds = secondsSinceStart()) {
+    std::printf("The first complete map stood %.2f s after the start.\n", *seconds);
+  }
   if (!waitForMap() || !savePicture("start")) return false;
 
   if (!click("searchField")) return false;

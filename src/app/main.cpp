@@ -2,6 +2,7 @@
 #include <cstdio>
 
 #include <QtCore/QCommandLineParser>
+#include <QtCore/QTranslator>
 #include <QtGui/QGuiApplication>
 
 #include "app/AppDelegate.h"
@@ -24,6 +25,12 @@ int main(int argc, char* argv[]) {
   QGuiApplication::setOrganizationName(QStringLiteral("wayloom"));
   QGuiApplication::setApplicationName(QStringLiteral("wayloom"));
   QGuiApplication::setApplicationVersion(QStringLiteral(WAYLOOM_VERSION));
+
+  // English stands behind every language: some keys of the string table are no English.
+  QTranslator english;
+  if (english.load(QStringLiteral(":/translations/wayloom_en.qm"))) {
+    QGuiApplication::installTranslator(&english);
+  }
 
   QCommandLineParser parser;
   parser.setApplicationDescription(QStringLiteral("Decides where the phone says it is."));

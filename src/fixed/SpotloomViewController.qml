@@ -105,13 +105,15 @@ FocusScope {
             height: FlatPalette.controlHeight
 
             Row {
+                readonly property real buttonWidth: Math.min(112, (btn_info.x - 2 * spacing) / 2)
+
                 spacing: FlatPalette.spacing
 
                 FlatButton {
                     id: addButton
 
                     objectName: "addButton"
-                    width: 112
+                    width: parent.buttonWidth
                     text: qsTranslate("Wayloom", "Add To →")
                     onClicked: root.controller.addToFavorites()
                 }
@@ -119,7 +121,7 @@ FocusScope {
                     id: favoritesButton
 
                     objectName: "favoritesButton"
-                    width: 112
+                    width: parent.buttonWidth
                     text: qsTranslate("Wayloom", "Favorites")
                     onClicked: root.controller.showFavoritesView()
                 }

@@ -233,97 +233,13 @@ FocusScope {
         Behavior on y { NumberAnimation { duration: 200; easing.type: Easing.OutCubic } }
     }
 
-    Rectangle {
+    DriftPanel {
         id: v_auto
 
         objectName: "v_auto"
         anchors.bottom: parent.bottom
         width: parent.width
-        height: 80
-        visible: root.controller.autoPanelShown
-        color: FlatPalette.surface
-
-        Rectangle {
-            width: parent.width
-            height: 1
-            color: FlatPalette.separator
-        }
-
-        Text {
-            id: lb_auto
-
-            objectName: "lb_auto"
-            anchors.left: parent.left
-            anchors.leftMargin: FlatPalette.margin
-            anchors.right: s_auto.left
-            anchors.rightMargin: FlatPalette.margin
-            anchors.verticalCenter: s_auto.verticalCenter
-            text: qsTranslate("Wayloom", "Turn on the switch will change your coordinate automatic in a range")
-            color: FlatPalette.text
-            font.pixelSize: FlatPalette.captionSize
-            wrapMode: Text.Wrap
-            maximumLineCount: 2
-            elide: Text.ElideRight
-        }
-
-        FlatSwitch {
-            id: s_auto
-
-            objectName: "s_auto"
-            anchors.right: parent.right
-            anchors.rightMargin: FlatPalette.margin
-            y: 8
-            checked: root.controller.drifting
-            onToggled: {
-                root.controller.setAuto(checked)
-                checked = Qt.binding(() => root.controller.drifting)
-            }
-            Accessible.name: lb_auto.text
-        }
-
-        Text {
-            id: lb_slow
-
-            objectName: "lb_slow"
-            anchors.left: parent.left
-            anchors.leftMargin: FlatPalette.margin
-            anchors.verticalCenter: sd_auto.verticalCenter
-            text: qsTranslate("Wayloom", "slow")
-            color: FlatPalette.secondaryText
-            font.pixelSize: FlatPalette.captionSize
-        }
-
-        FlatSlider {
-            id: sd_auto
-
-            objectName: "sd_auto"
-            anchors.left: lb_slow.right
-            anchors.right: lb_fast.left
-            anchors.margins: FlatPalette.spacing
-            y: 44
-            from: root.controller.driftSpeedMinimum
-            to: root.controller.driftSpeedMaximum
-            value: root.controller.driftSpeed
-            acceptsTouches: root.controller.sliderAcceptsTouches
-            tint: acceptsTouches ? FlatPalette.turquoise : FlatPalette.lockedTint
-            onMoved: {
-                root.controller.autoSlide(value)
-                value = Qt.binding(() => root.controller.driftSpeed)
-            }
-            Accessible.name: qsTranslate("Wayloom", "Drift speed")
-        }
-
-        Text {
-            id: lb_fast
-
-            objectName: "lb_fast"
-            anchors.right: parent.right
-            anchors.rightMargin: FlatPalette.margin
-            anchors.verticalCenter: sd_auto.verticalCenter
-            text: qsTranslate("Wayloom", "fast")
-            color: FlatPalette.secondaryText
-            font.pixelSize: FlatPalette.captionSize
-        }
+        controller: root.controller
     }
 
     FavoriteNamePanel {

@@ -59,6 +59,7 @@ GeocoderAnswer reverseGeocodeNow(CommandLine& line, Coordinate coordinate) {
 }
 
 ResolvedPlace resolvePlace(CommandLine& line, const std::string& argument) {
+  if (trimmedText(argument).empty()) return line.wrongUsage("the place is empty");
   const bool marked = argument.starts_with("#:");
   const std::string text = marked ? argument.substr(2) : argument;
   if (marked || looksLikeCoordinate(text)) {
@@ -68,11 +69,10 @@ ResolvedPlace resolvePlace(CommandLine& line, const std::string& argument) {
                            "90 and longitude within 180");
   }
   const std::string address = trimmedText(text);
-  if (address.empty()) return line.wrongUsage("the place is empty");
   const GeocoderAnswer answer = geocodeNow(line, address, std::nullopt);
   if (answer.places && !answer.places->empty()) return answer.places->front();
-  return line.fail("no place found for '" + address +
-                   "': try another spelling, or give LATITUDE,LONGITUDE");
+  return line.fail(answer.error.value_or("nothing found") + ": '" + address +
+                   "'; try another spelling, or give LATITUDE,LONGITUDE");
 }
 
 }  // namespace wayloom

@@ -1,9 +1,8 @@
 #include "map/TileLoader.h"
 
 #include <algorithm>
-#include <utility>
-
 #include <sys/resource.h>
+#include <utility>
 
 namespace wayloom {
 
@@ -15,7 +14,7 @@ void yieldToMainThread() {
   constexpr int kNice = 10;
   setpriority(PRIO_PROCESS, 0, kNice);  // On Linux this is the calling thread's own.
 }
-}
+}  // namespace
 
 std::shared_ptr<TileLoader> TileLoader::of(const std::shared_ptr<TileSource>& source) {
   static std::map<const TileSource*, std::weak_ptr<TileLoader>> loaders;

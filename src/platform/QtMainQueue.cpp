@@ -16,7 +16,9 @@ void QtMainQueue::post(std::function<void()> work) {
   QMetaObject::invokeMethod(this, std::move(work), Qt::QueuedConnection);
 }
 
-bool QtMainQueue::isMainThread() const { return QThread::currentThread() == thread(); }
+bool QtMainQueue::isMainThread() const {
+  return QThread::currentThread() == thread();
+}
 
 std::unique_ptr<MainQueue::Timer> QtMainQueue::schedule(std::chrono::milliseconds delay,
                                                         std::function<void()> work) {

@@ -96,11 +96,10 @@ Status keepUnderFurtherName(const fs::path& path, fs::path& furtherName) {
         fs::copy_file(path, furtherName, error)) {
       return done();
     }
-    return failed("cannot set aside the damaged " + path.string() + ": " +
-                           error.message());
+    return failed("cannot set aside the damaged " + path.string() + ": " + error.message());
   }
   return failed("cannot set aside the damaged " + path.string() + ": " +
-                         std::to_string(kLastSetAsideNumber) + " are kept already, remove some");
+                std::to_string(kLastSetAsideNumber) + " are kept already, remove some");
 }
 
 }  // namespace

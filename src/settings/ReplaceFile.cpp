@@ -18,8 +18,7 @@ namespace fs = std::filesystem;
 constexpr int kNameAttempts = 16;
 
 Status systemFailure(const std::string& what, const fs::path& path, int error) {
-  return failed(what + " " + path.string() + ": " +
-                         std::generic_category().message(error));
+  return failed(what + " " + path.string() + ": " + std::generic_category().message(error));
 }
 
 /// Sixteen random digits: a temporary's name must not be guessable, or another process could stand

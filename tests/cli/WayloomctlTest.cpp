@@ -1,0 +1,141 @@
+#include <algorithm>
+#include <cstdlib>
+#include <sys/wait.h>
+
+#include "tests/regions/SmallIndex.h"
+#include "tests/support/TemporaryRoot.h"
+
+namespace wayloom {
+namespace {
+
+using testing::HasSubstr;
+using Texts = std::map<std::string, std::string>;
+
+/// Runs the real program as a shell does, on files and regions of the test's own.
+class WayloomctlTest : public testing::Test {
+ protected:
+  struct Run {
+    int status;
+    std::string out, err;
+  };
+
+  Run run(const std::string& arguments) const {
+    const auto out = root.path() / "out";
+    const auto err = root.path() / "err";
+    const std::string command =
+        "DBUS_SESSION_BUS_ADDRESS=unix:path=/nonexistent XDG_CONFIG_HOME='" + root.path().string() +
+        "' '" WAYLOOMCTL "' --root '" + root.path().string() + "' --regions '" +
+        index.folder().path().string() + "' " + arguments + " > '" + out.string() + "' 2> '" +
+        err.string() + "'";
+    const int status = std::system(command.c_str());
+    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, bytesOf(out), bytesOf(err)};
+  }
+  Texts location() const { return textsIn(SettingsFiles(root.path()), SettingsFile::Location); }
+  std::string mode() const {
+    return textsIn(SettingsFiles(root.path()), SettingsFile::Master)["mode"];
+  }
+
+  TemporaryRoot root;
+  SmallIndex index{{settlement("Paris", "Île-de-France", "France", {48.85, 2.35}, 2138551),
+                    settlement("Vaduz", "Vaduz", "Liechtenstein", {47.14, 9.52}, 5197)}};
+};
+
+TEST_F(WayloomctlTest, WritesWhatTheScreenWouldWrite) {
+  EXPECT_EQ(run("fixed on").status, 1) << "no position was ever chosen";
+  EXPECT_EQ(location(), (Texts{{"(missing)", ""}}));
+  const Run moved = run("fixed move 1,2");
+  EXPECT_EQ(moved.status, 1);
+  EXPECT_THAT(moved.err, HasSubstr("nothing was written"));
+  EXPECT_EQ(location(), (Texts{{"(missing)", ""}}));
+
+  ASSERT_EQ(run("fixed on -33.9,-151.2").status, 0);
+  EXPECT_EQ(mode(), "1");
+  EXPECT_EQ(location(),
+            (Texts{{"enable", "1"}, {"latitude", "-33.900000"}, {"longitude", "-151.200000"}}));
+  EXPECT_EQ(run("mode route").status, 1);
+  EXPECT_EQ(mode(), "1");
+
+  ASSERT_EQ(run("fixed drift on --speed 0.25").status, 0);
+  ASSERT_EQ(run("fixed move paris").status, 0);
+  ASSERT_EQ(run("fixed speed 0.75").status, 0);
+  EXPECT_EQ(location(), (Texts{{"a", "1"},
+                               {"enable", "1"},
+                               {"latitude", "48.850000"},
+                               {"longitude", "2.350000"},
+                               {"s", "0.750000"}}));
+  ASSERT_EQ(run("fixed drift off").status, 0);
+  EXPECT_EQ(run("fixed speed 0.5").status, 1) << "the slider is locked";
+  ASSERT_EQ(run("fixed off").status, 0);
+  EXPECT_EQ(location(), (Texts{{"a", "0"},
+                               {"enable", "0"},
+                               {"latitude", "48.850000"},
+                               {"longitude", "2.350000"},
+                               {"s", "0.750000"}}));
+  EXPECT_EQ(run("mode route").status, 0);
+  EXPECT_EQ(mode(), "0");
+}
+
+TEST_F(WayloomctlTest, ARouteThatIsOnKeepsItsMode) {
+  SettingsFiles files(root.path());
+  ASSERT_TRUE(files.save(SettingsFile::Route, PropertyList::Dictionary{{"enable", "1"}}));
+  const Run refused = run("fixed on 1,2");
+  EXPECT_EQ(refused.status, 1);
+  EXPECT_THAT(refused.err, HasSubstr("please turn off the Wayloom first!"));
+  EXPECT_EQ(location(), (Texts{{"(missing)", ""}})) << "both would be on";
+}
+
+TEST_F(WayloomctlTest, AnswersBadInputInOneLine) {
+  const struct {
+    const char* arguments;
+    int status;
+    const char* says;
+  } cases[] = {
+      {"", 2, "no command"},
+      {"nonsense", 2, "nonsense"},
+      {"fixed", 2, "required"},
+      {"mode sideways", 2, "sideways"},
+      {"fixed on 91,0", 2, "no position"},
+      {"fixed on 1,2,3", 2, "no position"},
+      {"fixed on '#:nan,1'", 2, "no position"},
+      {"fixed on ' '", 2, "empty"},
+      {"fixed on 'no such place at all'", 1, "no such place at all"},
+      {"fixed speed fast", 2, "fast"},
+      {"fixed drift on --speed 1e400", 2, "speed"},
+      {"fixed drift on --speed nan", 2, "speed"},
+      {"search '\x01\n\"*'", 1, "No place"},
+      {"search ''", 2, "empty"},
+      {"search --limit 0 paris", 2, "limit"},
+      {"search --service web paris", 1, "geocoding"},
+  };
+  for (const auto& test : cases) {
+    const Run answer = run(test.arguments);
+    EXPECT_EQ(answer.status, test.status) << test.arguments;
+    EXPECT_EQ(answer.out, "") << test.arguments;
+    EXPECT_EQ(std::count(answer.err.begin(), answer.err.end(), '\n'), 1) << answer.err;
+    EXPECT_THAT(answer.err, HasSubstr(test.says)) << test.arguments;
+  }
+}
+
+TEST_F(WayloomctlTest, SaysWhichFileCannotBeWritten) {
+  writeBytes(root.path() / "var", "a file where a folder belongs");
+  const Run refused = run("fixed on 1,2");
+  EXPECT_EQ(refused.status, 1);
+  EXPECT_THAT(refused.err, HasSubstr((root.path() / "var").string()));
+}
+
+TEST_F(WayloomctlTest, NamesDamagedFilesAndGoesOn) {
+  const auto path = SettingsFiles(root.path()).path(SettingsFile::Location);
+  writeBytes(path, "<plist><dict>");
+  writeBytes(index.folder().path() / "broken.region", "no database");
+  const Run status = run("--json status");
+  EXPECT_EQ(status.status, 0);
+  EXPECT_THAT(status.err, HasSubstr("com.quorvil.wl.location.plist is damaged"));
+  EXPECT_THAT(status.out, HasSubstr("\"enabled\": false"));
+  const Run search = run("search paris");
+  EXPECT_EQ(search.status, 0);
+  EXPECT_THAT(search.err, HasSubstr("broken.region"));
+  EXPECT_EQ(search.out, "48.850000, 2.350000  Paris, Île-de-France, France\n");
+}
+
+}  // namespace
+}  // namespace wayloom

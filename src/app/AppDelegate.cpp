@@ -3,6 +3,8 @@
 #include <QtGui/QGuiApplication>
 #include <QtQml/QQmlEngine>
 
+#include "lists/FavoritesViewController.h"
+
 namespace wayloom {
 
 namespace {
@@ -31,6 +33,7 @@ bool AppDelegate::didFinishLaunching() {
   mWindow.engine()->addImportPath(QStringLiteral("qrc:/qt/qml"));
   mWindow.setInitialProperties(
       {{QStringLiteral("locationController"), QVariant::fromValue(&mLocationController)},
+       {QStringLiteral("modals"), QVariant::fromValue(&mModals)},
        {QStringLiteral("alerts"), QVariant::fromValue(&mServices.alerts)}});
   mWindow.setSource(QUrl(QStringLiteral("qrc:/qt/qml/Wayloom/Layouts/AppWindow.qml")));
   if (mWindow.status() != QQuickView::Ready) return false;
@@ -45,7 +48,13 @@ void AppDelegate::didBecomeActive() {
 
 void AppDelegate::changeToLocation() {}
 void AppDelegate::changeToRouter() {}
-void AppDelegate::presentFavorites(SpotloomViewController& /*delegate*/) {}
+
+void AppDelegate::presentFavorites(FavoritesDelegate& delegate) {
+  mModals.present(QStringLiteral("FavoritesViewController"),
+                  std::make_unique<FavoritesViewController>(mServices.files, delegate),
+                  ModalPresenter::Transition::Flip);
+}
+
 void AppDelegate::presentInfo() {}
 
 }  // namespace wayloom

@@ -6,6 +6,7 @@
 #include "app/AppServices.h"
 #include "app/ScreenSwitcher.h"
 #include "fixed/SpotloomViewController.h"
+#include "kit/ModalPresenter.h"
 
 namespace wayloom {
 
@@ -23,7 +24,7 @@ class AppDelegate : public QObject, public ScreenSwitcher {
 
   void changeToLocation() override;
   void changeToRouter() override;
-  void presentFavorites(SpotloomViewController& delegate) override;
+  void presentFavorites(FavoritesDelegate& delegate) override;
   void presentInfo() override;
 
   QQuickView& window() { return mWindow; }
@@ -31,6 +32,7 @@ class AppDelegate : public QObject, public ScreenSwitcher {
  private:
   AppServices& mServices;
   SpotloomViewController mLocationController;
+  ModalPresenter mModals;
   QQuickView mWindow;
 };
 

@@ -2,7 +2,7 @@
 
 namespace wayloom {
 
-class SpotloomViewController;
+class FavoritesDelegate;
 
 /// What the screens ask of the application: another main screen, or a modal one over themselves.
 class ScreenSwitcher {
@@ -11,7 +11,7 @@ class ScreenSwitcher {
   virtual void changeToLocation() = 0;
   virtual void changeToRouter() = 0;
   /// Presents the favourites; `delegate` is told when one was chosen.
-  virtual void presentFavorites(SpotloomViewController& delegate) = 0;
+  virtual void presentFavorites(FavoritesDelegate& delegate) = 0;
   virtual void presentInfo() = 0;
 };
 

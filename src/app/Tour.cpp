@@ -43,7 +43,7 @@ bool Tour::run() {
     std::fprintf(stderr, "wayloom: cannot make the folder %s\n", qPrintable(mDirectory));
     return false;
   }
-  if (!pinPlace() || !saveFavorite()) return false;
+  if (!pinPlace() || !saveFavorite() || !seeFavorites()) return false;
   for (const SettingsFile name : {SettingsFile::Location, SettingsFile::Favorites}) printFile(name);
   return true;
 }
@@ -80,14 +80,33 @@ bool Tour::saveFavorite() {
   return waitUntil("the name panel's end", [this] { return !find("alertView")->isVisible(); });
 }
 
+bool Tour::seeFavorites() {
+  return click("favoritesButton") && waitForScreen("mainTableView") && savePicture("favourites") &&
+         click("editButton") && savePicture("favourites-edit") && click("editButton") &&
+         clickRow(0) && waitForScreen("mainMapView") && waitForMap() && savePicture("chosen");
+}
+
 QQuickItem* Tour::find(const char* objectName) const {
-  return mWindow.rootObject()->findChild<QQuickItem*>(QString::fromLatin1(objectName));
+  const auto found =
+      mWindow.rootObject()->findChildren<QQuickItem*>(QString::fromLatin1(objectName));
+  // Screens that lie over one another name some controls alike; the upper one comes last.
+  return found.isEmpty() ? nullptr : found.last();
 }
 
 bool Tour::click(const char* objectName) {
-  QQuickItem* item = find(objectName);
+  return click(find(objectName), objectName);
+}
+
+bool Tour::clickRow(int row) {
+  QQuickItem* item = nullptr;
+  QMetaObject::invokeMethod(find("mainTableView"), "itemAtIndex",
+                            Q_RETURN_ARG(QQuickItem*, item), Q_ARG(int, row));
+  return click(item, "row");
+}
+
+bool Tour::click(const QQuickItem* item, const char* name) {
   if (!item || !item->isVisible() || !item->isEnabled()) {
-    std::fprintf(stderr, "wayloom: there is no %s to click\n", objectName);
+    std::fprintf(stderr, "wayloom: there is no %s to click\n", name);
     return false;
   }
   const QPointF point = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
@@ -126,6 +145,16 @@ bool Tour::waitUntil(const char* what, const Condition& condition) {
     QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
   }
   return true;
+}
+
+bool Tour::waitForScreen(const char* objectName) {
+  return waitUntil(objectName, [&] {
+    const QQuickItem* item = find(objectName);
+    if (!item || !item->isVisible() || !item->isEnabled()) return false;
+    // It has come in when it is as wide as the window and nothing moves it any more.
+    const QRectF shown = item->mapRectToScene(item->boundingRect());
+    return shown.width() == mWindow.width() && shown.bottom() == mWindow.height();
+  });
 }
 
 bool Tour::waitForMap() {

@@ -24,12 +24,17 @@ class Tour {
 
   bool pinPlace();
   bool saveFavorite();
+  bool seeFavorites();
 
   QQuickItem* find(const char* objectName) const;
   bool click(const char* objectName);
+  bool clickRow(int row);
+  bool click(const QQuickItem* item, const char* name);
   void type(const QString& text);
   void press(Qt::Key key);
   bool waitUntil(const char* what, const Condition& condition);
+  /// Waits until a screen, known by what fills it to the window's edges, has come in.
+  bool waitForScreen(const char* objectName);
   bool waitForMap();
   bool savePicture(const char* name);
   void printFile(SettingsFile name) const;

@@ -8,6 +8,7 @@
 #include "app/ScreenSwitcher.h"
 #include "fixed/FixedLocation.h"
 #include "lists/Favorites.h"
+#include "lists/FavoritesDelegate.h"
 #include "map/MapView.h"
 #include "places/LocationClass.h"
 #include "platform/Alerts.h"
@@ -17,7 +18,9 @@ namespace wayloom {
 /// The fixed-location screen: the centre of its map is the position that can be pinned. It brings
 /// the controls in line with the location settings file and hands every touch to FixedLocation.
 /// Made by the application and alive as long as it; main thread only.
-class SpotloomViewController : public QObject, public LocationDelegate {
+class SpotloomViewController : public QObject,
+                               public LocationDelegate,
+                               public FavoritesDelegate {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("the application makes it")
@@ -72,8 +75,7 @@ class SpotloomViewController : public QObject, public LocationDelegate {
   Q_INVOKABLE void showFavoritesView();
   Q_INVOKABLE void showInfoView();
 
-  /// A favourite was chosen on another screen.
-  void favoritesDidSelected();
+  void favoritesDidSelected() override;
 
   void locationSuccess(Location* location, double latitude, double longitude) override;
   void locationFailed(Location* location, const std::optional<std::string>& error) override;

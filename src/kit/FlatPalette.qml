@@ -16,16 +16,21 @@ QtObject {
     // What the colours are for.
     readonly property color surface: "#ffffff"
     readonly property color text: midnightBlue
+    readonly property color rowText: "#555555"
     readonly property color secondaryText: "#6b7b8a"
     readonly property color field: "#eef1f3"
     readonly property color separator: "#dfe4e7"
+    readonly property color current: "#e3f4f1"
     readonly property color shade: "#59000000"
     readonly property color lockedTint: "#aab2b8"
 
     readonly property int spacing: 8
     readonly property int margin: 12
     readonly property int controlHeight: 36
+    readonly property int rowHeight: 44
+    readonly property int barButtonWidth: 72
     readonly property int cornerRadius: 3
+    readonly property int titleSize: 17
     readonly property int bodySize: 15
     readonly property int captionSize: 12
     readonly property int smallSize: 10

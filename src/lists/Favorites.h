@@ -11,23 +11,44 @@
 
 namespace wayloom {
 
-/// The favourites file: named places in the order of adding. Main thread only.
+/// The favourites file: named places in the order of adding. The list is a copy of the file that is
+/// read again only by load() and add(). Main thread only.
 class Favorites {
  public:
   /// `files` must outlive this object.
   explicit Favorites(SettingsFiles& files) : mFiles(files) {}
 
-  /// Reads the file; a missing, unreadable or empty one gives an empty list.
+  /// Reads the list, and the location settings that choose() writes into. A missing, unreadable or
+  /// empty list is an empty one; location settings that are not on are forgotten, all keys of them.
   void load();
 
   const PropertyList::Array& entries() const { return mEntries; }
+  /// The entry's text under a key: empty when it has none. `index` must be in range.
+  std::string_view text(std::size_t index, std::string_view key) const;
+  std::string_view name(std::size_t index) const { return text(index, "name"); }
 
   /// Appends a place to what the file holds now. A name of blanks only becomes `unnamed`.
   [[nodiscard]] Status add(std::string_view name, Coordinate coordinate, std::string_view unnamed);
 
+  // The rest works on the list as last read; indices must be in range.
+
+  /// Takes an entry out of the list and writes the rest, an empty list too.
+  [[nodiscard]] Status removeAt(std::size_t index);
+  /// Puts an entry back, at most one behind the last, and writes the list.
+  [[nodiscard]] Status insertAt(std::size_t index, PropertyList entry);
+
+  /// Makes an entry the fixed location: turned on, at the entry's coordinates as they are stored.
+  /// A coordinate that the entry lacks is taken out of the location file. No notice is posted and
+  /// the mode stays.
+  [[nodiscard]] Status choose(std::size_t index);
+
  private:
+  void loadEntries();
+  const PropertyList* value(std::size_t index, std::string_view key) const;
+
   SettingsFiles& mFiles;
   PropertyList::Array mEntries;
+  PropertyList::Dictionary mPreferences;
 };
 
 }  // namespace wayloom

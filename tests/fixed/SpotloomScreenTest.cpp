@@ -1,4 +1,5 @@
 #include "fixed/SpotloomViewController.h"
+#include "lists/FavoritesViewController.h"
 #include "settings/ModeSwitch.h"
 #include "tests/support/ScreenHarness.h"
 
@@ -7,14 +8,24 @@ namespace {
 
 using Texts = std::map<std::string, std::string>;
 
+/// Records what is asked for, and presents the favourites as the application does.
 class RecordedScreens : public ScreenSwitcher {
  public:
+  explicit RecordedScreens(ScreenHarness& screen) : mScreen(screen) {}
+
   void changeToLocation() override { changes.emplace_back("location"); }
   void changeToRouter() override { changes.emplace_back("router"); }
-  void presentFavorites(SpotloomViewController&) override { changes.emplace_back("favorites"); }
+  void presentFavorites(FavoritesDelegate& delegate) override {
+    mScreen.modals.present("FavoritesViewController",
+                           std::make_unique<FavoritesViewController>(mScreen.files, delegate),
+                           ModalPresenter::Transition::Flip);
+  }
   void presentInfo() override { changes.emplace_back("info"); }
 
   std::vector<std::string> changes;
+
+ private:
+  ScreenHarness& mScreen;
 };
 
 /// The real layout, touched as a person would, and the real files read after it.
@@ -31,6 +42,7 @@ class SpotloomScreenTest : public testing::Test {
                                                         .screens = screens,
                                                         .tiles = screen.tiles});
     ASSERT_TRUE(screen.show("AppWindow", {{"locationController", QVariant::fromValue(&*controller)},
+                                          {"modals", QVariant::fromValue(&screen.modals)},
                                           {"alerts", QVariant::fromValue(&screen.alerts)}}));
     map = qobject_cast<MapView*>(screen.find("mainMapView"));
   }
@@ -46,7 +58,7 @@ class SpotloomScreenTest : public testing::Test {
   }
 
   ScreenHarness screen;
-  RecordedScreens screens;
+  RecordedScreens screens{screen};
   std::optional<SpotloomViewController> controller;
   MapView* map = nullptr;
 };
@@ -250,6 +262,32 @@ TEST_F(SpotloomScreenTest, AppearingFollowsTheFileButLeavesTheMap) {
   EXPECT_TRUE(screen.find("s_auto")->property("checked").toBool());
   EXPECT_EQ(screen.find("sd_auto")->property("value").toDouble(), 0.25);
   EXPECT_EQ(map->region(), before);
+}
+
+TEST_F(SpotloomScreenTest, AChosenFavouriteIsPinnedAndTheScreenComesBackWithTheKeyboard) {
+  open(kOff);
+  ASSERT_TRUE(screen.files.save(SettingsFile::Favorites,
+                                PropertyList::Array{PropertyList::Dictionary{
+                                    {"name", "Home"}, {"latitude", "57.5"}, {"longitude", "11.5"}}}));
+  const auto isIn = [&] { return !screen.find("btn_mine")->isVisible(); };
+  for (const bool chooses : {false, true}) {
+    const Texts before = stored();
+    screen.click("favoritesButton");
+    screen.click("favoritesButton");
+    EXPECT_EQ(screen.modals.count(), 1) << "the screen below takes no touches";
+    ASSERT_TRUE(QTest::qWaitFor(isIn));
+    EXPECT_TRUE(screen.find("mainTableView")->hasActiveFocus());
+    if (chooses) QTest::keyClick(&screen.view, Qt::Key_Down);
+    QTest::keyClick(&screen.view, chooses ? Qt::Key_Return : Qt::Key_Escape);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return screen.modals.count() == 0; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return screen.find("favoritesButton")->hasActiveFocus(); }));
+    if (!chooses) EXPECT_EQ(stored(), before);
+  }
+  EXPECT_TRUE(screen.find("enableSwitch")->property("checked").toBool());
+  EXPECT_NEAR(map->region().center.latitude, 57.5, 1e-7);
+  EXPECT_EQ(stored(),
+            (Texts{{"enable", "1"}, {"latitude", "57.500000"}, {"longitude", "11.500000"}}));
+  EXPECT_TRUE(screen.notice.posts.empty());
 }
 
 TEST_F(SpotloomScreenTest, MyLocationMovesThereInTwoStepsAndStoresIt) {

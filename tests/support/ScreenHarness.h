@@ -8,6 +8,7 @@
 #include <QtTest/QTest>
 
 #include "kit/AlertPresenter.h"
+#include "kit/ModalPresenter.h"
 #include "map/TileSource.h"
 #include "places/LocationClass.h"
 #include "tests/support/FakePlatform.h"
@@ -39,6 +40,7 @@ class ScreenHarness {
   FakeGeocoder geocoder;
   FakeDefaults defaults;
   AlertPresenter alerts;
+  ModalPresenter modals;
   FakePositionSource* position = nullptr;
   LocationClass location{LocationPlatform{[] { return true; },
                                           [this] {

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QtCore/QObject>
+#include <QtQml/qqmlregistration.h>
+
+namespace wayloom {
+
+/// A screen that is shown over another one until it is dismissed. The presenter owns it while it is
+/// presented. Main thread only.
+class ModalViewController : public QObject {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("the application makes it")
+
+ public:
+  using QObject::QObject;
+
+  /// The back button: gives way to the screen below.
+  Q_INVOKABLE void done() { Q_EMIT dismissed(); }
+
+ Q_SIGNALS:
+  void dismissed();
+};
+
+}  // namespace wayloom

@@ -1,0 +1,95 @@
+import QtQuick
+import QtQuick.Templates as T
+import Wayloom.Kit
+import Wayloom.Screens as Screens
+
+// The favourites screen: a list of names under a title bar.
+FocusScope {
+    id: root
+
+    required property Screens.FavoritesViewController controller
+
+    Rectangle {
+        anchors.fill: parent
+        color: FlatPalette.surface
+    }
+
+    TitleBar {
+        id: titleBar
+
+        title: qsTranslate("Wayloom", "Favorites")
+
+        TitleBarButton {
+            id: backButton
+
+            objectName: "backButton"
+            anchors.left: parent.left
+            text: qsTranslate("Wayloom", "Back")
+            onClicked: root.controller.done()
+        }
+        TitleBarButton {
+            id: editButton
+
+            objectName: "editButton"
+            anchors.right: parent.right
+            text: root.controller.editTitle
+            enabled: root.controller.editEnabled
+            onClicked: root.controller.edit()
+        }
+    }
+
+    ListView {
+        id: mainTableView
+
+        objectName: "mainTableView"
+        anchors.fill: parent
+        anchors.topMargin: titleBar.height
+        bottomMargin: undoBar.shown ? undoBar.height : 0
+        clip: true
+        focus: true
+        reuseItems: true
+        currentIndex: -1
+        highlightMoveDuration: 0
+        boundsBehavior: Flickable.StopAtBounds
+        model: root.controller.favorites
+        Accessible.role: Accessible.List
+        Accessible.name: titleBar.title
+        T.ScrollBar.vertical: FlatScrollBar {}
+
+        Keys.onReturnPressed: root.controller.didSelectRow(currentIndex)
+        Keys.onEnterPressed: root.controller.didSelectRow(currentIndex)
+        Keys.onDeletePressed: root.controller.deleteRow(currentIndex)
+
+        delegate: FavoriteRow {
+            width: ListView.view.width
+            editing: root.controller.editing
+            current: ListView.isCurrentItem && mainTableView.activeFocus
+            onClicked: root.controller.didSelectRow(index)
+            onDeleted: root.controller.deleteRow(index)
+            ListView.onPooled: swipe.close()
+        }
+        remove: Transition { NumberAnimation { property: "opacity"; to: 0; duration: 150 } }
+        removeDisplaced: Transition { NumberAnimation { property: "y"; duration: 150 } }
+        addDisplaced: Transition { NumberAnimation { property: "y"; duration: 150 } }
+    }
+
+    EmptyNote {
+        objectName: "emptyNote"
+        anchors.centerIn: mainTableView
+        visible: mainTableView.count === 0
+        text: qsTranslate("Wayloom", "No favorites yet")
+        hint: qsTranslate("Wayloom", "Pick a place on the map and press “Add To →”.")
+    }
+
+    UndoBar {
+        id: undoBar
+
+        anchors.bottom: parent.bottom
+        shown: root.controller.undoShown
+        deletedName: root.controller.deletedName
+        onUndone: {
+            root.controller.undoDelete()
+            mainTableView.forceActiveFocus()
+        }
+    }
+}

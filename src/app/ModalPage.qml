@@ -16,7 +16,7 @@ FocusScope {
     property bool leaving: false
     readonly property bool flips: transition === Screens.ModalPresenter.Flip
 
-    signal left()
+    signal departed()
 
     width: parent.width
     height: parent.height
@@ -62,7 +62,7 @@ FocusScope {
         to: 0
         duration: page.flips ? 400 : 300
         easing.type: Easing.InOutQuad
-        onFinished: page.left()
+        onFinished: page.departed()
     }
 
     Loader {

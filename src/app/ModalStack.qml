@@ -9,20 +9,20 @@ Item {
     required property Screens.ModalPresenter presenter
     required property Item mainScreen
 
-    readonly property ModalPage top: presenter.count > 0 ? pages.itemAt(presenter.count - 1) as ModalPage : null
-    readonly property ModalPage first: presenter.count > 0 ? pages.itemAt(0) as ModalPage : null
+    readonly property ModalPage topPage: presenter.count > 0 ? pages.itemAt(presenter.count - 1) as ModalPage : null
+    readonly property ModalPage firstPage: presenter.count > 0 ? pages.itemAt(0) as ModalPage : null
     /// From 0 to 1 while the first screen flips in.
-    readonly property real turned: first && first.flips ? first.arrival : 0
+    readonly property real turned: firstPage && firstPage.flips ? firstPage.arrival : 0
     /// Nothing of the main screen can be seen.
-    readonly property bool coversMainScreen: first !== null && first.arrival === 1
+    readonly property bool coversMainScreen: firstPage !== null && firstPage.arrival === 1
 
     function takeKeyboard() {
-        if (top)
-            top.forceActiveFocus()
+        if (topPage)
+            topPage.forceActiveFocus()
         else
             mainScreen.forceActiveFocus()
     }
-    onTopChanged: Qt.callLater(takeKeyboard)
+    onTopPageChanged: Qt.callLater(takeKeyboard)
 
     Repeater {
         id: pages
@@ -30,8 +30,8 @@ Item {
         model: stack.presenter
         delegate: ModalPage {
             topmost: index === stack.presenter.count - 1
-            visible: topmost || (stack.top !== null && stack.top.arrival < 1)
-            onLeft: stack.presenter.removeTop()
+            visible: topmost || (stack.topPage !== null && stack.topPage.arrival < 1)
+            onDeparted: stack.presenter.removeTop()
         }
     }
 }

@@ -33,6 +33,16 @@ std::optional<double> secondsSinceStart() {
   return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) / 1e9 - started;
 }
 
+/// Screens that lie over one another name some controls alike; the upper one comes last.
+QQuickItem* uppermost(const QQuickItem* within, const QString& objectName) {
+  const QList<QQuickItem*> children = within->childItems();
+  for (auto child = children.rbegin(); child != children.rend(); ++child) {
+    if (QQuickItem* found = uppermost(*child, objectName)) return found;
+    if ((*child)->objectName() == objectName) return *child;
+  }
+  return nullptr;
+}
+
 }  // namespace
 
 Tour::Tour(QQuickView& window, SettingsFiles& files, const QString& directory)
@@ -87,10 +97,7 @@ bool Tour::seeFavorites() {
 }
 
 QQuickItem* Tour::find(const char* objectName) const {
-  const auto found =
-      mWindow.rootObject()->findChildren<QQuickItem*>(QString::fromLatin1(objectName));
-  // Screens that lie over one another name some controls alike; the upper one comes last.
-  return found.isEmpty() ? nullptr : found.last();
+  return uppermost(mWindow.rootObject(), QString::fromLatin1(objectName));
 }
 
 bool Tour::click(const char* objectName) {
@@ -99,8 +106,8 @@ bool Tour::click(const char* objectName) {
 
 bool Tour::clickRow(int row) {
   QQuickItem* item = nullptr;
-  QMetaObject::invokeMethod(find("mainTableView"), "itemAtIndex",
-                            Q_RETURN_ARG(QQuickItem*, item), Q_ARG(int, row));
+  QMetaObject::invokeMethod(find("mainTableView"), "itemAtIndex", Q_RETURN_ARG(QQuickItem*, item),
+                            Q_ARG(int, row));
   return click(item, "row");
 }
 

@@ -1,8 +1,8 @@
 #include "cli/CommandLine.h"
 
-#include <algorithm>
 #include <iostream>
 
+#include "cli/TextForms.h"
 #include "places/WebGeocoder.h"
 #include "platform/CurlWebRequests.h"
 #include "platform/PreferredLanguage.h"
@@ -14,17 +14,6 @@
 #include "settings/SettingsRoot.h"
 
 namespace wayloom {
-
-namespace {
-
-/// The message as one line, whatever it quotes.
-std::string oneLine(std::string text) {
-  std::replace_if(
-      text.begin(), text.end(), [](unsigned char c) { return c < 0x20 || c == 0x7F; }, ' ');
-  return text;
-}
-
-}  // namespace
 
 CommandLine::CommandLine(const Options& options)
     : mOptions(options), mFiles(settingsRoot(options.root)) {}
@@ -80,6 +69,12 @@ ExitStatus CommandLine::wrongUsage(const std::string& why) const {
 
 void CommandLine::warn(const std::string& what) const {
   std::cerr << "wayloomctl: " << oneLine(what) << '\n';
+}
+
+void CommandLine::warnOfDamage(SettingsFile name) const {
+  const auto contents = mFiles.file(name).read();
+  if (contents.state != PropertyListFile::State::Damaged) return;
+  warn(mFiles.path(name).string() + " is damaged and reads as nothing: " + contents.damage);
 }
 
 }  // namespace wayloom

@@ -52,6 +52,8 @@ class CommandLine {
   ExitStatus wrongUsage(const std::string& why) const;
   /// A warning on standard error; the command goes on.
   void warn(const std::string& what) const;
+  /// A warning when the file cannot be read: it is read as nothing, which a person should know.
+  void warnOfDamage(SettingsFile name) const;
 
  private:
   std::unique_ptr<Geocoder> makeOnlineGeocoder();

@@ -21,6 +21,14 @@ ExitStatus moveFixed(CommandLine& line, const std::string& place);
 ExitStatus setDrift(CommandLine& line, bool on, std::optional<double> speed);
 ExitStatus setDriftSpeed(CommandLine& line, double speed);
 
+ExitStatus listFavorites(CommandLine& line);
+/// At PLACE, else at the fixed location's position as it stands in the file.
+ExitStatus addFavorite(CommandLine& line, const std::string& name,
+                       const std::optional<std::string>& place);
+/// Favourites are counted from 1.
+ExitStatus removeFavorite(CommandLine& line, long long number);
+ExitStatus chooseFavorite(CommandLine& line, long long number);
+
 ExitStatus searchPlaces(CommandLine& line, const std::string& text,
                         const std::optional<std::string>& near, int limit);
 ExitStatus showAddress(CommandLine& line, const std::string& place);

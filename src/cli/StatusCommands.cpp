@@ -38,22 +38,13 @@ std::string driftText(const FixedLocationState& fixed) {
   return std::string(fixed.drifting ? "on" : "off") + ", speed " + shortNumber(fixed.driftSpeed);
 }
 
-/// Files that cannot be read are read as nothing; a person should know.
-void warnOfDamage(CommandLine& line) {
-  const SettingsFiles& files = line.files();
-  for (const SettingsFile name :
-       {SettingsFile::Master, SettingsFile::Location, SettingsFile::Route}) {
-    const auto contents = files.file(name).read();
-    if (contents.state == PropertyListFile::State::Damaged) {
-      line.warn(files.path(name).string() + " is damaged and reads as nothing: " + contents.damage);
-    }
-  }
-}
-
 }  // namespace
 
 ExitStatus showStatus(CommandLine& line) {
-  warnOfDamage(line);
+  for (const SettingsFile name :
+       {SettingsFile::Master, SettingsFile::Location, SettingsFile::Route}) {
+    line.warnOfDamage(name);
+  }
   const Reading status = readFiles(line);
   const FixedLocationState& fixed = status.fixed;
   nlohmann::json json = {

@@ -19,6 +19,8 @@ struct Typed {
   std::string drift;
   double speed = 0;
   int limit = 10;
+  std::string name;
+  long long number = 0;
   std::function<ExitStatus(CommandLine&)> command;
 };
 
@@ -81,6 +83,32 @@ void addFixedCommands(CLI::App& app, Typed& typed) {
   });
 }
 
+void addFavoriteCommands(CLI::App& app, Typed& typed) {
+  auto* favorites = app.add_subcommand("favorites", "The saved places")->require_subcommand(1);
+  favorites->add_subcommand("list", "List them")->callback([&typed] {
+    typed.command = wayloom::listFavorites;
+  });
+
+  auto* add = favorites->add_subcommand("add", "Save PLACE, or the fixed position, under NAME");
+  add->add_option("NAME", typed.name)->required();
+  add->add_option("PLACE", typed.place, "LAT,LON, #:LAT,LON or an address");
+  add->callback([&typed] {
+    typed.command = [&typed](CommandLine& line) {
+      return wayloom::addFavorite(line, typed.name, given(typed.place));
+    };
+  });
+
+  const auto addNumbered = [&](const char* name, const char* help, auto command) {
+    auto* numbered = favorites->add_subcommand(name, help);
+    numbered->add_option("N", typed.number, "Its number in the list, from 1")->required();
+    numbered->callback([&typed, command] {
+      typed.command = [&typed, command](CommandLine& line) { return command(line, typed.number); };
+    });
+  };
+  addNumbered("remove", "Delete number N", wayloom::removeFavorite);
+  addNumbered("choose", "Turn the fixed location on at number N", wayloom::chooseFavorite);
+}
+
 void addPlaceCommands(CLI::App& app, Typed& typed) {
   auto* search = app.add_subcommand("search", "Find places by name or address");
   search->add_option("TEXT", typed.text)->required();
@@ -129,6 +157,7 @@ int run(int argc, char* argv[]) {
   app.fallthrough();
   addModeCommands(app, typed);
   addFixedCommands(app, typed);
+  addFavoriteCommands(app, typed);
   addPlaceCommands(app, typed);
   try {
     app.parse(arguments(argc, argv));

@@ -18,9 +18,7 @@ namespace wayloom {
 /// The fixed-location screen: the centre of its map is the position that can be pinned. It brings
 /// the controls in line with the location settings file and hands every touch to FixedLocation.
 /// Made by the application and alive as long as it; main thread only.
-class SpotloomViewController : public QObject,
-                               public LocationDelegate,
-                               public FavoritesDelegate {
+class SpotloomViewController : public QObject, public LocationDelegate, public FavoritesDelegate {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("the application makes it")

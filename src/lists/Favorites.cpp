@@ -32,8 +32,8 @@ const PropertyList* Favorites::value(std::size_t index, std::string_view key) co
   return entry ? find(*entry, key) : nullptr;
 }
 
-std::string_view Favorites::text(std::size_t index, std::string_view key) const {
-  const PropertyList* found = value(index, key);
+std::string_view Favorites::name(std::size_t index) const {
+  const PropertyList* found = value(index, "name");
   const auto* text = found ? found->get<std::string>() : nullptr;
   return text ? std::string_view(*text) : std::string_view();
 }

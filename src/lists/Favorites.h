@@ -23,9 +23,10 @@ class Favorites {
   void load();
 
   const PropertyList::Array& entries() const { return mEntries; }
-  /// The entry's text under a key: empty when it has none. `index` must be in range.
-  std::string_view text(std::size_t index, std::string_view key) const;
-  std::string_view name(std::size_t index) const { return text(index, "name"); }
+  /// What an entry holds under a key; null when it holds nothing. `index` must be in range.
+  const PropertyList* value(std::size_t index, std::string_view key) const;
+  /// The entry's name; empty when it is missing or no text. `index` must be in range.
+  std::string_view name(std::size_t index) const;
 
   /// Appends a place to what the file holds now. A name of blanks only becomes `unnamed`.
   [[nodiscard]] Status add(std::string_view name, Coordinate coordinate, std::string_view unnamed);
@@ -44,7 +45,6 @@ class Favorites {
 
  private:
   void loadEntries();
-  const PropertyList* value(std::size_t index, std::string_view key) const;
 
   SettingsFiles& mFiles;
   PropertyList::Array mEntries;

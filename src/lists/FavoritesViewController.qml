@@ -9,6 +9,8 @@ FocusScope {
 
     required property Screens.FavoritesViewController controller
 
+    focus: true
+
     Rectangle {
         anchors.fill: parent
         color: FlatPalette.surface
@@ -68,7 +70,6 @@ FocusScope {
             onDeleted: root.controller.deleteRow(index)
             ListView.onPooled: swipe.close()
         }
-        remove: Transition { NumberAnimation { property: "opacity"; to: 0; duration: 150 } }
         removeDisplaced: Transition { NumberAnimation { property: "y"; duration: 150 } }
         addDisplaced: Transition { NumberAnimation { property: "y"; duration: 150 } }
     }

@@ -266,9 +266,10 @@ TEST_F(SpotloomScreenTest, AppearingFollowsTheFileButLeavesTheMap) {
 
 TEST_F(SpotloomScreenTest, AChosenFavouriteIsPinnedAndTheScreenComesBackWithTheKeyboard) {
   open(kOff);
-  ASSERT_TRUE(screen.files.save(SettingsFile::Favorites,
-                                PropertyList::Array{PropertyList::Dictionary{
-                                    {"name", "Home"}, {"latitude", "57.5"}, {"longitude", "11.5"}}}));
+  ASSERT_TRUE(
+      screen.files.save(SettingsFile::Favorites,
+                        PropertyList::Array{PropertyList::Dictionary{
+                            {"name", "Home"}, {"latitude", "57.5"}, {"longitude", "11.5"}}}));
   const auto isIn = [&] { return !screen.find("btn_mine")->isVisible(); };
   for (const bool chooses : {false, true}) {
     const Texts before = stored();
@@ -281,7 +282,9 @@ TEST_F(SpotloomScreenTest, AChosenFavouriteIsPinnedAndTheScreenComesBackWithTheK
     QTest::keyClick(&screen.view, chooses ? Qt::Key_Return : Qt::Key_Escape);
     ASSERT_TRUE(QTest::qWaitFor([&] { return screen.modals.count() == 0; }));
     EXPECT_TRUE(QTest::qWaitFor([&] { return screen.find("favoritesButton")->hasActiveFocus(); }));
-    if (!chooses) EXPECT_EQ(stored(), before);
+    if (!chooses) {
+      EXPECT_EQ(stored(), before);
+    }
   }
   EXPECT_TRUE(screen.find("enableSwitch")->property("checked").toBool());
   EXPECT_NEAR(map->region().center.latitude, 57.5, 1e-7);

@@ -46,15 +46,7 @@ class FavoritesScreenTest : public testing::Test, public FavoritesDelegate {
   void clickOn(const QQuickItem* item) {
     QTest::mouseClick(&screen.view, Qt::LeftButton, Qt::NoModifier, pointIn(item));
   }
-  /// Among the items shown in a row; those behind it are nobody's QObject children.
-  static QQuickItem* part(const QQuickItem* within, const QString& name) {
-    for (QQuickItem* item : within->childItems()) {
-      if (item->objectName() == name) return item;
-      if (QQuickItem* found = part(item, name)) return found;
-    }
-    return nullptr;
-  }
-  QQuickItem* part(int index, const char* name) const { return part(row(index), name); }
+  QQuickItem* part(int index, const char* name) const { return screen.find(row(index), name); }
   void swipeLeft(int index) {
     const QPoint from = pointIn(row(index));
     QTest::mousePress(&screen.view, Qt::LeftButton, Qt::NoModifier, from);

@@ -63,13 +63,17 @@ TEST_F(FavoritesTest, ChoosingKeepsOtherKeysOnlyWhileThePositionWasOn) {
     PropertyList chosen;
     Dictionary written;
   } cases[] = {
-      {"no file", std::nullopt, entry("n", "1.5", "-2"),
+      {"no file",
+       std::nullopt,
+       entry("n", "1.5", "-2"),
        {{"enable", "1"}, {"latitude", "1.5"}, {"longitude", "-2"}}},
       {"off: other keys are dropped",
        Dictionary{{"enable", "0"}, {"a", "1"}, {"s", "0.5"}, {"latitude", "9"}},
        entry("n", "1", "2"),
        {{"enable", "1"}, {"latitude", "1"}, {"longitude", "2"}}},
-      {"no enable key counts as off", Dictionary{{"a", "1"}}, entry("n", "1", "2"),
+      {"no enable key counts as off",
+       Dictionary{{"a", "1"}},
+       entry("n", "1", "2"),
        {{"enable", "1"}, {"latitude", "1"}, {"longitude", "2"}}},
       {"on: other keys stay, whatever they are",
        Dictionary{{"enable", true}, {"a", "1"}, {"other", date}, {"latitude", "9"}},
@@ -80,9 +84,11 @@ TEST_F(FavoritesTest, ChoosingKeepsOtherKeysOnlyWhileThePositionWasOn) {
        Dictionary{{"name", "n"}, {"longitude", "2"}},
        {{"enable", "1"}, {"longitude", "2"}}},
       {"an entry that is no dictionary has neither",
-       Dictionary{{"enable", "1"}, {"latitude", "9"}, {"longitude", "8"}}, "only a text",
+       Dictionary{{"enable", "1"}, {"latitude", "9"}, {"longitude", "8"}},
+       "only a text",
        {{"enable", "1"}}},
-      {"values are written as they are stored", std::nullopt,
+      {"values are written as they are stored",
+       std::nullopt,
        Dictionary{{"name", 5}, {"latitude", 1.25}, {"longitude", "east"}},
        {{"enable", "1"}, {"latitude", 1.25}, {"longitude", "east"}}},
   };

@@ -137,5 +137,28 @@ TEST_F(WayloomctlTest, NamesDamagedFilesAndGoesOn) {
   EXPECT_EQ(search.out, "48.850000, 2.350000  Paris, Île-de-France, France\n");
 }
 
+TEST_F(WayloomctlTest, FavouritesAreCountedFromOneAndChoosingPinsThem) {
+  EXPECT_EQ(run("favorites add Here").status, 1) << "no position was ever chosen";
+  ASSERT_EQ(run("favorites add 'two\\nlines' -33.9,151.2").status, 0);
+  ASSERT_EQ(run("favorites add ' ' paris").status, 0);
+  EXPECT_EQ(run("favorites list").out,
+            "1\t-33.900000, 151.200000\ttwo\\nlines\n2\t48.850000, 2.350000\tUnknow\n");
+  for (const char* number : {"0", "-1", "3", "99999999999"}) {
+    for (const std::string command : {"favorites remove ", "favorites choose "}) {
+      const Run refused = run(command + number);
+      EXPECT_EQ(refused.status, 1) << command << number;
+      EXPECT_THAT(refused.err, HasSubstr("run from 1 to 2")) << command << number;
+    }
+  }
+  EXPECT_EQ(run("favorites remove one").status, 2);
+
+  ASSERT_EQ(run("favorites choose 2").status, 0);
+  EXPECT_EQ(mode(), "1");
+  EXPECT_EQ(location(),
+            (Texts{{"enable", "1"}, {"latitude", "48.850000"}, {"longitude", "2.350000"}}));
+  EXPECT_EQ(run("favorites remove 1").out, "1\t48.850000, 2.350000\tUnknow\n");
+  EXPECT_EQ(run("--json favorites remove 1").out, "[]\n");
+}
+
 }  // namespace
 }  // namespace wayloom

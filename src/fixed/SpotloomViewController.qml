@@ -38,7 +38,8 @@ FocusScope {
         anchors.bottom: mainMapView.verticalCenter
         anchors.bottomMargin: -2
         source: "qrc:/icons/pin.svg"
-        sourceSize: Qt.size(36, 46)
+        sourceSize.width: 36
+        sourceSize.height: 46
     }
 
     Attribution {
@@ -170,7 +171,8 @@ FocusScope {
 
                 anchors.verticalCenter: parent.verticalCenter
                 source: "qrc:/icons/place.svg"
-                sourceSize: Qt.size(16, 16)
+                sourceSize.width: 16
+                sourceSize.height: 16
             }
             Text {
                 id: addressLabel

@@ -67,8 +67,8 @@ FocusScope {
                 width: 120
                 text: panel.presenter.button
                 onClicked: panel.presenter.dismiss()
-                Keys.onReturnPressed: click()
-                Keys.onEnterPressed: click()
+                Keys.onReturnPressed: panel.presenter.dismiss()
+                Keys.onEnterPressed: panel.presenter.dismiss()
             }
         }
     }

@@ -17,7 +17,8 @@ T.Button {
         Image {
             anchors.centerIn: parent
             source: control.icon.source
-            sourceSize: Qt.size(24, 24)
+            sourceSize.width: 24
+            sourceSize.height: 24
         }
     }
 

@@ -34,7 +34,7 @@ Item {
                 anchors.horizontalCenter: parent.horizontalCenter
                 width: 36
                 height: 36
-                color: FlatPalette.clouds
+                light: true
             }
 
             Text {

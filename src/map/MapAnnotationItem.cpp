@@ -100,7 +100,7 @@ QSGNode* MapAnnotationItem::updatePaintNode(QSGNode* node, UpdatePaintNodeData*)
   }
   if (mAreMarksNew || !node) {
     delete node;
-    node = new QSGNode;
+    node = new QSGTransformNode;  // As for the tiles: a plain node loses the item's place.
     for (const Mark& mark : mMarks) {
       QSGImageNode* image = window()->createImageNode();
       image->setOwnsTexture(true);

@@ -16,8 +16,9 @@ class QQuickWindow;
 namespace wayloom {
 
 /// The map's picture in the scene graph: what there is of each visible tile. Belongs to the scene
-/// graph, which deletes it with its textures; used while the scene is synchronised.
-class TileScene : public QSGNode {
+/// graph, which deletes it with its textures; used while the scene is synchronised. A transform
+/// node, because the software renderer places children that come later only under one of those.
+class TileScene : public QSGTransformNode {
  public:
   /// Shows the tiles as far as the loader has them. Returns whether every one is shown as itself;
   /// if not, `needsAnotherFrame` says whether images wait that one frame had no time for.

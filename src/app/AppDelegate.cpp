@@ -1,5 +1,7 @@
 #include "app/AppDelegate.h"
 
+#include <cstdio>
+
 #include <QtGui/QGuiApplication>
 #include <QtQml/QQmlEngine>
 
@@ -37,6 +39,10 @@ bool AppDelegate::didFinishLaunching() {
        {QStringLiteral("alerts"), QVariant::fromValue(&mServices.alerts)}});
   mWindow.setSource(QUrl(QStringLiteral("qrc:/qt/qml/Wayloom/Layouts/AppWindow.qml")));
   if (mWindow.status() != QQuickView::Ready) return false;
+  for (const RefusedRegion& refused : mServices.regions.refused()) {
+    std::fprintf(stderr, "wayloom: region %s is left out: %s\n", refused.path.c_str(),
+                 refused.reason.c_str());
+  }
   mWindow.resize(kPhoneSize);
   mWindow.show();
   return true;

@@ -15,8 +15,8 @@ namespace wayloom {
 namespace {
 
 /// Where a device without a position service is said to be: the middle of the smallest region, the
-/// one a person installed to look at closely; 0, 0 without any.
-Coordinate defaultPosition(const RegionStore& store) {
+/// one a person installed to look at closely; none without any.
+std::optional<Coordinate> defaultPosition(const RegionStore& store) {
   const auto& regions = store.regions();
   const auto width = [](const Region& region) {
     return region.info.bounds.east - region.info.bounds.west;
@@ -24,9 +24,9 @@ Coordinate defaultPosition(const RegionStore& store) {
   const auto smallest =
       std::min_element(regions.begin(), regions.end(),
                        [&](const Region& a, const Region& b) { return width(a) < width(b); });
-  if (smallest == regions.end()) return {};
+  if (smallest == regions.end()) return std::nullopt;
   const auto& bounds = smallest->info.bounds;
-  return {(bounds.south + bounds.north) / 2, (bounds.west + bounds.east) / 2};
+  return Coordinate{(bounds.south + bounds.north) / 2, (bounds.west + bounds.east) / 2};
 }
 
 }  // namespace

@@ -12,6 +12,12 @@ Rectangle {
     visible: controller.autoPanelShown
     color: FlatPalette.surface
 
+    // What touches the panel does not reach the map under it.
+    MouseArea {
+        anchors.fill: parent
+        onWheel: wheel => wheel.accepted = true
+    }
+
     Rectangle {
         width: parent.width
         height: 1

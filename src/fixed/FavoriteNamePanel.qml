@@ -13,6 +13,7 @@ FocusScope {
     anchors.fill: parent
     visible: opacity > 0
     opacity: naming ? 1 : 0
+    enabled: naming
     Behavior on opacity { NumberAnimation { duration: 500 } }
 
     readonly property bool naming: controller.namingFavorite

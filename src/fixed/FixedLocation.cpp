@@ -1,6 +1,7 @@
 #include "fixed/FixedLocation.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "settings/ModeSwitch.h"
 #include "settings/TextConversions.h"
@@ -17,12 +18,13 @@ const PropertyList* find(const PropertyList::Dictionary& dictionary, std::string
 FixedLocationState stateOf(const PropertyList::Dictionary& settings) {
   const PropertyList* latitude = find(settings, "latitude");
   const PropertyList* longitude = find(settings, "longitude");
+  const Coordinate coordinate{doubleValue(latitude), doubleValue(longitude)};
   return {.hasSettings = !settings.empty(),
           .enabled = boolValue(find(settings, "enable")),
           .drifting = boolValue(find(settings, "a")),
           .driftSpeed = doubleValue(find(settings, "s")),
-          .coordinate = {doubleValue(latitude), doubleValue(longitude)},
-          .hasCoordinate = latitude && longitude};
+          .coordinate = coordinate,
+          .hasCoordinate = latitude && longitude && isOnGlobe(coordinate)};
 }
 
 }  // namespace
@@ -33,6 +35,7 @@ FixedLocationState readFixedLocation(const SettingsFiles& files) {
 }
 
 double sliderSpeed(double storedSpeed) {
+  if (std::isnan(storedSpeed)) return kDriftSpeedMinimum;
   return std::clamp<double>(storedSpeed, kDriftSpeedMinimum, kDriftSpeedMaximum);
 }
 

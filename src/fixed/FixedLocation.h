@@ -23,7 +23,7 @@ struct FixedLocationState {
   /// As stored; a slider limits it to its own range.
   double driftSpeed = 0;
   Coordinate coordinate;
-  /// Both coordinates stand in the file; otherwise the missing one reads 0.
+  /// Both coordinates stand in the file and are on the globe; a missing one reads 0.
   bool hasCoordinate = false;
 };
 

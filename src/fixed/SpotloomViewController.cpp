@@ -224,6 +224,7 @@ void SpotloomViewController::addToFavorites() {
 }
 
 void SpotloomViewController::okButtonClicked() {
+  if (!mView.namingFavorite) return;  // The panel is fading out already.
   ignore(mFavorites.add(mView.favoriteName.toStdString(), mFixedLocation.coordinate(),
                         localizedText("Unknow").toStdString()));
   cancelButtonClicked();

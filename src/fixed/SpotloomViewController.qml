@@ -17,231 +17,237 @@ FocusScope {
         function onKeyboardDismissed() { mainMapView.forceActiveFocus() }
     }
 
-    MapView {
-        id: mainMapView
-
-        objectName: "mainMapView"
+    // While the name panel is open, neither touches nor the keyboard reach what lies under it.
+    Item {
         anchors.fill: parent
-        anchors.topMargin: topView.y + topView.height
-        focus: true
-        onTapped: mainMapView.forceActiveFocus()
-        Accessible.role: Accessible.Graphic
-        Accessible.name: qsTranslate("Wayloom", "Map")
-    }
+        enabled: !alertView.naming
 
-    // The mark's tip is the chosen position; its shadow lies two points below.
-    Image {
-        id: locationImageView
+        MapView {
+            id: mainMapView
 
-        objectName: "locationImageView"
-        anchors.horizontalCenter: mainMapView.horizontalCenter
-        anchors.bottom: mainMapView.verticalCenter
-        anchors.bottomMargin: -2
-        source: "qrc:/icons/pin.svg"
-        sourceSize.width: 36
-        sourceSize.height: 46
-    }
-
-    Attribution {
-        anchors.horizontalCenter: parent.horizontalCenter
-        anchors.bottom: parent.bottom
-        anchors.bottomMargin: (v_auto.visible ? v_auto.height : 0) + 4
-        maximumWidth: parent.width - 2 * (btn_mine.width + 2 * FlatPalette.margin)
-        text: mainMapView.attribution
-    }
-
-    Rectangle {
-        id: bgLabel
-
-        objectName: "bgLabel"
-        width: parent.width
-        height: 20
-        color: FlatPalette.surface
-    }
-
-    Rectangle {
-        id: topView
-
-        objectName: "topView"
-        y: 20
-        width: parent.width
-        height: addressRow.y + addressRow.height
-        color: FlatPalette.surface
-
-        Row {
-            id: searchRow
-
-            x: FlatPalette.margin
-            width: parent.width - 2 * FlatPalette.margin
-            spacing: FlatPalette.spacing
-
-            FlatTextField {
-                id: searchField
-
-                objectName: "searchField"
-                width: parent.width - searchButton.width - parent.spacing
-                placeholderText: qsTranslate("Wayloom", "Enter Address Here")
-                text: root.controller.searchText
-                onTextEdited: root.controller.searchText = text
-                onAccepted: root.controller.textFieldShouldReturn()
-                inputMethodHints: Qt.ImhNoPredictiveText
-                Keys.onEscapePressed: mainMapView.forceActiveFocus()
-            }
-            FlatButton {
-                id: searchButton
-
-                objectName: "searchButton"
-                width: 92
-                text: qsTranslate("Wayloom", "Search")
-                onClicked: root.controller.searchButtonClicked()
-            }
+            objectName: "mainMapView"
+            anchors.fill: parent
+            anchors.topMargin: topView.y + topView.height
+            focus: true
+            onTapped: mainMapView.forceActiveFocus()
+            Accessible.role: Accessible.Graphic
+            Accessible.name: qsTranslate("Wayloom", "Map")
         }
 
-        Item {
-            id: actionRow
+        // The mark's tip is the chosen position; its shadow lies two points below.
+        Image {
+            id: locationImageView
 
-            x: FlatPalette.margin
-            y: searchRow.height + FlatPalette.spacing
-            width: parent.width - 2 * FlatPalette.margin
-            height: FlatPalette.controlHeight
-
-            Row {
-                readonly property real buttonWidth: Math.min(112, (btn_info.x - 2 * spacing) / 2)
-
-                spacing: FlatPalette.spacing
-
-                FlatButton {
-                    id: addButton
-
-                    objectName: "addButton"
-                    width: parent.buttonWidth
-                    text: qsTranslate("Wayloom", "Add To →")
-                    onClicked: root.controller.addToFavorites()
-                }
-                FlatButton {
-                    id: favoritesButton
-
-                    objectName: "favoritesButton"
-                    width: parent.buttonWidth
-                    text: qsTranslate("Wayloom", "Favorites")
-                    onClicked: root.controller.showFavoritesView()
-                }
-            }
-
-            IconButton {
-                id: btn_info
-
-                objectName: "btn_info"
-                anchors.right: enableSwitch.left
-                anchors.rightMargin: FlatPalette.spacing
-                width: FlatPalette.controlHeight
-                height: FlatPalette.controlHeight
-                raised: false
-                icon.source: "qrc:/icons/info.svg"
-                onClicked: root.controller.showInfoView()
-                Accessible.name: qsTranslate("Wayloom", "Information")
-            }
-
-            FlatSwitch {
-                id: enableSwitch
-
-                objectName: "enableSwitch"
-                anchors.right: parent.right
-                anchors.verticalCenter: parent.verticalCenter
-                checked: root.controller.enabled
-                onToggled: {
-                    root.controller.setEnable(checked)
-                    // The file decides: after a refusal the switch springs back.
-                    checked = Qt.binding(() => root.controller.enabled)
-                }
-                Accessible.name: qsTranslate("Wayloom", "Fixed location")
-            }
+            objectName: "locationImageView"
+            anchors.horizontalCenter: mainMapView.horizontalCenter
+            anchors.bottom: mainMapView.verticalCenter
+            anchors.bottomMargin: -2
+            source: "qrc:/icons/pin.svg"
+            sourceSize.width: 36
+            sourceSize.height: 46
         }
 
-        Item {
-            id: addressRow
-
-            x: FlatPalette.margin
-            y: actionRow.y + actionRow.height + 4
-            width: parent.width - 2 * FlatPalette.margin
-            height: 36
-
-            Image {
-                id: addressMark
-
-                anchors.verticalCenter: parent.verticalCenter
-                source: "qrc:/icons/place.svg"
-                sourceSize.width: 16
-                sourceSize.height: 16
-            }
-            Text {
-                id: addressLabel
-
-                objectName: "addressLabel"
-                anchors.left: addressMark.right
-                anchors.leftMargin: 6
-                anchors.right: parent.right
-                height: parent.height
-                text: root.controller.addressText
-                color: FlatPalette.text
-                font.pixelSize: FlatPalette.bodySize
-                verticalAlignment: Text.AlignVCenter
-                elide: Text.ElideRight
-                textFormat: Text.PlainText
-            }
-            Spinner {
-                id: spinner
-
-                objectName: "spinner"
-                anchors.verticalCenter: parent.verticalCenter
-                anchors.left: addressLabel.left
-                visible: root.controller.spinning
-            }
+        Attribution {
+            anchors.horizontalCenter: parent.horizontalCenter
+            anchors.bottom: parent.bottom
+            anchors.bottomMargin: (v_auto.visible ? v_auto.height : 0) + 4
+            maximumWidth: parent.width - 2 * (btn_mine.width + 2 * FlatPalette.margin)
+            text: mainMapView.attribution
         }
 
         Rectangle {
-            anchors.top: parent.bottom
+            id: bgLabel
+
+            objectName: "bgLabel"
             width: parent.width
-            height: 1
-            color: FlatPalette.separator
+            height: 20
+            color: FlatPalette.surface
         }
 
-        // A touch beside the controls takes the keyboard away.
-        TapHandler { onTapped: mainMapView.forceActiveFocus() }
-    }
+        Rectangle {
+            id: topView
 
-    IconButton {
-        id: btn_mine
+            objectName: "topView"
+            y: 20
+            width: parent.width
+            height: addressRow.y + addressRow.height
+            color: FlatPalette.surface
 
-        objectName: "btn_mine"
-        x: FlatPalette.margin
-        y: root.height - root.controller.buttonInset
-        icon.source: "qrc:/icons/locate.svg"
-        onClicked: root.controller.mineLocationButtonClicked()
-        Accessible.name: qsTranslate("Wayloom", "My location")
-        Behavior on y { NumberAnimation { duration: 200; easing.type: Easing.OutCubic } }
-    }
+            Row {
+                id: searchRow
 
-    IconButton {
-        id: btn_exchange
+                x: FlatPalette.margin
+                width: parent.width - 2 * FlatPalette.margin
+                spacing: FlatPalette.spacing
 
-        objectName: "btn_exchange"
-        x: root.width - width - FlatPalette.margin
-        y: root.height - root.controller.buttonInset
-        cornerRadius: 8
-        icon.source: "qrc:/icons/exchange.svg"
-        onClicked: root.controller.exchange()
-        Accessible.name: qsTranslate("Wayloom", "Switch mode")
-        Behavior on y { NumberAnimation { duration: 200; easing.type: Easing.OutCubic } }
-    }
+                FlatTextField {
+                    id: searchField
 
-    DriftPanel {
-        id: v_auto
+                    objectName: "searchField"
+                    width: parent.width - searchButton.width - parent.spacing
+                    placeholderText: qsTranslate("Wayloom", "Enter Address Here")
+                    text: root.controller.searchText
+                    onTextEdited: root.controller.searchText = text
+                    onAccepted: root.controller.textFieldShouldReturn()
+                    inputMethodHints: Qt.ImhNoPredictiveText
+                    Keys.onEscapePressed: mainMapView.forceActiveFocus()
+                }
+                FlatButton {
+                    id: searchButton
 
-        objectName: "v_auto"
-        anchors.bottom: parent.bottom
-        width: parent.width
-        controller: root.controller
+                    objectName: "searchButton"
+                    width: 92
+                    text: qsTranslate("Wayloom", "Search")
+                    onClicked: root.controller.searchButtonClicked()
+                }
+            }
+
+            Item {
+                id: actionRow
+
+                x: FlatPalette.margin
+                y: searchRow.height + FlatPalette.spacing
+                width: parent.width - 2 * FlatPalette.margin
+                height: FlatPalette.controlHeight
+
+                Row {
+                    readonly property real buttonWidth: Math.min(112, (btn_info.x - 2 * spacing) / 2)
+
+                    spacing: FlatPalette.spacing
+
+                    FlatButton {
+                        id: addButton
+
+                        objectName: "addButton"
+                        width: parent.buttonWidth
+                        text: qsTranslate("Wayloom", "Add To →")
+                        onClicked: root.controller.addToFavorites()
+                    }
+                    FlatButton {
+                        id: favoritesButton
+
+                        objectName: "favoritesButton"
+                        width: parent.buttonWidth
+                        text: qsTranslate("Wayloom", "Favorites")
+                        onClicked: root.controller.showFavoritesView()
+                    }
+                }
+
+                IconButton {
+                    id: btn_info
+
+                    objectName: "btn_info"
+                    anchors.right: enableSwitch.left
+                    anchors.rightMargin: FlatPalette.spacing
+                    width: FlatPalette.controlHeight
+                    height: FlatPalette.controlHeight
+                    raised: false
+                    icon.source: "qrc:/icons/info.svg"
+                    onClicked: root.controller.showInfoView()
+                    Accessible.name: qsTranslate("Wayloom", "Information")
+                }
+
+                FlatSwitch {
+                    id: enableSwitch
+
+                    objectName: "enableSwitch"
+                    anchors.right: parent.right
+                    anchors.verticalCenter: parent.verticalCenter
+                    checked: root.controller.enabled
+                    onToggled: {
+                        root.controller.setEnable(checked)
+                        // The file decides: after a refusal the switch springs back.
+                        checked = Qt.binding(() => root.controller.enabled)
+                    }
+                    Accessible.name: qsTranslate("Wayloom", "Fixed location")
+                }
+            }
+
+            Item {
+                id: addressRow
+
+                x: FlatPalette.margin
+                y: actionRow.y + actionRow.height + 4
+                width: parent.width - 2 * FlatPalette.margin
+                height: 36
+
+                Image {
+                    id: addressMark
+
+                    anchors.verticalCenter: parent.verticalCenter
+                    source: "qrc:/icons/place.svg"
+                    sourceSize.width: 16
+                    sourceSize.height: 16
+                }
+                Text {
+                    id: addressLabel
+
+                    objectName: "addressLabel"
+                    anchors.left: addressMark.right
+                    anchors.leftMargin: 6
+                    anchors.right: parent.right
+                    height: parent.height
+                    text: root.controller.addressText
+                    color: FlatPalette.text
+                    font.pixelSize: FlatPalette.bodySize
+                    verticalAlignment: Text.AlignVCenter
+                    elide: Text.ElideRight
+                    textFormat: Text.PlainText
+                }
+                Spinner {
+                    id: spinner
+
+                    objectName: "spinner"
+                    anchors.verticalCenter: parent.verticalCenter
+                    anchors.left: addressLabel.left
+                    visible: root.controller.spinning
+                }
+            }
+
+            Rectangle {
+                anchors.top: parent.bottom
+                width: parent.width
+                height: 1
+                color: FlatPalette.separator
+            }
+
+            // A touch beside the controls takes the keyboard away.
+            TapHandler { onTapped: mainMapView.forceActiveFocus() }
+        }
+
+        IconButton {
+            id: btn_mine
+
+            objectName: "btn_mine"
+            x: FlatPalette.margin
+            y: root.height - root.controller.buttonInset
+            icon.source: "qrc:/icons/locate.svg"
+            onClicked: root.controller.mineLocationButtonClicked()
+            Accessible.name: qsTranslate("Wayloom", "My location")
+            Behavior on y { NumberAnimation { duration: 200; easing.type: Easing.OutCubic } }
+        }
+
+        IconButton {
+            id: btn_exchange
+
+            objectName: "btn_exchange"
+            x: root.width - width - FlatPalette.margin
+            y: root.height - root.controller.buttonInset
+            cornerRadius: 8
+            icon.source: "qrc:/icons/exchange.svg"
+            onClicked: root.controller.exchange()
+            Accessible.name: qsTranslate("Wayloom", "Switch mode")
+            Behavior on y { NumberAnimation { duration: 200; easing.type: Easing.OutCubic } }
+        }
+
+        DriftPanel {
+            id: v_auto
+
+            objectName: "v_auto"
+            anchors.bottom: parent.bottom
+            width: parent.width
+            controller: root.controller
+        }
     }
 
     FavoriteNamePanel {

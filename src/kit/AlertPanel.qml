@@ -67,8 +67,6 @@ FocusScope {
                 width: 120
                 text: panel.presenter.button
                 onClicked: panel.presenter.dismiss()
-                Keys.onReturnPressed: panel.presenter.dismiss()
-                Keys.onEnterPressed: panel.presenter.dismiss()
             }
         }
     }

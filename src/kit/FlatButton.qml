@@ -19,6 +19,8 @@ T.Button {
     topPadding: down ? shadowHeight : 0
     font.pixelSize: 16
     focusPolicy: Qt.StrongFocus
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
     opacity: enabled ? 1 : 0.5
     Accessible.name: text
 

@@ -12,6 +12,8 @@ T.Button {
     implicitWidth: 44
     implicitHeight: 44
     focusPolicy: Qt.StrongFocus
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
 
     contentItem: Item {
         Image {

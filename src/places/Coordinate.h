@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cmath>
+
 namespace wayloom {
 
 /// A position in degrees; north and east are positive.
@@ -9,5 +11,10 @@ struct Coordinate {
 
   bool operator==(const Coordinate&) const = default;
 };
+
+/// Whether both are numbers, latitude within 90 degrees and longitude within 180.
+inline bool isOnGlobe(Coordinate coordinate) {
+  return std::abs(coordinate.latitude) <= 90 && std::abs(coordinate.longitude) <= 180;
+}
 
 }  // namespace wayloom

@@ -4,7 +4,12 @@ namespace wayloom {
 
 void ConfiguredPosition::startUpdatingLocation() {
   mAnswer = mQueue.schedule(std::chrono::milliseconds(0), [this] {
-    if (mDelegate) mDelegate->didUpdateToLocation(PositionFix{mPosition, 0.0});
+    if (!mDelegate) return;
+    if (mPosition) {
+      mDelegate->didUpdateToLocation(PositionFix{*mPosition, 0.0});
+    } else {
+      mDelegate->didUpdateToLocation(std::nullopt);
+    }
   });
 }
 

@@ -8,11 +8,13 @@
 namespace wayloom {
 
 /// A position source for a machine without one: each request is answered with the same position,
-/// as a platform would answer it, on the main thread and a little later.
+/// as a platform would answer it, on the main thread and a little later; with no fix when there is
+/// no position to give.
 class ConfiguredPosition : public PositionSource {
  public:
   /// `queue` must outlive this object.
-  ConfiguredPosition(MainQueue& queue, Coordinate position) : mQueue(queue), mPosition(position) {}
+  ConfiguredPosition(MainQueue& queue, std::optional<Coordinate> position)
+      : mQueue(queue), mPosition(position) {}
 
   void setDelegate(PositionSourceDelegate* delegate) override { mDelegate = delegate; }
   void setDesiredAccuracyBest() override {}
@@ -24,7 +26,7 @@ class ConfiguredPosition : public PositionSource {
 
  private:
   MainQueue& mQueue;
-  Coordinate mPosition;
+  std::optional<Coordinate> mPosition;
   PositionSourceDelegate* mDelegate = nullptr;
   std::unique_ptr<MainQueue::Timer> mAnswer;
 };

@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "GothenburgPlaces.h"
+#include "GothenburgRoads.h"
 #include "StreetDrawing.h"
 #include "WorldDrawing.h"
 #include "WorldPlaces.h"
@@ -50,6 +51,7 @@ Status buildGothenburg(const path& packages, const Labels& labels, const path& t
   if (!writer) return writer.failure();
   if (auto status = addStreetDrawing(writer->database(), *streets, labels); !status) return status;
   if (auto status = addGothenburgPlaces(writer->database(), packages); !status) return status;
+  if (auto status = addGothenburgRoads(writer->database(), packages); !status) return status;
   return writer->commit();
 }
 

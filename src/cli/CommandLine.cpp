@@ -6,11 +6,11 @@
 #include "places/WebGeocoder.h"
 #include "platform/CurlWebRequests.h"
 #include "platform/PreferredLanguage.h"
+#include "platform/RegionDirections.h"
 #include "platform/RegionGeocoder.h"
 #include "platform/Services.h"
 #include "platform/SystemNotices.h"
 #include "regions/RegionDirectories.h"
-#include "regions/RegionStore.h"
 #include "settings/SettingsRoot.h"
 
 namespace wayloom {
@@ -26,8 +26,14 @@ ChangeNotice& CommandLine::notice() {
 }
 
 Geocoder& CommandLine::geocoder() {
-  if (!mGeocoder) mGeocoder = mOptions.online ? makeOnlineGeocoder() : makeRegionGeocoder();
+  if (!mGeocoder && mOptions.online) mGeocoder = makeOnlineGeocoder();
+  if (!mGeocoder) mGeocoder = std::make_unique<RegionGeocoder>(regions(), mLoop);
   return *mGeocoder;
+}
+
+Directions& CommandLine::directions() {
+  if (!mDirections) mDirections = std::make_unique<RegionDirections>(regions(), mLoop);
+  return *mDirections;
 }
 
 std::unique_ptr<Geocoder> CommandLine::makeOnlineGeocoder() {
@@ -38,12 +44,13 @@ std::unique_ptr<Geocoder> CommandLine::makeOnlineGeocoder() {
       SVGeocoderEnvironment{*mRequests, mLoop, services.address("geocoding"), preferredLanguage});
 }
 
-std::unique_ptr<Geocoder> CommandLine::makeRegionGeocoder() {
-  const RegionStore store(regionDirectories(mOptions.regions));
-  for (const RefusedRegion& refused : store.refused()) {
+const RegionStore& CommandLine::regions() {
+  if (mRegions) return *mRegions;
+  mRegions.emplace(regionDirectories(mOptions.regions));
+  for (const RefusedRegion& refused : mRegions->refused()) {
     warn("region " + refused.path.string() + " is left out: " + refused.reason);
   }
-  return std::make_unique<RegionGeocoder>(store, mLoop);
+  return *mRegions;
 }
 
 ExitStatus CommandLine::answer(const Answer& answer) const {

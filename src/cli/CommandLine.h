@@ -8,9 +8,11 @@
 #include <vector>
 
 #include "platform/ChangeNotice.h"
+#include "platform/Directions.h"
 #include "platform/Geocoder.h"
 #include "platform/RunLoop.h"
 #include "platform/WebRequests.h"
+#include "regions/RegionStore.h"
 #include "settings/Result.h"
 #include "settings/SettingsFiles.h"
 
@@ -43,6 +45,7 @@ class CommandLine {
   SettingsFiles& files() { return mFiles; }
   ChangeNotice& notice();
   Geocoder& geocoder();
+  Directions& directions();
   RunLoop& loop() { return mLoop; }
 
   /// Prints the answer on standard output.
@@ -57,14 +60,17 @@ class CommandLine {
 
  private:
   std::unique_ptr<Geocoder> makeOnlineGeocoder();
-  std::unique_ptr<Geocoder> makeRegionGeocoder();
+  /// The installed regions; warns of those that cannot be used when asked for the first time.
+  const RegionStore& regions();
 
   Options mOptions;
   SettingsFiles mFiles;
   RunLoop mLoop;
   std::unique_ptr<ChangeNotice> mNotice;
   std::unique_ptr<WebRequests> mRequests;
+  std::optional<RegionStore> mRegions;
   std::unique_ptr<Geocoder> mGeocoder;
+  std::unique_ptr<Directions> mDirections;
 };
 
 }  // namespace wayloom

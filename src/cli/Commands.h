@@ -33,4 +33,10 @@ ExitStatus searchPlaces(CommandLine& line, const std::string& text,
                         const std::optional<std::string>& near, int limit);
 ExitStatus showAddress(CommandLine& line, const std::string& place);
 
+/// In what form a planned route is shown.
+enum class RouteForm { Summary, GeoJson };
+
+ExitStatus planRoute(CommandLine& line, const std::string& from, const std::string& to,
+                     RouteForm form);
+
 }  // namespace wayloom

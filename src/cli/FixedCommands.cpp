@@ -37,14 +37,18 @@ ExitStatus refuseSpeed(CommandLine& line) {
 }  // namespace
 
 ExitStatus turnFixedOn(CommandLine& line, const std::optional<std::string>& place) {
-  OpenFixedLocation fixed(line);
+  // A search takes time; the files are read when it is over.
+  std::optional<Coordinate> chosen;
   if (place) {
     const ResolvedPlace resolved = resolvePlace(line, *place);
     if (const auto* status = std::get_if<ExitStatus>(&resolved)) return *status;
-    fixed.operations.setCoordinate(std::get<GeocodedPlace>(resolved).coordinate);
-  } else if (!fixed.state.hasCoordinate) {
+    chosen = std::get<GeocodedPlace>(resolved).coordinate;
+  }
+  OpenFixedLocation fixed(line);
+  if (!chosen && !fixed.state.hasCoordinate) {
     return line.fail("no position was chosen yet: give one, as in 'fixed on 57.7,11.97'");
   }
+  if (chosen) fixed.operations.setCoordinate(*chosen);
   if (const Status switched = switchToMode(line.files(), Mode::FixedLocation); !switched) {
     return line.fail(switched.message());
   }

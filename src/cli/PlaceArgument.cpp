@@ -12,7 +12,8 @@ namespace {
 constexpr std::chrono::seconds kPatience{30};
 
 std::optional<double> parseDegrees(std::string_view text, double limit) {
-  const std::string trimmed = trimmedText(text);
+  std::string trimmed = trimmedText(text);
+  if (trimmed.starts_with('+')) trimmed.erase(0, 1);
   double value = 0;
   const char* end = trimmed.data() + trimmed.size();
   const auto [stopped, error] = std::from_chars(trimmed.data(), end, value);
@@ -37,6 +38,7 @@ GeocoderAnswer waitFor(CommandLine& line, Ask&& ask) {
 }  // namespace
 
 std::optional<Coordinate> parseCoordinate(std::string_view text) {
+  if (text.starts_with("#:")) text.remove_prefix(2);
   const std::size_t comma = text.find(',');
   if (comma == std::string_view::npos) return std::nullopt;
   const auto latitude = parseDegrees(text.substr(0, comma), 90);
@@ -71,8 +73,8 @@ ResolvedPlace resolvePlace(CommandLine& line, const std::string& argument) {
   const std::string address = trimmedText(text);
   const GeocoderAnswer answer = geocodeNow(line, address, std::nullopt);
   if (answer.places && !answer.places->empty()) return answer.places->front();
-  return line.fail(answer.error.value_or("nothing found") + ": '" + address +
-                   "'; try another spelling, or give LATITUDE,LONGITUDE");
+  return line.fail(answer.error.value_or("Nothing was found") + " ('" + address +
+                   "'); try another spelling, or give LATITUDE,LONGITUDE");
 }
 
 }  // namespace wayloom

@@ -16,7 +16,7 @@ using ResolvedPlace = std::variant<GeocodedPlace, ExitStatus>;
 /// installed regions. A failure has been reported already when its status is returned.
 ResolvedPlace resolvePlace(CommandLine& line, const std::string& argument);
 
-/// "LAT,LON" with both numbers complete and on the globe; none otherwise.
+/// "LAT,LON" or "#:LAT,LON" with both numbers complete and on the globe; none otherwise.
 std::optional<Coordinate> parseCoordinate(std::string_view text);
 
 /// Asks the geocoder and waits for its answer.

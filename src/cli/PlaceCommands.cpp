@@ -26,15 +26,16 @@ ExitStatus searchPlaces(CommandLine& line, const std::string& text,
 
   const GeocoderAnswer found = geocodeNow(line, address, center);
   if (!found.places || found.places->empty()) {
-    return line.fail(found.error.value_or("nothing found") + ": '" + address + "'");
+    return line.fail(found.error.value_or("Nothing was found") + " ('" + address + "')");
   }
   Answer answer{"", nlohmann::json::array()};
   for (const GeocodedPlace& place : *found.places) {
     if (static_cast<int>(answer.json.size()) == limit) break;
     answer.json.push_back(toJson(place));
     if (!answer.text.empty()) answer.text += '\n';
-    answer.text += coordinateText(place.coordinate) + "  " +
-                   (place.formattedAddressLines.empty() ? "" : place.formattedAddressLines.front());
+    answer.text +=
+        coordinateText(place.coordinate) + "  " +
+        (place.formattedAddressLines.empty() ? "" : oneLine(place.formattedAddressLines.front()));
   }
   return line.answer(answer);
 }
@@ -45,12 +46,13 @@ ExitStatus showAddress(CommandLine& line, const std::string& place) {
   const Coordinate coordinate = std::get<GeocodedPlace>(resolved).coordinate;
   const GeocoderAnswer found = reverseGeocodeNow(line, coordinate);
   if (!found.places || found.places->empty()) {
-    return line.fail("no address known at " + coordinateText(coordinate));
+    return line.fail(found.error.value_or("No address is known") + " (" +
+                     coordinateText(coordinate) + ")");
   }
   std::string text;
   for (const std::string& addressLine : found.places->front().formattedAddressLines) {
     if (!text.empty()) text += '\n';
-    text += addressLine;
+    text += oneLine(addressLine);
   }
   return line.answer({std::move(text), toJson(found.places->front())});
 }

@@ -55,7 +55,8 @@ ExitStatus showStatus(CommandLine& line) {
         {"drift", fixed.drifting},
         {"speed", fixed.driftSpeed}}},
       {"route", {{"enabled", status.routeEnabled}}},
-      {"position", fixed.enabled ? toJson(fixed.coordinate) : nlohmann::json()},
+      {"position",
+       fixed.enabled && fixed.hasCoordinate ? toJson(fixed.coordinate) : nlohmann::json()},
   };
   std::string text = std::string("mode      ") + nameOf(status.mode) + "\nfixed     " +
                      fixedText(fixed) + "\ndrift     " + driftText(fixed) + "\nroute     " +

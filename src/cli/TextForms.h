@@ -9,10 +9,10 @@ namespace wayloom {
 /// A number with no more digits than it needs.
 std::string shortNumber(double value);
 
-/// The text on one line, whatever it quotes.
-std::string oneLine(std::string text);
-
 /// "57.706547, 11.967100".
 std::string coordinateText(Coordinate coordinate);
+
+/// The text as one line without control characters, whoever wrote it: safe to print on a terminal.
+std::string oneLine(std::string text);
 
 }  // namespace wayloom

@@ -1,8 +1,8 @@
 #include <CLI/CLI.hpp>
-#include <clocale>
 #include <iostream>
 
 #include "cli/Commands.h"
+#include "cli/TextForms.h"
 
 namespace {
 
@@ -12,21 +12,20 @@ using wayloom::ExitStatus;
 /// What was typed, until the whole line is known to be right.
 struct Typed {
   CommandLine::Options options;
-  std::string place;
+  std::optional<std::string> place;
   std::string text;
   std::string mode;
-  std::string near;
+  std::optional<std::string> near;
+  std::string from;
+  std::string to;
   std::string drift;
   double speed = 0;
   int limit = 10;
   std::string name;
   long long number = 0;
+  bool geoJson = false;
   std::function<ExitStatus(CommandLine&)> command;
 };
-
-std::optional<std::string> given(const std::string& text) {
-  return text.empty() ? std::nullopt : std::optional(text);
-}
 
 void addModeCommands(CLI::App& app, Typed& typed) {
   app.add_subcommand("status", "Show mode, fixed location, drift and route")->callback([&typed] {
@@ -49,9 +48,7 @@ void addFixedCommands(CLI::App& app, Typed& typed) {
   auto* on = fixed->add_subcommand("on", "Turn it on, at PLACE or where it was");
   on->add_option("PLACE", typed.place, "LAT,LON, #:LAT,LON or an address");
   on->callback([&typed] {
-    typed.command = [&typed](CommandLine& line) {
-      return wayloom::turnFixedOn(line, given(typed.place));
-    };
+    typed.command = [&typed](CommandLine& line) { return wayloom::turnFixedOn(line, typed.place); };
   });
 
   fixed->add_subcommand("off", "Turn it off; the position is kept")->callback([&typed] {
@@ -61,7 +58,7 @@ void addFixedCommands(CLI::App& app, Typed& typed) {
   auto* move = fixed->add_subcommand("move", "Move the position to PLACE, on or off");
   move->add_option("PLACE", typed.place, "LAT,LON, #:LAT,LON or an address")->required();
   move->callback([&typed] {
-    typed.command = [&typed](CommandLine& line) { return wayloom::moveFixed(line, typed.place); };
+    typed.command = [&typed](CommandLine& line) { return wayloom::moveFixed(line, *typed.place); };
   });
 
   auto* drift = fixed->add_subcommand("drift", "Let the position drift by itself, or not");
@@ -94,7 +91,7 @@ void addFavoriteCommands(CLI::App& app, Typed& typed) {
   add->add_option("PLACE", typed.place, "LAT,LON, #:LAT,LON or an address");
   add->callback([&typed] {
     typed.command = [&typed](CommandLine& line) {
-      return wayloom::addFavorite(line, typed.name, given(typed.place));
+      return wayloom::addFavorite(line, typed.name, typed.place);
     };
   });
 
@@ -114,18 +111,36 @@ void addPlaceCommands(CLI::App& app, Typed& typed) {
   search->add_option("TEXT", typed.text)->required();
   search->add_option("--near", typed.near, "LAT,LON that nearer places are preferred to");
   search->add_option("--limit", typed.limit, "How many places at the most")
-      ->check(CLI::Range(1, 100))
+      ->check(CLI::Range(1, 20))
       ->capture_default_str();
   search->callback([&typed] {
     typed.command = [&typed](CommandLine& line) {
-      return wayloom::searchPlaces(line, typed.text, given(typed.near), typed.limit);
+      return wayloom::searchPlaces(line, typed.text, typed.near, typed.limit);
     };
   });
 
   auto* address = app.add_subcommand("address", "Show the address of PLACE");
   address->add_option("PLACE", typed.place, "LAT,LON, #:LAT,LON or an address")->required();
   address->callback([&typed] {
-    typed.command = [&typed](CommandLine& line) { return wayloom::showAddress(line, typed.place); };
+    typed.command = [&typed](CommandLine& line) {
+      return wayloom::showAddress(line, *typed.place);
+    };
+  });
+}
+
+void addRouteCommands(CLI::App& app, Typed& typed) {
+  auto* route = app.add_subcommand("route", "A drive on roads")->require_subcommand(1);
+  auto* plan = route->add_subcommand("plan", "Show the quickest drive, without turning it on");
+  plan->add_option("--from", typed.from, "Where it starts: LAT,LON, #:LAT,LON or an address")
+      ->required();
+  plan->add_option("--to", typed.to, "Where it ends")->required();
+  plan->add_flag("--geojson", typed.geoJson, "Answer with the whole line as GeoJSON");
+  plan->callback([&typed] {
+    typed.command = [&typed](CommandLine& line) {
+      return wayloom::planRoute(
+          line, typed.from, typed.to,
+          typed.geoJson ? wayloom::RouteForm::GeoJson : wayloom::RouteForm::Summary);
+    };
   });
 }
 
@@ -133,9 +148,8 @@ void addPlaceCommands(CLI::App& app, Typed& typed) {
 std::vector<std::string> arguments(int argc, char* argv[]) {
   std::vector<std::string> result(argv + 1, argv + argc);
   for (std::string& argument : result) {
-    const bool isPosition = argument.size() > 1 && argument[0] == '-' &&
-                            (std::isdigit(static_cast<unsigned char>(argument[1])) != 0) &&
-                            argument.find(',') != std::string::npos;
+    const bool isPosition = argument.find_first_not_of("0123456789+-., ") == std::string::npos &&
+                            argument.starts_with('-') && argument.find(',') != std::string::npos;
     if (isPosition) argument.insert(0, "#:");
   }
   std::reverse(result.begin(), result.end());
@@ -159,12 +173,17 @@ int run(int argc, char* argv[]) {
   addFixedCommands(app, typed);
   addFavoriteCommands(app, typed);
   addPlaceCommands(app, typed);
+  addRouteCommands(app, typed);
   try {
     app.parse(arguments(argc, argv));
   } catch (const CLI::Success& success) {
     return app.exit(success);
   } catch (const CLI::ParseError& error) {
-    std::cerr << "wayloomctl: " << error.what() << "; see 'wayloomctl --help'\n";
+    std::cerr << "wayloomctl: " << wayloom::oneLine(error.what()) << "; see 'wayloomctl --help'\n";
+    return static_cast<int>(ExitStatus::WrongUsage);
+  }
+  if (typed.options.root && typed.options.root->empty()) {
+    std::cerr << "wayloomctl: --root is empty: give a folder\n";
     return static_cast<int>(ExitStatus::WrongUsage);
   }
   CommandLine line(typed.options);

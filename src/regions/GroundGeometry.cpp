@@ -36,6 +36,7 @@ NearestSpot nearestSpot(Coordinate from, std::span<const Coordinate> line) {
   };
   Offset nearest = offset(line.front());
   double nearestSquare = nearest.east * nearest.east + nearest.north * nearest.north;
+  std::size_t position = 0;
   for (std::size_t index = 1; index < line.size(); ++index) {
     const Offset a = offset(line[index - 1]);
     const Offset b = offset(line[index]);
@@ -50,11 +51,13 @@ NearestSpot nearestSpot(Coordinate from, std::span<const Coordinate> line) {
     if (square < nearestSquare) {
       nearestSquare = square;
       nearest = spot;
+      position = share < 1 ? index - 1 : index;
     }
   }
   const double longitude = eastScale > 0 ? from.longitude + nearest.east / eastScale : 0;
   return {std::sqrt(nearestSquare),
-          {from.latitude + nearest.north / kMetresPerDegree, wrapLongitude(longitude)}};
+          {from.latitude + nearest.north / kMetresPerDegree, wrapLongitude(longitude)},
+          position};
 }
 
 bool encloses(std::span<const Line> rings, Coordinate position) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <span>
 #include <vector>
 
@@ -15,6 +16,8 @@ using Line = std::vector<Coordinate>;
 struct NearestSpot {
   double metres = 0;
   Coordinate coordinate;
+  /// The number of the line's last position that does not lie beyond the spot.
+  std::size_t position = 0;
 };
 
 /// The distance along the ground on a sphere of the mean radius 6371008.8 m.

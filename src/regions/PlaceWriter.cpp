@@ -33,10 +33,6 @@ CREATE VIRTUAL TABLE line_box USING rtree(id, west, east, south, north);
 CREATE VIRTUAL TABLE area_box USING rtree(id, west, east, south, north);
 )";
 
-bool isOnGlobe(Coordinate position) {
-  return std::abs(position.latitude) <= 90 && std::abs(position.longitude) <= 180;
-}
-
 // On the scale of the decimal logarithm of a population. A division is less sought than a city of
 // its name, a country more; a long street more than a short one.
 double importanceOf(const IndexedPlace& indexed) {

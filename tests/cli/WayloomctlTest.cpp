@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
 #include <sys/wait.h>
 
@@ -75,6 +76,18 @@ TEST_F(WayloomctlTest, WritesWhatTheScreenWouldWrite) {
   EXPECT_EQ(mode(), "0");
 }
 
+TEST_F(WayloomctlTest, WhatIsNoPositionIsNotTurnedOn) {
+  SettingsFiles files(root.path());
+  ASSERT_TRUE(files.saveLocationSettings(
+      PropertyList::Dictionary{{"latitude", "1e400"}, {"longitude", "1"}, {"s", std::nan("")}}));
+  EXPECT_EQ(run("fixed on").status, 1);
+  EXPECT_EQ(run("fixed drift on").status, 0);
+  EXPECT_EQ(location().at("s"), "0.000000");
+  EXPECT_EQ(run("search paris --near -33.9,-151.2").status, 0);
+  EXPECT_EQ(run("fixed on -.5,+10").status, 0);
+  EXPECT_EQ(location().at("latitude"), "-0.500000");
+}
+
 TEST_F(WayloomctlTest, ARouteThatIsOnKeepsItsMode) {
   SettingsFiles files(root.path());
   ASSERT_TRUE(files.save(SettingsFile::Route, PropertyList::Dictionary{{"enable", "1"}}));
@@ -98,6 +111,8 @@ TEST_F(WayloomctlTest, AnswersBadInputInOneLine) {
       {"fixed on 1,2,3", 2, "no position"},
       {"fixed on '#:nan,1'", 2, "no position"},
       {"fixed on ' '", 2, "empty"},
+      {"fixed on ''", 2, "empty"},
+      {"'a\nb'", 2, "a b"},
       {"fixed on 'no such place at all'", 1, "no such place at all"},
       {"fixed speed fast", 2, "fast"},
       {"fixed drift on --speed 1e400", 2, "speed"},

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "places/Coordinate.h"
+
+namespace wayloom {
+
+/// What a directions service is asked.
+struct DirectionsRequest {
+  Coordinate source;
+  Coordinate destination;
+  bool requestsAlternateRoutes = false;
+};
+
+/// One way to drive.
+struct DirectionsRoute {
+  /// Every bend of every road driven, in the order of driving; at least two positions.
+  std::vector<Coordinate> polyline;
+  double distanceMetres = 0;
+  double expectedSeconds = 0;
+};
+
+/// What a directions service answers: routes, the best first, or an error text. Without an error
+/// there is at least one route.
+struct DirectionsAnswer {
+  std::vector<DirectionsRoute> routes;
+  std::optional<std::string> error;
+};
+
+/// Plans drives from place to place. Completions run on the main thread, later; they do not run any
+/// more once the service is destroyed.
+class Directions {
+ public:
+  using Completion = std::function<void(const DirectionsAnswer&)>;
+
+  virtual ~Directions() = default;
+
+  virtual void calculate(const DirectionsRequest& request, Completion completion) = 0;
+};
+
+}  // namespace wayloom

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <vector>
+
+#include "regions/RoadGraph.h"
+#include "regions/Route.h"
+#include "settings/Result.h"
+
+namespace wayloom {
+
+/// How far from a road a place may lie to be driven from or to.
+inline constexpr double kFarthestRoadMetres = 1000;
+
+/// The quickest drive on the roads of one graph, and up to `alternates` others that differ from it
+/// and take little longer. Both ends move to the nearest roads between which a way leads. A failure
+/// says which end no road is near, or that no way leads.
+Result<std::vector<Route>> routesOn(const RoadGraph& graph, Coordinate from, Coordinate to,
+                                    int alternates);
+
+}  // namespace wayloom

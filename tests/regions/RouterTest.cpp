@@ -1,0 +1,222 @@
+#include <random>
+
+#include "regions/RegionWriter.h"
+#include "regions/Router.h"
+#include "regions/RouterAnswer.h"
+#include "tests/regions/AsciiRoads.h"
+#include "tests/regions/TemporaryFolder.h"
+
+namespace wayloom {
+namespace {
+
+using testing::HasSubstr;
+using Rows = std::vector<std::string>;
+
+const Rows kBlock = {"A->-B", "|   |", "C---D"};
+const Rows kRoundabout = {"A-P<Q-B", "  v ^  ", "C-R>S-D"};
+const Rows kResidents = {"A-B===C-D", "  |   |  ", "  E---F  "};
+const Rows kCourt = {"A-B=====C", "  |     |", "  |     |", "  E--X--F"};
+const Rows kTrap = {"A---B->-C", "|   |    ", "D---E    "};
+
+TEST(Router, DrivesAsDrawn) {
+  const struct {
+    Rows rows;
+    char from, to;
+    const char* passed;
+  } cases[] = {
+      {{"A---B---C"}, 'A', 'C', "ABC"},  {{"A---B---C"}, 'C', 'A', "CBA"},
+      {{"A---B---C"}, 'B', 'B', "BB"},   {kBlock, 'A', 'B', "AB"},
+      {kBlock, 'B', 'A', "BDCA"},        {kBlock, 'D', 'A', "DCA"},
+      {kRoundabout, 'A', 'B', "APRSQB"}, {kRoundabout, 'B', 'A', "BQPA"},
+      {kRoundabout, 'C', 'A', "CRSQPA"}, {kRoundabout, 'D', 'C', "DSQPRC"},
+      {kResidents, 'A', 'D', "ABEFCD"},  {kTrap, 'D', 'C', "DABC"},
+  };
+  for (const auto& test : cases) {
+    const AsciiRoads roads(test.rows);
+    const RoadGraph graph(roads.network());
+    const auto routes = routesOn(graph, roads.at(test.from), roads.at(test.to), 0);
+    ASSERT_TRUE(routes) << test.passed << ": " << routes.message();
+    const std::string passed = roads.passed(routes->front().line);
+    EXPECT_EQ(passed, test.passed);
+  }
+}
+
+TEST(Router, MovesBothEndsToTheNearestRoadThatLeadsThere) {
+  const struct {
+    Rows rows;
+    Coordinate from, to;
+    Coordinate first, last;
+    const char* passed;
+  } cases[] = {
+      // Within an edge, not at its ends; also against the direction in which it was drawn.
+      {{"A-----B"},
+       AsciiRoads::cell(1.5, 0.3),
+       AsciiRoads::cell(4.25, -0.2),
+       AsciiRoads::cell(1.5, 0),
+       AsciiRoads::cell(4.25, 0),
+       ""},
+      {{"A-----B"},
+       AsciiRoads::cell(4.25, 0),
+       AsciiRoads::cell(1.5, 0),
+       AsciiRoads::cell(4.25, 0),
+       AsciiRoads::cell(1.5, 0),
+       ""},
+      // Back along a one-way street means once round.
+      {kBlock, AsciiRoads::cell(3, 0), AsciiRoads::cell(1, 0), AsciiRoads::cell(3, 0),
+       AsciiRoads::cell(1, 0), "BDCA"},
+      // An island is no place to end, nor to start.
+      {{"A---B", "     ", "  X-Y"},
+       AsciiRoads::cell(0, 0),
+       AsciiRoads::cell(3, 1.9),
+       AsciiRoads::cell(0, 0),
+       AsciiRoads::cell(3, 0),
+       "A"},
+      {{"A---B", "     ", "  X-Y"},
+       AsciiRoads::cell(2, 1.9),
+       AsciiRoads::cell(3, 1.9),
+       AsciiRoads::cell(2, 2),
+       AsciiRoads::cell(3, 2),
+       "X"},
+      // Out of a street that one can only enter there is no way.
+      {kTrap, AsciiRoads::cell(7, 0), AsciiRoads::cell(0, 0), AsciiRoads::cell(4, 0),
+       AsciiRoads::cell(0, 0), "BA"},
+      // Within that street there is.
+      {kTrap, AsciiRoads::cell(5, 0.1), AsciiRoads::cell(7, 0.1), AsciiRoads::cell(5, 0),
+       AsciiRoads::cell(7, 0), ""},
+      // A residents' street may be driven to its houses and from them.
+      {kCourt, AsciiRoads::cell(0, 0), AsciiRoads::cell(4, 0), AsciiRoads::cell(0, 0),
+       AsciiRoads::cell(4, 0), "AB"},
+      {kCourt, AsciiRoads::cell(7, 0), AsciiRoads::cell(5, 3), AsciiRoads::cell(7, 0),
+       AsciiRoads::cell(5, 3), "CFX"},
+  };
+  int number = 0;
+  for (const auto& test : cases) {
+    const AsciiRoads roads(test.rows);
+    const RoadGraph graph(roads.network());
+    const auto routes = routesOn(graph, test.from, test.to, 0);
+    ASSERT_TRUE(routes) << "case " << number << ": " << routes.message();
+    const Route& route = routes->front();
+    EXPECT_LT(distanceMetres(route.line.front(), test.first), 0.1) << "case " << number;
+    EXPECT_LT(distanceMetres(route.line.back(), test.last), 0.1) << "case " << number;
+    EXPECT_EQ(roads.passed(route.line), test.passed) << "case " << number;
+    double metres = 0;
+    for (std::size_t index = 1; index < route.line.size(); ++index) {
+      metres += distanceMetres(route.line[index - 1], route.line[index]);
+    }
+    EXPECT_NEAR(route.metres, metres, 0.01) << "case " << number;
+    EXPECT_NEAR(route.seconds, metres / (50 / 3.6), 0.01) << "case " << number;
+    ++number;
+  }
+}
+
+TEST(Router, FindsTheQuickestOfAllWays) {
+  std::mt19937 random(3);
+  for (int round = 0; round < 40; ++round) {
+    std::vector<RoadWay> ways;
+    const std::size_t count = 12;
+    std::vector<Coordinate> places;
+    for (std::size_t place = 0; place < count; ++place) {
+      places.push_back(AsciiRoads::cell(random() % 50, random() % 50));
+    }
+    std::vector<std::vector<double>> seconds(count, std::vector<double>(count, INFINITY));
+    for (int way = 0; way < 24; ++way) {
+      const std::size_t a = random() % count;
+      const std::size_t b = random() % count;
+      const RoadUse use{true, random() % 2 == 0, false,
+                        static_cast<std::uint8_t>(20 + random() % 90)};
+      ways.push_back({{places[a], places[b]}, use});
+      const double taken = distanceMetres(places[a], places[b]) / (use.kmPerHour / 3.6);
+      seconds[a][b] = std::min(seconds[a][b], taken);
+      if (use.backward) seconds[b][a] = std::min(seconds[b][a], taken);
+    }
+    for (std::size_t via = 0; via < count; ++via) {
+      for (std::size_t a = 0; a < count; ++a) {
+        for (std::size_t b = 0; b < count; ++b) {
+          seconds[a][b] = std::min(seconds[a][b], seconds[a][via] + seconds[via][b]);
+        }
+      }
+    }
+    const RoadGraph graph(roadNetwork(ways));
+    for (std::size_t a = 0; a < count; ++a) {
+      for (std::size_t b = 0; b < count; ++b) {
+        const auto routes = routesOn(graph, places[a], places[b], 0);
+        if (!routes || a == b || distanceMetres(routes->front().line.front(), places[a]) > 0.01 ||
+            distanceMetres(routes->front().line.back(), places[b]) > 0.01) {
+          EXPECT_TRUE(a == b || seconds[a][b] == INFINITY) << round << ": " << a << " to " << b;
+          continue;
+        }
+        EXPECT_NEAR(routes->front().seconds, seconds[a][b], 0.01)
+            << round << ": " << a << " to " << b;
+      }
+    }
+  }
+}
+
+TEST(Router, OffersOtherWaysOnlyWhenAskedAndOnlyGoodOnes) {
+  const AsciiRoads roads({"A---B---C", "D-------E"});
+  const RoadGraph graph(roads.network());
+  const auto passed = [&](int alternates) {
+    std::vector<std::string> ways;
+    const auto routes = routesOn(graph, roads.at('A'), roads.at('C'), alternates);
+    if (!routes) return ways;
+    for (const Route& route : *routes) ways.push_back(roads.passed(route.line));
+    return ways;
+  };
+  EXPECT_THAT(passed(0), testing::ElementsAre("ABC"));
+  EXPECT_THAT(passed(2), testing::ElementsAre("ABC", "ADEC"));
+}
+
+class RegionRoads : public testing::Test {
+ protected:
+  void write(const std::string& name, const RegionBounds& bounds, const RoadNetwork& network) {
+    auto writer = RegionWriter::create(mFolder.path() / (name + ".region"), {name, "", bounds});
+    ASSERT_TRUE(writer) << writer.message();
+    ASSERT_TRUE(network.edges.empty() || writeRoads(writer->database(), network));
+    ASSERT_TRUE(writer->commit());
+  }
+  TemporaryFolder mFolder;
+};
+
+TEST_F(RegionRoads, SayWhyThereIsNoRoute) {
+  const AsciiRoads roads({"A---B", "|   |", "C---D"});
+  std::vector<RoadWay> far = roads.ways();
+  far.push_back({{{1.2, 1.2}, {1.21, 1.21}}, {}});
+  write("west", {0.9, 0.9, 1.3, 1.3}, roadNetwork(far));
+  write("east", {4, 0.9, 5, 1.3}, roadNetwork({{{{1, 4.5}, {1.01, 4.5}}, {}}}));
+  write("world", {-180, -90, 180, 90}, {});
+  Router router(RegionStore({mFolder.path()}));
+  ASSERT_TRUE(router.plan(roads.at('A'), roads.at('D')));
+  const struct {
+    Coordinate from, to;
+    const char* reason;
+  } cases[] = {
+      {{40, 40}, roads.at('A'), "start lies outside"},
+      {roads.at('A'), {-40, -140}, "end lies outside"},
+      {{1.1, 1.1}, roads.at('A'), "no road within 1000 m of the start"},
+      {roads.at('A'), {0.95, 0.95}, "no road within 1000 m of the end"},
+      {roads.at('A'), {1.2, 1.2}, "no road leads"},
+      {roads.at('A'), {1, 4.5}, "different regions"},
+      {{91, 0}, roads.at('A'), "not on the globe"},
+      {roads.at('A'), {0, NAN}, "not on the globe"},
+      {roads.at('A'), {0, 1e300}, "not on the globe"},
+  };
+  for (const auto& test : cases) {
+    EXPECT_THAT(router.plan(test.from, test.to).message(), HasSubstr(test.reason));
+  }
+}
+
+TEST_F(RegionRoads, AreRefusedWhenDamagedAndOthersServe) {
+  const AsciiRoads roads({"A---B"});
+  RoadNetwork damaged = roads.network();
+  damaged.edges.front().to = 99;
+  write("small", {0.95, 0.95, 1.05, 1.05}, damaged);
+  Router alone(RegionStore({mFolder.path()}));
+  EXPECT_THAT(alone.plan(roads.at('A'), roads.at('B')).message(),
+              HasSubstr("small cannot be used: its roads are damaged"));
+  write("large", {0, 0, 2, 2}, roads.network());
+  Router both(RegionStore({mFolder.path()}));
+  EXPECT_TRUE(both.plan(roads.at('A'), roads.at('B')));
+}
+
+}  // namespace
+}  // namespace wayloom

@@ -5,7 +5,10 @@
 #include <QtGui/QGuiApplication>
 #include <QtQml/QQmlEngine>
 
+#include "lists/ApplicationIcons.h"
 #include "lists/FavoritesViewController.h"
+#include "platform/PreferredLanguage.h"
+#include "ui/InfoViewController.h"
 
 namespace wayloom {
 
@@ -33,6 +36,8 @@ bool AppDelegate::didFinishLaunching() {
   mWindow.setMinimumSize(kSmallestSize);
   mWindow.setResizeMode(QQuickView::SizeRootObjectToView);
   mWindow.engine()->addImportPath(QStringLiteral("qrc:/qt/qml"));
+  mWindow.engine()->addImageProvider(ApplicationIcons::providerName(),
+                                     new ApplicationIcons(*mServices.homeScreen));
   mWindow.setInitialProperties(
       {{QStringLiteral("locationController"), QVariant::fromValue(&mLocationController)},
        {QStringLiteral("modals"), QVariant::fromValue(&mModals)},
@@ -61,6 +66,17 @@ void AppDelegate::presentFavorites(FavoritesDelegate& delegate) {
                   ModalPresenter::Transition::Flip);
 }
 
-void AppDelegate::presentInfo() {}
+void AppDelegate::presentInfo() {
+  mModals.present(QStringLiteral("InfoViewController"),
+                  std::make_unique<InfoViewController>(
+                      InfoViewController::Services{.files = mServices.files,
+                                                   .homeScreen = *mServices.homeScreen,
+                                                   .addresses = mServices.addresses,
+                                                   .modals = mModals,
+                                                   .version = QGuiApplication::applicationVersion(),
+                                                   .preferredLanguage = preferredLanguage(),
+                                                   .maker = configuredMakerAddresses()}),
+                  ModalPresenter::Transition::Flip);
+}
 
 }  // namespace wayloom

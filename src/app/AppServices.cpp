@@ -6,6 +6,7 @@
 
 #include "map/MapnikTileSource.h"
 #include "platform/ConfiguredPosition.h"
+#include "platform/QtIconRasterizer.h"
 #include "platform/QtPositionSource.h"
 #include "regions/RegionDirectories.h"
 #include "settings/SettingsRoot.h"
@@ -38,6 +39,7 @@ AppServices::AppServices(const Options& options)
       geocoder(regions, mainQueue),
       location(locationPlatform(options.configuredPositionOnly)),
       tiles(std::make_shared<MapnikTileSource>(regions.regions())),
+      homeScreen(systemHomeScreen(rasterizeIcon)),
       mTileLoader(TileLoader::of(tiles)) {
   mTileLoader->want(this, {{TileKey{0, 0, 0}, qGuiApp->devicePixelRatio()}});
 }

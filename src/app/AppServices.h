@@ -8,6 +8,8 @@
 #include "map/TileLoader.h"
 #include "map/TileSource.h"
 #include "places/LocationClass.h"
+#include "platform/HomeScreen.h"
+#include "platform/QtAddressOpener.h"
 #include "platform/QtMainQueue.h"
 #include "platform/RegionGeocoder.h"
 #include "platform/SettingsDefaults.h"
@@ -42,6 +44,8 @@ class AppServices {
   AlertPresenter alerts;
   LocationClass location;
   std::shared_ptr<TileSource> tiles;
+  std::unique_ptr<HomeScreen> homeScreen;
+  QtAddressOpener addresses;
 
  private:
   LocationPlatform locationPlatform(bool configuredPositionOnly);

@@ -29,6 +29,13 @@ ExitStatus addFavorite(CommandLine& line, const std::string& name,
 ExitStatus removeFavorite(CommandLine& line, long long number);
 ExitStatus chooseFavorite(CommandLine& line, long long number);
 
+/// Everything that stands in the whitelist file.
+ExitStatus listWhitelist(CommandLine& line);
+/// Turns the tick of one application over, installed here or not.
+ExitStatus toggleWhitelist(CommandLine& line, const std::string& identifier);
+/// The installed applications with their ticks.
+ExitStatus listApplications(CommandLine& line);
+
 ExitStatus searchPlaces(CommandLine& line, const std::string& text,
                         const std::optional<std::string>& near, int limit);
 ExitStatus showAddress(CommandLine& line, const std::string& place);

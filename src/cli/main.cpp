@@ -106,6 +106,24 @@ void addFavoriteCommands(CLI::App& app, Typed& typed) {
   addNumbered("choose", "Turn the fixed location on at number N", wayloom::chooseFavorite);
 }
 
+void addApplicationCommands(CLI::App& app, Typed& typed) {
+  app.add_subcommand("apps", "List the installed applications: ticked, identifier, name")
+      ->callback([&typed] { typed.command = wayloom::listApplications; });
+
+  auto* whitelist = app.add_subcommand("whitelist", "The ticked applications");
+  whitelist->require_subcommand(1);
+  whitelist->add_subcommand("list", "List what the whitelist holds")->callback([&typed] {
+    typed.command = wayloom::listWhitelist;
+  });
+  auto* toggle = whitelist->add_subcommand("toggle", "Tick an application, or take its tick away");
+  toggle->add_option("ID", typed.text, "Its identifier, as 'apps' shows it")->required();
+  toggle->callback([&typed] {
+    typed.command = [&typed](CommandLine& line) {
+      return wayloom::toggleWhitelist(line, typed.text);
+    };
+  });
+}
+
 void addPlaceCommands(CLI::App& app, Typed& typed) {
   auto* search = app.add_subcommand("search", "Find places by name or address");
   search->add_option("TEXT", typed.text)->required();
@@ -172,6 +190,7 @@ int run(int argc, char* argv[]) {
   addModeCommands(app, typed);
   addFixedCommands(app, typed);
   addFavoriteCommands(app, typed);
+  addApplicationCommands(app, typed);
   addPlaceCommands(app, typed);
   addRouteCommands(app, typed);
   try {

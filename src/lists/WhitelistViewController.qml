@@ -1,0 +1,70 @@
+import QtQuick
+import QtQuick.Templates as T
+import Wayloom.Kit
+import Wayloom.Screens as Screens
+
+// The whitelist screen: the installed applications under a title bar.
+FocusScope {
+    id: root
+
+    required property Screens.WhitelistViewController controller
+
+    focus: true
+
+    Rectangle {
+        anchors.fill: parent
+        color: FlatPalette.surface
+    }
+
+    TitleBar {
+        id: titleBar
+
+        title: qsTranslate("Wayloom", "White List")
+
+        TitleBarButton {
+            id: backButton
+
+            objectName: "backButton"
+            anchors.left: parent.left
+            text: qsTranslate("Wayloom", "Done")
+            onClicked: root.controller.done()
+        }
+    }
+
+    ListView {
+        id: mainTableView
+
+        objectName: "mainTableView"
+        anchors.fill: parent
+        anchors.topMargin: titleBar.height
+        clip: true
+        focus: true
+        activeFocusOnTab: true
+        reuseItems: true
+        currentIndex: -1
+        highlightMoveDuration: 0
+        boundsBehavior: Flickable.StopAtBounds
+        model: root.controller.appArray
+        Accessible.role: Accessible.List
+        Accessible.name: titleBar.title
+        T.ScrollBar.vertical: FlatScrollBar {}
+
+        Keys.onSpacePressed: root.controller.didSelectRow(currentIndex)
+        Keys.onReturnPressed: root.controller.didSelectRow(currentIndex)
+        Keys.onEnterPressed: root.controller.didSelectRow(currentIndex)
+
+        delegate: WhitelistRow {
+            width: ListView.view.width
+            current: ListView.isCurrentItem && mainTableView.activeFocus
+            onClicked: root.controller.didSelectRow(index)
+        }
+    }
+
+    EmptyNote {
+        objectName: "emptyNote"
+        anchors.centerIn: mainTableView
+        visible: mainTableView.count === 0
+        text: qsTranslate("Wayloom", "No applications found")
+        hint: qsTranslate("Wayloom", "Applications that are installed on this device appear here.")
+    }
+}

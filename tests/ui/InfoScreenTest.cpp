@@ -1,0 +1,95 @@
+#include "tests/support/FakeHomeScreen.h"
+#include "tests/support/ScreenHarness.h"
+#include "ui/InfoViewController.h"
+
+namespace wayloom {
+namespace {
+
+class RecordedAddresses : public AddressOpener {
+ public:
+  void open(const std::string& address) override { opened.push_back(address); }
+  std::vector<std::string> opened;
+};
+
+/// The real layout under real touches.
+class InfoScreenTest : public testing::Test {
+ protected:
+  void open(const QString& version, const std::string& language) {
+    controller.emplace(InfoViewController::Services{.files = screen.files,
+                                                    .homeScreen = home,
+                                                    .addresses = addresses,
+                                                    .modals = screen.modals,
+                                                    .version = version,
+                                                    .preferredLanguage = language,
+                                                    .maker = {"mailto:a", "shop:b", "site:c"}});
+    QObject::connect(&*controller, &ModalViewController::dismissed, [this] { dismissed = true; });
+    ASSERT_TRUE(
+        screen.show("InfoViewController", {{"controller", QVariant::fromValue(&*controller)}}));
+  }
+  void TearDown() override { screen.view.setSource({}); }
+  QString title() const { return screen.find("titleLabel")->property("text").toString(); }
+
+  ScreenHarness screen;
+  FakeHomeScreen home;
+  RecordedAddresses addresses;
+  std::optional<InfoViewController> controller;
+  bool dismissed = false;
+};
+
+TEST_F(InfoScreenTest, ItsButtonsLeadToWhitelistAuthorAndMaker) {
+  open("1.2.3", "en");
+  EXPECT_EQ(title(), "Wayloom 1.2.3");
+  screen.click("contactButton");
+  screen.click("visitButton");
+  EXPECT_EQ(addresses.opened, (std::vector<std::string>{"mailto:a", "site:c"}));
+  EXPECT_EQ(screen.modals.count(), 0);
+  screen.click("wihteListButton");
+  ASSERT_EQ(screen.modals.count(), 1);
+  const QModelIndex top = screen.modals.index(0);
+  const QHash<int, QByteArray> roles = screen.modals.roleNames();
+  EXPECT_EQ(screen.modals.data(top, roles.key("layout")), "WhitelistViewController");
+  EXPECT_EQ(screen.modals.data(top, roles.key("transition")).value<ModalPresenter::Transition>(),
+            ModalPresenter::Transition::Slide);
+  EXPECT_FALSE(dismissed);
+  screen.click("backButton");
+  EXPECT_TRUE(dismissed);
+}
+
+TEST_F(InfoScreenTest, OnlyTheExactNameOfSimplifiedChineseLeadsToTheShop) {
+  const struct {
+    const char* language;
+    const char* address;
+  } cases[] = {{"zh-Hans", "shop:b"},     {"zh-Hans-CN", "site:c"},
+               {"zh-Hant", "site:c"},     {"zh-CN", "site:c"},
+               {"ZH-HANS", "site:c"},     {"zh", "site:c"},
+               {"en, zh-Hans", "site:c"}, {"", "site:c"}};
+  for (const auto& test : cases) {
+    open("1", test.language);
+    addresses.opened.clear();
+    screen.click("visitButton");
+    EXPECT_EQ(addresses.opened, std::vector<std::string>{test.address}) << test.language;
+    screen.view.setSource({});
+  }
+}
+
+TEST_F(InfoScreenTest, AMissingVersionShowsAsAMissingObject) {
+  open({}, "en");
+  EXPECT_EQ(title(), "Wayloom (null)");
+}
+
+TEST_F(InfoScreenTest, TheKeyboardReachesEveryButton) {
+  open("1", "en");
+  screen.find("backButton")->forceActiveFocus();
+  for (int turn = 0; turn < 3; ++turn) {
+    QTest::keyClick(&screen.view, Qt::Key_Tab);
+    QTest::keyClick(&screen.view, Qt::Key_Return);
+  }
+  EXPECT_EQ(screen.modals.count(), 1);
+  EXPECT_EQ(addresses.opened, (std::vector<std::string>{"mailto:a", "site:c"}));
+  QTest::keyClick(&screen.view, Qt::Key_Tab);
+  QTest::keyClick(&screen.view, Qt::Key_Space);
+  EXPECT_TRUE(dismissed);
+}
+
+}  // namespace
+}  // namespace wayloom

@@ -86,11 +86,14 @@ void TileLoader::work(std::stop_token stop) {
       mInWork.insert(tile);
     }
     QImage image = draw(tile);
-    const std::lock_guard lock(mMutex);
-    mDrawn.push_back({tile, std::move(image)});
-    if (mDrawn.size() == 1) {
-      QMetaObject::invokeMethod(this, &TileLoader::collect, Qt::QueuedConnection);
+    bool isFirst = false;
+    {
+      const std::lock_guard lock(mMutex);
+      mDrawn.push_back({tile, std::move(image)});
+      isFirst = mDrawn.size() == 1;
     }
+    // Not under the lock: the main thread wakes at once, and would wait for this slower thread.
+    if (isFirst) QMetaObject::invokeMethod(this, &TileLoader::collect, Qt::QueuedConnection);
   }
 }
 

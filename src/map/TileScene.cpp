@@ -1,6 +1,9 @@
 #include "map/TileScene.h"
 
+#include <cmath>
+
 #include <QtQuick/QQuickWindow>
+#include <QtQuick/QSGRendererInterface>
 
 namespace wayloom {
 
@@ -8,6 +11,9 @@ namespace {
 // Copying an image to the graphics card takes a millisecond or two; what more there is can wait for
 // the next frame, as long as something else stands in its place.
 constexpr int kTexturesPerFrame = 2;
+// The software renderer hands a scaled image of over 95 rows to a pool of threads in parts, and
+// waits until the last one had its turn: where other programs keep the processors busy, for long.
+constexpr int kBandRows = 80;
 }  // namespace
 
 bool TileScene::show(QQuickWindow& window, TileLoader& loader, const std::vector<PlacedTile>& tiles,
@@ -102,6 +108,23 @@ void TileScene::placeChildren(const PlacedTile& tile, double scale) {
 }
 
 void TileScene::place(QSGTexture* texture, const QRectF& part, const QRectF& rect) {
+  const QSizeF pixels = rect.size() * mWindow->effectiveDevicePixelRatio();
+  const bool isScaled = part.width() * texture->textureSize().width() != pixels.width();
+  const bool isInBands =
+      isScaled && mWindow->rendererInterface()->graphicsApi() == QSGRendererInterface::Software;
+  const int bands = isInBands ? static_cast<int>(std::ceil(pixels.height() / kBandRows)) : 1;
+  // Whole pixels, so that bands touch.
+  const auto edge = [&](int band) { return std::round(pixels.height() * band / bands); };
+  for (int band = 0; band < bands; ++band) {
+    const double top = edge(band) / pixels.height();
+    const double height = edge(band + 1) / pixels.height() - top;
+    placeBand(texture,
+              {part.x(), part.y() + part.height() * top, part.width(), part.height() * height},
+              {rect.x(), rect.y() + rect.height() * top, rect.width(), rect.height() * height});
+  }
+}
+
+void TileScene::placeBand(QSGTexture* texture, const QRectF& part, const QRectF& rect) {
   const bool isNew = mUsedNodes == mNodes.size();
   if (isNew) mNodes.push_back(mWindow->createImageNode());
   QSGImageNode* node = mNodes[mUsedNodes++];

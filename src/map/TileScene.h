@@ -42,6 +42,7 @@ class TileScene : public QSGTransformNode {
                      bool mayCreate);
   void placeChildren(const PlacedTile& tile, double scale);
   void place(QSGTexture* texture, const QRectF& part, const QRectF& rect);
+  void placeBand(QSGTexture* texture, const QRectF& part, const QRectF& rect);
   void dropUnused();
 
   QQuickWindow* mWindow = nullptr;

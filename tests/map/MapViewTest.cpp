@@ -119,6 +119,36 @@ TEST_F(MapViewTest, ShowsItsTilesWhereTheyBelong) {
   }
 }
 
+TEST_F(MapViewTest, ScalesTilesEvenly) {
+  // Red tells the row within the tile, green the column.
+  struct Gradient : FakeTileSource {
+    QImage draw(const TileKey&, double) override {
+      QImage image(512, 512, QImage::Format_RGB32);
+      for (int y = 0; y < 512; ++y) {
+        for (int x = 0; x < 512; ++x) image.setPixel(x, y, qRgb(y / 2, x / 2, 0));
+      }
+      return image;
+    }
+  };
+  map->setTileSource(std::make_shared<Gradient>());
+  for (const double zoomed : {0.71, 0.9, 1.1, 1.4}) {
+    map->setRegion(regionAround(57.7, 11.97, 0.1 / zoomed), Animated::No);
+    ASSERT_TRUE(waitUntilComplete());
+    MapCamera camera;
+    camera.setSize({400, 600});
+    camera.fit(map->region());
+    const QImage grabbed = window.grabWindow();
+    for (const PlacedTile& tile : visibleTiles(camera, tileZoom(camera, 18), 1)) {
+      const QRect inView = tile.rect.toRect().adjusted(1, 1, -1, -1) & QRect(0, 0, 400, 600);
+      for (int y = inView.top(); y <= inView.bottom(); ++y) {
+        const QColor colour = grabbed.pixelColor(inView.center().x(), y);
+        const double row = (y + 0.5 - tile.rect.top()) / tile.rect.height();
+        ASSERT_NEAR(colour.red(), row * 255.5, 2) << zoomed << " row " << y;
+      }
+    }
+  }
+}
+
 TEST_F(MapViewTest, ParentStandsInForAMissingTile) {
   map->setRegion(regionAround(0.02, 0.02, 0.05), Animated::No);
   ASSERT_TRUE(waitUntilComplete());

@@ -1,0 +1,122 @@
+#include <memory>
+#include <string>
+
+#include <QtQuick/QQuickWindow>
+#include <QtTest/QTest>
+
+#include "ui/GestureRecognizer.h"
+#include "ui/View.h"
+#include "ui/ViewFrame.h"
+
+namespace wayloom {
+namespace {
+
+/// A window with a view that knows all gestures, and a record of them: t for a tap; B, c, E and X
+/// for a pan that began, changed, ended or was cancelled.
+struct Gestures {
+  Gestures() {
+    window.resize(300, 300);
+    setFrame(view, {50, 50, 200, 200});
+    addTapGestureWithTarget(view, target, [this](const auto&) { seen += 't'; });
+    addSwipeGestureWithTarget(view, target, [this](const auto&) { ++swipes; });
+    addPanGestureWithTarget(view, target, [this](const GestureRecognizer& pan) {
+      seen += "?BcEX"[static_cast<int>(pan.state())];
+      panned = pan.translation();
+    });
+    window.show();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
+  }
+
+  void drag(QPoint from, QPoint by, int stepMs) {
+    QTest::mousePress(&window, Qt::LeftButton, {}, from);
+    for (int step = 1; step <= 4; ++step) QTest::mouseMove(&window, from + by * step / 4, stepMs);
+    QTest::mouseRelease(&window, Qt::LeftButton, {}, from + by);
+  }
+
+  QQuickWindow window;
+  View view{window.contentItem()};
+  QObject target;
+  std::string seen;
+  int swipes = 0;
+  QPointF panned;
+};
+
+TEST(GestureRecognizer, TellsTapsPansAndSwipes) {
+  const struct {
+    const char* name;
+    QPoint by;
+    int stepMs;
+    std::string seen;
+    int swipes;
+  } cases[] = {
+      {"no move", {0, 0}, 1, "t", 0},
+      {"a tremble", {2, 1}, 1, "t", 0},
+      {"down", {0, 100}, 1, "BcccE", 0},
+      {"left", {-60, 0}, 1, "BcccE", 0},
+      {"right, quickly", {80, 0}, 1, "BcccE", 1},
+      {"right, slowly", {80, 0}, 300, "BcccE", 0},
+      {"right, steeply", {80, 60}, 1, "BcccE", 0},
+  };
+  for (const auto& test : cases) {
+    Gestures gestures;
+    gestures.drag({120, 120}, test.by, test.stepMs);
+    EXPECT_EQ(gestures.seen, test.seen) << test.name;
+    EXPECT_EQ(gestures.swipes, test.swipes) << test.name;
+    EXPECT_EQ(gestures.panned, test.seen == "t" ? QPointF() : QPointF(test.by)) << test.name;
+  }
+}
+
+TEST(GestureRecognizer, CountsTapsOnTheViewOnly) {
+  Gestures gestures;
+  QTest::mouseClick(&gestures.window, Qt::LeftButton, {}, {10, 10});
+  EXPECT_EQ(gestures.seen, "") << "beside the view";
+  QTest::mouseDClick(&gestures.window, Qt::LeftButton, {}, {100, 100});
+  EXPECT_EQ(gestures.seen, "tt");
+}
+
+TEST(GestureRecognizer, FollowsAFinger) {
+  Gestures gestures;
+  const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
+  QTest::touchEvent(&gestures.window, screen.get()).press(0, {100, 100}, &gestures.window);
+  QTest::touchEvent(&gestures.window, screen.get()).release(0, {100, 100}, &gestures.window);
+  EXPECT_EQ(gestures.seen, "t");
+}
+
+TEST(GestureRecognizer, EndsAPanWhoseFingerIsTaken) {
+  Gestures gestures;
+  QTest::mousePress(&gestures.window, Qt::LeftButton, {}, {100, 100});
+  QTest::mouseMove(&gestures.window, {100, 160});
+  EXPECT_EQ(gestures.seen, "B");
+  gestures.view.ungrabMouse();
+  EXPECT_EQ(gestures.seen, "BX");
+  QTest::mouseRelease(&gestures.window, Qt::LeftButton, {}, {100, 160});
+  EXPECT_EQ(gestures.seen, "BX");
+}
+
+TEST(GestureRecognizer, LeavesTheItemItsEvents) {
+  struct Counting : QQuickItem {
+    using QQuickItem::QQuickItem;
+    void mousePressEvent(QMouseEvent*) override { ++presses; }
+    void mouseReleaseEvent(QMouseEvent*) override { ++releases; }
+    int presses = 0;
+    int releases = 0;
+  };
+  Gestures gestures;
+  Counting item(gestures.window.contentItem());
+  setFrame(item, {0, 0, 300, 300});
+  int taps = 0;
+  {
+    QObject shortLived;
+    addTapGestureWithTarget(item, shortLived, [&taps](const auto&) { ++taps; });
+    addTapGestureWithTarget(item, gestures.target, [&taps](const auto&) { ++taps; });
+    QTest::mouseClick(&gestures.window, Qt::LeftButton, {}, {100, 100});
+    EXPECT_EQ(taps, 2);
+  }
+  QTest::mouseClick(&gestures.window, Qt::LeftButton, {}, {100, 100});
+  EXPECT_EQ(taps, 3) << "one target is gone";
+  EXPECT_EQ(item.presses, 2);
+  EXPECT_EQ(item.releases, 2);
+}
+
+}  // namespace
+}  // namespace wayloom

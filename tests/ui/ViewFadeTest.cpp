@@ -1,0 +1,108 @@
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <QtCore/QElapsedTimer>
+#include <QtTest/QTest>
+
+#include "ui/ViewFade.h"
+
+namespace wayloom {
+namespace {
+
+bool waitFor(const std::function<bool()>& condition) {
+  return QTest::qWaitFor(condition);
+}
+
+TEST(ViewFade, ShowsFromNothing) {
+  QQuickItem item;
+  item.setVisible(false);
+  std::vector<double> seen;
+  QObject::connect(&item, &QQuickItem::opacityChanged, [&] { seen.push_back(item.opacity()); });
+  int completions = 0;
+  QElapsedTimer clock;
+  clock.start();
+  fadeShowAnimationComplete(item, [&] { ++completions; });
+  EXPECT_TRUE(item.isVisible());
+  EXPECT_EQ(item.opacity(), 0) << "an opaque item jumps to nothing first";
+  EXPECT_EQ(completions, 0);
+  ASSERT_TRUE(waitFor([&] { return completions == 1; }));
+  EXPECT_GE(clock.elapsed(), 280) << "milliseconds; the animation clock has steps";
+  EXPECT_EQ(item.opacity(), 1);
+  EXPECT_TRUE(std::is_sorted(seen.begin(), seen.end()));
+  EXPECT_GT(seen.size(), 3U) << "steps on the way";
+  EXPECT_EQ(kFadeSeconds, 0.30000001192092896);
+}
+
+TEST(ViewFade, HidesAndLeavesTheItemOpaque) {
+  QQuickItem item;
+  std::string atCompletion;
+  fadeHideAnimationDuration(item, 0.05, [&] {
+    atCompletion = item.isVisible() ? "visible" : "hidden";
+    atCompletion += item.opacity() == 1 ? " opaque" : " transparent";
+  });
+  EXPECT_EQ(item.opacity(), 1) << "does not jump";
+  ASSERT_TRUE(waitFor([&] { return item.opacity() < 1; }));
+  EXPECT_TRUE(item.isVisible());
+  ASSERT_TRUE(waitFor([&] { return !atCompletion.empty(); }));
+  EXPECT_EQ(atCompletion, "hidden opaque");
+
+  fadeShowAnimation(item);
+  fadeHideAnimation(item);
+  ASSERT_TRUE(waitFor([&] { return !item.isVisible(); })) << "without a completion";
+  EXPECT_EQ(item.opacity(), 1);
+}
+
+TEST(ViewFade, EndsWhatItInterrupts) {
+  const struct {
+    std::string fades;
+    bool isVisible;
+  } cases[] = {{"sh", false}, {"hs", true}, {"ss", true}, {"hh", false}, {"hshs", true}};
+  for (const auto& test : cases) {
+    QQuickItem item;
+    std::string ended;
+    for (const char kind : test.fades) {
+      const auto complete = [&ended, kind] { ended += kind; };
+      if (kind == 's') {
+        fadeShowAnimationDuration(item, 0.03, complete);
+      } else {
+        fadeHideAnimationDuration(item, 0.03, complete);
+      }
+    }
+    EXPECT_EQ(ended, "") << test.fades;
+    EXPECT_TRUE(waitFor([&] { return ended.size() == test.fades.size(); })) << test.fades;
+    EXPECT_EQ(ended, test.fades);
+    EXPECT_EQ(item.isVisible(), test.isVisible) << test.fades;
+    EXPECT_EQ(item.opacity(), 1) << test.fades;
+  }
+}
+
+TEST(ViewFade, EndsWithItsItem) {
+  int completions = 0;
+  auto item = std::make_unique<QQuickItem>();
+  fadeShowAnimationDuration(*item, 0.01, [&] { ++completions; });
+  fadeHideAnimationDuration(*item, 0.01, [&] { ++completions; });
+  item.reset();
+  bool isLater = false;
+  QQuickItem other;
+  fadeShowAnimationDuration(other, 0.03, [&] { isLater = true; });
+  ASSERT_TRUE(waitFor([&] { return isLater; }));
+  EXPECT_EQ(completions, 0);
+
+  auto last = std::make_unique<QQuickItem>();
+  fadeHideAnimationDuration(*last, 0.01, [&] { last.reset(); });
+  EXPECT_TRUE(waitFor([&] { return !last; })) << "destroyed by its completion";
+}
+
+TEST(ViewFade, TakesEveryDuration) {
+  for (double seconds : {0.0, -1.0, std::nan(""), -HUGE_VAL}) {
+    QQuickItem item;
+    bool isComplete = false;
+    fadeHideAnimationDuration(item, seconds, [&] { isComplete = true; });
+    EXPECT_FALSE(isComplete) << seconds;
+    EXPECT_TRUE(waitFor([&] { return isComplete; })) << seconds;
+  }
+}
+
+}  // namespace
+}  // namespace wayloom

@@ -7,6 +7,7 @@
 
 #include "lists/ApplicationIcons.h"
 #include "lists/FavoritesViewController.h"
+#include "places/SelectAddressViewController.h"
 #include "platform/PreferredLanguage.h"
 #include "ui/InfoViewController.h"
 
@@ -19,19 +20,31 @@ constexpr QSize kSmallestSize(320, 480);
 
 AppDelegate::AppDelegate(AppServices& services)
     : mServices(services),
-      mLocationController({.files = services.files,
-                           .notice = services.notice,
-                           .location = services.location,
-                           .alerts = services.alerts,
-                           .screens = *this,
-                           .tiles = services.tiles}) {
+      locationController({.files = services.files,
+                          .notice = services.notice,
+                          .location = services.location,
+                          .alerts = services.alerts,
+                          .screens = *this,
+                          .tiles = services.tiles}),
+      wayloomController({.files = services.files,
+                         .clock = services.clock,
+                         .saves = services.saves,
+                         .directions = services.directions,
+                         .location = services.location,
+                         .alerts = services.alerts,
+                         .screens = *this,
+                         .tiles = services.tiles}) {
   connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
           [this](Qt::ApplicationState state) {
             if (state == Qt::ApplicationActive) didBecomeActive();
           });
+  connect(&mModals, &ModalPresenter::countChanged, this, [this] {
+    if (mModals.count() == 0) viewWillAppear(mShown);
+  });
 }
 
 bool AppDelegate::didFinishLaunching() {
+  mShown = mServices.files.readMasterMode();
   mWindow.setTitle(QStringLiteral("Wayloom"));
   mWindow.setMinimumSize(kSmallestSize);
   mWindow.setResizeMode(QQuickView::SizeRootObjectToView);
@@ -39,11 +52,14 @@ bool AppDelegate::didFinishLaunching() {
   mWindow.engine()->addImageProvider(ApplicationIcons::providerName(),
                                      new ApplicationIcons(*mServices.homeScreen));
   mWindow.setInitialProperties(
-      {{QStringLiteral("locationController"), QVariant::fromValue(&mLocationController)},
+      {{QStringLiteral("locationShown"), mShown == Mode::FixedLocation},
+       {QStringLiteral("locationController"), QVariant::fromValue(&locationController)},
+       {QStringLiteral("wayloomController"), QVariant::fromValue(&wayloomController)},
        {QStringLiteral("modals"), QVariant::fromValue(&mModals)},
        {QStringLiteral("alerts"), QVariant::fromValue(&mServices.alerts)}});
   mWindow.setSource(QUrl(QStringLiteral("qrc:/qt/qml/Wayloom/Layouts/AppWindow.qml")));
   if (mWindow.status() != QQuickView::Ready) return false;
+  viewWillAppear(mShown);
   for (const RefusedRegion& refused : mServices.regions.refused()) {
     std::fprintf(stderr, "wayloom: region %s is left out: %s\n", refused.path.c_str(),
                  refused.reason.c_str());
@@ -54,11 +70,33 @@ bool AppDelegate::didFinishLaunching() {
 }
 
 void AppDelegate::didBecomeActive() {
-  mLocationController.viewWillAppear();
+  // The file decides, not the screen that is shown; the two agree, since every switch of screens
+  // writes the file first.
+  viewWillAppear(mServices.files.readMasterMode());
 }
 
-void AppDelegate::changeToLocation() {}
-void AppDelegate::changeToRouter() {}
+void AppDelegate::changeToLocation() {
+  show(Mode::FixedLocation);
+}
+
+void AppDelegate::changeToRouter() {
+  show(Mode::Route);
+}
+
+void AppDelegate::show(Mode mode) {
+  mShown = mode;
+  mWindow.rootObject()->setProperty("locationShown", mode == Mode::FixedLocation);
+  viewWillAppear(mode);
+}
+
+void AppDelegate::viewWillAppear(Mode mode) {
+  // A screen that was never shown has not been loaded, and will read its file when it is.
+  if (mode == Mode::FixedLocation) {
+    if (locationController.isViewLoaded()) locationController.viewWillAppear();
+  } else {
+    if (wayloomController.isViewLoaded()) wayloomController.viewWillAppear();
+  }
+}
 
 void AppDelegate::presentFavorites(FavoritesDelegate& delegate) {
   mModals.present(QStringLiteral("FavoritesViewController"),
@@ -77,6 +115,17 @@ void AppDelegate::presentInfo() {
                                                    .preferredLanguage = preferredLanguage(),
                                                    .maker = configuredMakerAddresses()}),
                   ModalPresenter::Transition::Flip);
+}
+
+void AppDelegate::presentSelectAddress(
+    std::function<void(double latitude, double longitude, const QString& address)> block) {
+  mModals.present(
+      QStringLiteral("SelectAddressViewController"),
+      std::make_unique<SelectAddressViewController>(
+          SelectAddressViewController::Services{
+              .location = mServices.location, .alerts = mServices.alerts, .tiles = mServices.tiles},
+          std::move(block)),
+      ModalPresenter::Transition::Slide);
 }
 
 }  // namespace wayloom

@@ -7,6 +7,7 @@
 #include "app/ScreenSwitcher.h"
 #include "fixed/SpotloomViewController.h"
 #include "kit/ModalPresenter.h"
+#include "route/WayloomViewController.h"
 
 namespace wayloom {
 
@@ -26,13 +27,22 @@ class AppDelegate : public QObject, public ScreenSwitcher {
   void changeToRouter() override;
   void presentFavorites(FavoritesDelegate& delegate) override;
   void presentInfo() override;
+  void presentSelectAddress(
+      std::function<void(double latitude, double longitude, const QString& address)> block)
+      override;
 
   QQuickView& window() { return mWindow; }
 
  private:
+  void show(Mode mode);
+  /// The screen of this mode is about to be seen.
+  void viewWillAppear(Mode mode);
+
   AppServices& mServices;
-  SpotloomViewController mLocationController;
+  SpotloomViewController locationController;
+  WayloomViewController wayloomController;
   ModalPresenter mModals;
+  Mode mShown = Mode::Route;
   QQuickView mWindow;
 };
 

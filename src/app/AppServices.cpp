@@ -37,6 +37,7 @@ AppServices::AppServices(const Options& options)
       notice(noticeCommand()),
       regions(regionDirectories(options.regions)),
       geocoder(regions, mainQueue),
+      directions(regions, mainQueue),
       location(locationPlatform(options.configuredPositionOnly)),
       tiles(std::make_shared<MapnikTileSource>(regions.regions())),
       homeScreen(systemHomeScreen(rasterizeIcon)),

@@ -8,14 +8,17 @@
 #include "map/TileLoader.h"
 #include "map/TileSource.h"
 #include "places/LocationClass.h"
+#include "platform/Clock.h"
 #include "platform/HomeScreen.h"
 #include "platform/QtAddressOpener.h"
 #include "platform/QtMainQueue.h"
+#include "platform/RegionDirections.h"
 #include "platform/RegionGeocoder.h"
 #include "platform/SettingsDefaults.h"
 #include "platform/SystemNotices.h"
 #include "regions/RegionStore.h"
 #include "settings/SettingsFiles.h"
+#include "settings/WorkQueue.h"
 
 namespace wayloom {
 
@@ -36,10 +39,13 @@ class AppServices {
   AppServices& operator=(const AppServices&) = delete;
 
   SettingsFiles files;
+  WorkQueue saves;
   SystemNotices notice;
+  SystemClock clock;
   RegionStore regions;
   QtMainQueue mainQueue;
   RegionGeocoder geocoder;
+  RegionDirections directions;
   SettingsDefaults defaults;
   AlertPresenter alerts;
   LocationClass location;

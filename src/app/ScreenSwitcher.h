@@ -1,5 +1,9 @@
 #pragma once
 
+#include <functional>
+
+#include <QtCore/QString>
+
 namespace wayloom {
 
 class FavoritesDelegate;
@@ -13,6 +17,10 @@ class ScreenSwitcher {
   /// Presents the favourites; `delegate` is told when one was chosen.
   virtual void presentFavorites(FavoritesDelegate& delegate) = 0;
   virtual void presentInfo() = 0;
+  /// Presents the address picker, which hands the pick to `block` (latitude and longitude in
+  /// degrees, and the address); zeros mean that nothing was picked.
+  virtual void presentSelectAddress(
+      std::function<void(double latitude, double longitude, const QString& address)> block) = 0;
 };
 
 }  // namespace wayloom

@@ -1,24 +1,17 @@
 #include "app/Tour.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <ctime>
 #include <optional>
 #include <unistd.h>
 
-#include <QtCore/QCoreApplication>
-#include <QtCore/QDeadlineTimer>
 #include <QtCore/QDir>
 #include <QtCore/QFile>
-#include <QtGui/QImage>
-#include <QtGui/QKeyEvent>
-#include <QtGui/QMouseEvent>
-#include <QtQuick/QQuickItem>
 
 namespace wayloom {
 
 namespace {
-
-constexpr std::chrono::seconds kPatience{30};
 
 /// How long this process has run, as the system counts it; none where it does not tell.
 std::optional<double> secondsSinceStart() {
@@ -33,165 +26,149 @@ std::optional<double> secondsSinceStart() {
   return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) / 1e9 - started;
 }
 
-/// Screens that lie over one another name some controls alike; the upper one comes last.
-QQuickItem* uppermost(const QQuickItem* within, const QString& objectName) {
-  const QList<QQuickItem*> children = within->childItems();
-  for (auto child = children.rbegin(); child != children.rend(); ++child) {
-    if (QQuickItem* found = uppermost(*child, objectName)) return found;
-    if ((*child)->objectName() == objectName) return *child;
-  }
-  return nullptr;
-}
-
 }  // namespace
 
 Tour::Tour(QQuickView& window, SettingsFiles& files, const QString& directory)
-    : mWindow(window), mFiles(files), mDirectory(directory) {}
+    : mWindow(window, directory), mFiles(files), mDirectory(directory) {}
 
 bool Tour::run() {
   if (!QDir().mkpath(mDirectory)) {
     std::fprintf(stderr, "wayloom: cannot make the folder %s\n", qPrintable(mDirectory));
     return false;
   }
-  if (!pinPlace() || !saveFavorite() || !seeFavorites()) return false;
-  for (const SettingsFile name : {SettingsFile::Location, SettingsFile::Favorites}) printFile(name);
+  const bool walked = start() && pinPlace() && saveFavorite() && seeFavorites() &&
+                      changeToRoute() && planDrive() && chooseTimes() && drive();
+  if (!walked) return false;
+  for (const SettingsFile name : {SettingsFile::Master, SettingsFile::Location,
+                                  SettingsFile::Favorites, SettingsFile::Route}) {
+    printFile(name);
+  }
   return true;
 }
 
-bool Tour::pinPlace() {
-  const bool drawn = waitUntil(
-      "the first map", [this] { return find("mainMapView")->property("complete").toBool(); });
+bool Tour::start() {
+  const bool drawn = mWindow.waitUntil(
+      "the first map", [this] { return mWindow.find("mv_main")->property("complete").toBool(); });
   if (!drawn) return false;
   if (const auto seconds = secondsSinceStart()) {
     std::printf("The first complete map stood %.2f s after the start.\n", *seconds);
   }
-  if (!waitForMap() || !savePicture("start")) return false;
+  return mWindow.waitForMap("mv_main") && mWindow.savePicture("start") &&
+         mWindow.click("btn_exchange") && mWindow.waitForMap("mainMapView");
+}
 
-  if (!click("searchField")) return false;
-  type(QStringLiteral("kungsportsavenyn göteborg"));
-  press(Qt::Key_Return);
-  const bool found = waitUntil("the searched address", [this] {
-    return !find("HUD")->property("shown").toBool() && !find("spinner")->isVisible() &&
-           !find("addressLabel")->property("text").toString().isEmpty();
+bool Tour::pinPlace() {
+  if (!mWindow.click("searchField")) return false;
+  mWindow.type(QStringLiteral("kungsportsavenyn göteborg"));
+  mWindow.press(Qt::Key_Return);
+  const bool found = mWindow.waitUntil("the searched address", [this] {
+    return !mWindow.find("HUD")->property("shown").toBool() && !mWindow.isShown("spinner") &&
+           !mWindow.find("addressLabel")->property("text").toString().isEmpty();
   });
-  if (!found || !waitForMap() || !savePicture("search")) return false;
+  if (!found || !mWindow.waitForMap("mainMapView") || !mWindow.savePicture("search")) return false;
 
   // Where no file was yet, the switch springs back once.
-  if (!click("enableSwitch")) return false;
-  if (!find("v_auto")->isVisible() && !click("enableSwitch")) return false;
-  return click("s_auto") && click("sd_auto") && waitForMap() && savePicture("pinned");
+  if (!mWindow.click("enableSwitch")) return false;
+  if (!mWindow.isShown("v_auto") && !mWindow.click("enableSwitch")) return false;
+  return mWindow.click("s_auto") && mWindow.click("sd_auto") && mWindow.waitForMap("mainMapView") &&
+         mWindow.savePicture("pinned");
 }
 
 bool Tour::saveFavorite() {
-  if (!click("addButton")) return false;
-  const bool asked =
-      waitUntil("the name panel", [this] { return find("alertView")->opacity() == 1.0; });
-  if (!asked || !savePicture("favourite") || !click("okButton")) return false;
-  return waitUntil("the name panel's end", [this] { return !find("alertView")->isVisible(); });
+  if (!mWindow.click("addButton")) return false;
+  const bool asked = mWindow.waitUntil(
+      "the name panel", [this] { return mWindow.find("alertView")->opacity() == 1.0; });
+  if (!asked || !mWindow.savePicture("favourite") || !mWindow.click("okButton")) return false;
+  return mWindow.waitUntil("the name panel's end",
+                           [this] { return !mWindow.isShown("alertView"); });
 }
 
 bool Tour::seeFavorites() {
-  return click("favoritesButton") && waitForScreen("mainTableView") && savePicture("favourites") &&
-         click("editButton") && savePicture("favourites-edit") && click("editButton") &&
-         clickRow(0) && waitForScreen("mainMapView") && waitForMap() && savePicture("chosen");
+  return mWindow.click("favoritesButton") && mWindow.waitForScreen("mainTableView") &&
+         mWindow.savePicture("favourites") && mWindow.click("editButton") &&
+         mWindow.savePicture("favourites-edit") && mWindow.click("editButton") &&
+         mWindow.clickRow(0) && mWindow.waitForScreen("mainMapView") &&
+         mWindow.waitForMap("mainMapView") && mWindow.savePicture("chosen");
 }
 
-QQuickItem* Tour::find(const char* objectName) const {
-  return uppermost(mWindow.rootObject(), QString::fromLatin1(objectName));
+bool Tour::changeToRoute() {
+  // With the position on, the mode button only says so.
+  if (!mWindow.click("btn_exchange") || !mWindow.savePicture("refusal")) return false;
+  return mWindow.click("alertButton") && mWindow.click("enableSwitch") &&
+         mWindow.waitUntil("the drift panel's end",
+                           [this] { return !mWindow.isShown("v_auto"); }) &&
+         mWindow.click("btn_exchange") && mWindow.waitForMap("mv_main");
 }
 
-bool Tour::click(const char* objectName) {
-  return click(find(objectName), objectName);
+bool Tour::planDrive() {
+  if (!choosePlace("lb_start", QStringLiteral("kungsportsavenyn göteborg"), "picker")) return false;
+  if (!choosePlace("lb_end", QStringLiteral("lindholmsallén göteborg"), nullptr)) return false;
+  const bool planned = mWindow.waitUntil(
+      "the path", [this] { return !mWindow.find("HUD")->property("shown").toBool(); });
+  return planned && mWindow.waitForMap("mv_main") && mWindow.savePicture("path");
 }
 
-bool Tour::clickRow(int row) {
-  QQuickItem* item = nullptr;
-  QMetaObject::invokeMethod(find("mainTableView"), "itemAtIndex", Q_RETURN_ARG(QQuickItem*, item),
-                            Q_ARG(int, row));
-  return click(item, "row");
+bool Tour::choosePlace(const char* label, const QString& address, const char* picture) {
+  if (!mWindow.click(label) || !mWindow.waitForScreen("buttonBar")) return false;
+  const auto isSettled = [this] {
+    return !mWindow.find("HUD")->property("shown").toBool() && !mWindow.isShown("spinner") &&
+           !mWindow.find("addressLabel")->property("text").toString().isEmpty();
+  };
+  if (!mWindow.waitUntil("the device's address", isSettled)) return false;
+  if (!mWindow.waitForMap("mainMapView") || !mWindow.click("searchField")) return false;
+  mWindow.type(address);
+  mWindow.press(Qt::Key_Return);
+  if (!mWindow.waitUntil("the picked address", isSettled)) return false;
+  if (!mWindow.waitForMap("mainMapView")) return false;
+  if (picture && !mWindow.savePicture(picture)) return false;
+  return mWindow.click("btn_ok") && mWindow.waitForMap("mv_main");
 }
 
-bool Tour::click(const QQuickItem* item, const char* name) {
-  if (!item || !item->isVisible() || !item->isEnabled()) {
-    std::fprintf(stderr, "wayloom: there is no %s to click\n", name);
+bool Tour::chooseTimes() {
+  const auto isIn = [this] { return mWindow.find("v_picker")->property("arrival").toReal() == 1; };
+  const auto isOut = [this] { return !mWindow.isShown("v_picker"); };
+  if (!mWindow.click("lb_startTime") || !mWindow.waitUntil("the date picker", isIn)) return false;
+  if (!mWindow.savePicture("date") || !mWindow.click("btn_picker")) return false;
+  if (!mWindow.waitUntil("the date picker's end", isOut)) return false;
+
+  if (!mWindow.click("lb_endTime") || !mWindow.waitUntil("the date picker", isIn)) return false;
+  mWindow.press(Qt::Key_Right);
+  mWindow.press(Qt::Key_Right);
+  // Up to an hour's end at the most: wherever the wheel stands, it is a moment to come.
+  for (int minute = 0; minute < 2; ++minute) mWindow.press(Qt::Key_Down);
+  mWindow.press(Qt::Key_Return);
+  return mWindow.waitUntil("the date picker's end", isOut);
+}
+
+bool Tour::drive() {
+  if (!mWindow.click("enableSwitch")) return false;
+  if (!mWindow.find("enableSwitch")->property("checked").toBool()) {
+    std::fprintf(stderr, "wayloom: the drive was not turned on\n");
     return false;
   }
-  const QPointF point = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
-  const QPointF global = mWindow.mapToGlobal(point);
-  for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-    const Qt::MouseButtons held = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
-    QMouseEvent event(type, point, point, global, Qt::LeftButton, held, Qt::NoModifier);
-    QCoreApplication::sendEvent(&mWindow, &event);
-  }
-  return true;
-}
-
-void Tour::type(const QString& text) {
-  for (const QChar character : text) {
-    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-      QKeyEvent event(type, 0, Qt::NoModifier, character);
-      QCoreApplication::sendEvent(&mWindow, &event);
-    }
-  }
-}
-
-void Tour::press(Qt::Key key) {
-  for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-    QKeyEvent event(type, key, Qt::NoModifier);
-    QCoreApplication::sendEvent(&mWindow, &event);
-  }
-}
-
-bool Tour::waitUntil(const char* what, const Condition& condition) {
-  const QDeadlineTimer deadline(kPatience);
-  while (!condition()) {
-    if (deadline.hasExpired()) {
-      std::fprintf(stderr, "wayloom: %s did not come about\n", what);
-      return false;
-    }
-    QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
-  }
-  return true;
-}
-
-bool Tour::waitForScreen(const char* objectName) {
-  return waitUntil(objectName, [&] {
-    const QQuickItem* item = find(objectName);
-    if (!item || !item->isVisible() || !item->isEnabled()) return false;
-    // It has come in when it is as wide as the window and nothing moves it any more.
-    const QRectF shown = item->mapRectToScene(item->boundingRect());
-    return shown.width() == mWindow.width() && shown.bottom() == mWindow.height();
-  });
-}
-
-bool Tour::waitForMap() {
-  // The map stands still and complete for a moment, so that no animation is caught half way.
-  QDeadlineTimer still(std::chrono::milliseconds(400));
-  return waitUntil("the map", [&] {
-    const QQuickItem* map = find("mainMapView");
-    const bool settled = map->property("complete").toBool() && !map->property("moving").toBool();
-    if (!settled) still.setRemainingTime(400);
-    return settled && still.hasExpired();
-  });
-}
-
-bool Tour::savePicture(const char* name) {
-  const QString path =
-      QDir(mDirectory)
-          .filePath(QStringLiteral("%1-%2.png").arg(++mPictures).arg(QLatin1String(name)));
-  if (!mWindow.grabWindow().save(path)) {
-    std::fprintf(stderr, "wayloom: cannot save the picture %s\n", qPrintable(path));
-    return false;
-  }
-  std::printf("%s\n", qPrintable(path));
-  return true;
+  const auto isCollapsed = [this] {
+    const QQuickItem* panel = mWindow.find("v_top");
+    return panel->y() + panel->height() == 54 && !mWindow.find("HUD")->property("shown").toBool();
+  };
+  return mWindow.waitUntil("the panel's end", isCollapsed) && mWindow.waitForMap("mv_main") &&
+         mWindow.savePicture("drive");
 }
 
 void Tour::printFile(SettingsFile name) const {
   const std::filesystem::path& path = mFiles.path(name);
   QFile file(QString::fromStdString(path.string()));
   if (!file.open(QIODevice::ReadOnly)) return;
-  std::printf("\n%s\n%s", path.c_str(), file.readAll().constData());
+  const QList<QByteArray> lines = file.readAll().split('\n');
+  std::printf("\n%s\n", path.c_str());
+  // Of a long path, its beginning and its end.
+  constexpr qsizetype kHead = 30, kTail = 12;
+  for (qsizetype line = 0; line < lines.size(); ++line) {
+    if (line == kHead && lines.size() > kHead + kTail) {
+      line = lines.size() - kTail;
+      std::printf("... %d more lines ...\n", static_cast<int>(line - kHead));
+    }
+    std::printf("%s\n", lines[line].constData());
+  }
 }
 
 }  // namespace wayloom

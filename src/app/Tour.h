@@ -1,10 +1,6 @@
 #pragma once
 
-#include <functional>
-
-#include <QtCore/QString>
-#include <QtQuick/QQuickView>
-
+#include "app/WindowDriver.h"
 #include "settings/SettingsFiles.h"
 
 namespace wayloom {
@@ -20,29 +16,20 @@ class Tour {
   [[nodiscard]] bool run();
 
  private:
-  using Condition = std::function<bool()>;
-
+  bool start();
   bool pinPlace();
   bool saveFavorite();
   bool seeFavorites();
-
-  QQuickItem* find(const char* objectName) const;
-  bool click(const char* objectName);
-  bool clickRow(int row);
-  bool click(const QQuickItem* item, const char* name);
-  void type(const QString& text);
-  void press(Qt::Key key);
-  bool waitUntil(const char* what, const Condition& condition);
-  /// Waits until a screen, known by what fills it to the window's edges, has come in.
-  bool waitForScreen(const char* objectName);
-  bool waitForMap();
-  bool savePicture(const char* name);
+  bool changeToRoute();
+  bool planDrive();
+  bool choosePlace(const char* label, const QString& address, const char* picture);
+  bool chooseTimes();
+  bool drive();
   void printFile(SettingsFile name) const;
 
-  QQuickView& mWindow;
+  WindowDriver mWindow;
   SettingsFiles& mFiles;
   QString mDirectory;
-  int mPictures = 0;
 };
 
 }  // namespace wayloom

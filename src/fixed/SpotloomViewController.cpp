@@ -1,18 +1,13 @@
 #include "fixed/SpotloomViewController.h"
 
-#include <algorithm>
-#include <chrono>
-
 #include "fixed/SearchInput.h"
 #include "kit/LocalizedText.h"
-#include "ui/MapRegion.h"
+#include "map/ShownPoint.h"
 
 namespace wayloom {
 
 namespace {
 
-constexpr double kShownMetres = 2000;
-constexpr std::chrono::milliseconds kMoveDuration{500};
 constexpr int kButtonInset = 86;
 constexpr int kAutoPanelInset = 44;
 
@@ -66,7 +61,7 @@ void SpotloomViewController::refreshViewByStatusWithLocation(bool withLocation) 
     return;
   }
   mFixedLocation.setCoordinate(state.coordinate);
-  showPoint(state.coordinate);
+  showPoint(*mMainMapView, state.coordinate);
 }
 
 void SpotloomViewController::refreshButtonWithEnable(bool enabled) {
@@ -123,13 +118,6 @@ void SpotloomViewController::showAddress(const QString& address) {
   });
 }
 
-void SpotloomViewController::showPoint(Coordinate coordinate) {
-  mMainMapView->setRegion(
-      mMainMapView->regionThatFits(regionWithDistance(coordinate, kShownMetres, kShownMetres)),
-      Animated::No);
-  mMainMapView->setCenterCoordinate(coordinate, Animated::No);
-}
-
 void SpotloomViewController::searchButtonClicked() {
   const SearchInput search = parseSearchInput(mView.searchText.toStdString());
   const auto clearField = [this] {
@@ -138,7 +126,7 @@ void SpotloomViewController::searchButtonClicked() {
   };
   if (const auto* coordinate = std::get_if<Coordinate>(&search)) {
     clearField();
-    showPoint(*coordinate);
+    showPoint(*mMainMapView, *coordinate);
   } else if (const auto* address = std::get_if<AddressSearch>(&search)) {
     ignore(mFixedLocation.beginAddressSearch());
     clearField();
@@ -168,12 +156,7 @@ void SpotloomViewController::mineLocationButtonClicked() {
 void SpotloomViewController::locationSuccess(Location* /*location*/, double latitude,
                                              double longitude) {
   update([](View& view) { view.overlayShown = false; });
-  const Coordinate position{latitude, longitude};
-  const MapRegion region =
-      mMainMapView->regionThatFits(regionWithDistance(position, kShownMetres, kShownMetres));
-  mMainMapView->animateCenter(position, kMoveDuration, [this, region] {
-    if (mMainMapView) mMainMapView->setRegion(region, Animated::Yes);
-  });
+  moveToPoint(*mMainMapView, {latitude, longitude});
 }
 
 void SpotloomViewController::locationFailed(Location* /*location*/,
@@ -197,7 +180,7 @@ void SpotloomViewController::reverseGeocoderFailed(Location* location,
 void SpotloomViewController::geocoderSuccess(Location* /*location*/, Coordinate coordinate) {
   update([](View& view) { view.overlayShown = false; });
   mFixedLocation.setCoordinate(coordinate);
-  showPoint(coordinate);
+  showPoint(*mMainMapView, coordinate);
   ignore(mFixedLocation.endAddressSearch(mView.enabled));
 }
 

@@ -52,6 +52,7 @@ class SpotloomViewController : public QObject, public LocationDelegate, public F
 
   /// The layout is there; `mainMapView` belongs to it.
   Q_INVOKABLE void viewDidLoad(wayloom::MapView* mainMapView);
+  bool isViewLoaded() const { return mMainMapView; }
   /// The screen appears, or the application came to the front while it is the current one.
   void viewWillAppear();
 
@@ -135,7 +136,6 @@ class SpotloomViewController : public QObject, public LocationDelegate, public F
   void regionWillChange();
   void regionDidChange();
   void showAddress(const QString& address);
-  void showPoint(Coordinate coordinate);
   void startLocation();
 
   Services mServices;

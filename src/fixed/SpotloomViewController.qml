@@ -73,33 +73,16 @@ FocusScope {
             height: addressRow.y + addressRow.height
             color: FlatPalette.surface
 
-            Row {
+            AddressSearch {
                 id: searchRow
 
                 x: FlatPalette.margin
                 width: parent.width - 2 * FlatPalette.margin
-                spacing: FlatPalette.spacing
-
-                FlatTextField {
-                    id: searchField
-
-                    objectName: "searchField"
-                    width: parent.width - searchButton.width - parent.spacing
-                    placeholderText: qsTranslate("Wayloom", "Enter Address Here")
-                    text: root.controller.searchText
-                    onTextEdited: root.controller.searchText = text
-                    onAccepted: root.controller.textFieldShouldReturn()
-                    inputMethodHints: Qt.ImhNoPredictiveText
-                    Keys.onEscapePressed: mainMapView.forceActiveFocus()
-                }
-                FlatButton {
-                    id: searchButton
-
-                    objectName: "searchButton"
-                    width: 92
-                    text: qsTranslate("Wayloom", "Search")
-                    onClicked: root.controller.searchButtonClicked()
-                }
+                text: root.controller.searchText
+                onTextEdited: text => root.controller.searchText = text
+                onAccepted: root.controller.textFieldShouldReturn()
+                onSearchClicked: root.controller.searchButtonClicked()
+                onEscaped: mainMapView.forceActiveFocus()
             }
 
             Item {
@@ -163,45 +146,14 @@ FocusScope {
                 }
             }
 
-            Item {
+            AddressLine {
                 id: addressRow
 
                 x: FlatPalette.margin
                 y: actionRow.y + actionRow.height + 4
                 width: parent.width - 2 * FlatPalette.margin
-                height: 36
-
-                Image {
-                    id: addressMark
-
-                    anchors.verticalCenter: parent.verticalCenter
-                    source: "qrc:/icons/place.svg"
-                    sourceSize.width: 16
-                    sourceSize.height: 16
-                }
-                Text {
-                    id: addressLabel
-
-                    objectName: "addressLabel"
-                    anchors.left: addressMark.right
-                    anchors.leftMargin: 6
-                    anchors.right: parent.right
-                    height: parent.height
-                    text: root.controller.addressText
-                    color: FlatPalette.text
-                    font.pixelSize: FlatPalette.bodySize
-                    verticalAlignment: Text.AlignVCenter
-                    elide: Text.ElideRight
-                    textFormat: Text.PlainText
-                }
-                Spinner {
-                    id: spinner
-
-                    objectName: "spinner"
-                    anchors.verticalCenter: parent.verticalCenter
-                    anchors.left: addressLabel.left
-                    visible: root.controller.spinning
-                }
+                text: root.controller.addressText
+                spinning: root.controller.spinning
             }
 
             Rectangle {

@@ -16,7 +16,7 @@ class ModalViewController : public QObject {
   using QObject::QObject;
 
   /// The back button: gives way to the screen below.
-  Q_INVOKABLE void done() { Q_EMIT dismissed(); }
+  Q_INVOKABLE virtual void done() { Q_EMIT dismissed(); }
 
  Q_SIGNALS:
   void dismissed();

@@ -17,4 +17,9 @@ MapRegion regionWithDistance(Coordinate center, double latitudinalMetres,
           {std::min(latitudinalMetres / kMetresPerDegree, 180.0), std::min(longitudeDelta, 360.0)}};
 }
 
+MapRegion regionBetween(Coordinate one, Coordinate other) {
+  return {{(one.latitude + other.latitude) * 0.5, (one.longitude + other.longitude) * 0.5},
+          {std::abs(one.latitude - other.latitude), std::abs(one.longitude - other.longitude)}};
+}
+
 }  // namespace wayloom

@@ -26,4 +26,7 @@ struct MapRegion {
 MapRegion regionWithDistance(Coordinate center, double latitudinalMetres,
                              double longitudinalMetres);
 
+/// The smallest region that holds both places, without a margin; not across the 180th meridian.
+MapRegion regionBetween(Coordinate one, Coordinate other);
+
 }  // namespace wayloom

@@ -21,6 +21,7 @@ class RecordedScreens : public ScreenSwitcher {
                            ModalPresenter::Transition::Flip);
   }
   void presentInfo() override { changes.emplace_back("info"); }
+  void presentSelectAddress(std::function<void(double, double, const QString&)>) override {}
 
   std::vector<std::string> changes;
 
@@ -41,7 +42,8 @@ class SpotloomScreenTest : public testing::Test {
                                                         .alerts = screen.alerts,
                                                         .screens = screens,
                                                         .tiles = screen.tiles});
-    ASSERT_TRUE(screen.show("AppWindow", {{"locationController", QVariant::fromValue(&*controller)},
+    ASSERT_TRUE(screen.show("AppWindow", {{"locationShown", true},
+                                          {"locationController", QVariant::fromValue(&*controller)},
                                           {"modals", QVariant::fromValue(&screen.modals)},
                                           {"alerts", QVariant::fromValue(&screen.alerts)}}));
     map = qobject_cast<MapView*>(screen.find("mainMapView"));

@@ -46,7 +46,7 @@ class FavoritesScreenTest : public testing::Test, public FavoritesDelegate {
   void clickOn(const QQuickItem* item) {
     QTest::mouseClick(&screen.view, Qt::LeftButton, Qt::NoModifier, pointIn(item));
   }
-  QQuickItem* part(int index, const char* name) const { return screen.find(row(index), name); }
+  QQuickItem* part(int index, const char* name) const { return foundItem(row(index), name); }
   void swipeLeft(int index) {
     const QPoint from = pointIn(row(index));
     QTest::mousePress(&screen.view, Qt::LeftButton, Qt::NoModifier, from);

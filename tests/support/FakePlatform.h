@@ -6,6 +6,8 @@
 #include <vector>
 
 #include "places/LocationPlatform.h"
+#include "platform/Clock.h"
+#include "platform/Directions.h"
 
 namespace wayloom {
 
@@ -39,6 +41,24 @@ class FakeGeocoder : public Geocoder {
 
   std::vector<std::pair<std::string, Completion>> addresses;
   std::vector<std::pair<Coordinate, Completion>> coordinates;
+};
+
+/// Directions that keep the requests until the test answers them.
+class FakeDirections : public Directions {
+ public:
+  void calculate(const DirectionsRequest& request, Completion completion) override {
+    requests.emplace_back(request, std::move(completion));
+  }
+
+  std::vector<std::pair<DirectionsRequest, Completion>> requests;
+};
+
+/// A clock that stands where the test puts it.
+class FakeClock : public Clock {
+ public:
+  double secondsSince1970() const override { return seconds; }
+
+  double seconds = 1'700'000'000.75;
 };
 
 class FakeDefaults : public UserDefaults {

@@ -8,6 +8,7 @@
 #include <QtTest/QTest>
 
 #include "kit/AlertPresenter.h"
+#include "kit/FoundItem.h"
 #include "kit/ModalPresenter.h"
 #include "map/TileSource.h"
 #include "places/LocationClass.h"
@@ -66,16 +67,9 @@ class ScreenHarness {
     return view.status() == QQuickView::Ready && QTest::qWaitForWindowExposed(&view);
   }
 
-  /// The uppermost item of this name, among what is shown within another.
-  static QQuickItem* find(const QQuickItem* within, const QString& objectName) {
-    const QList<QQuickItem*> children = within->childItems();
-    for (auto child = children.rbegin(); child != children.rend(); ++child) {
-      if (QQuickItem* found = find(*child, objectName)) return found;
-      if ((*child)->objectName() == objectName) return *child;
-    }
-    return nullptr;
+  QQuickItem* find(const char* objectName) const {
+    return foundItem(view.rootObject(), objectName);
   }
-  QQuickItem* find(const char* objectName) const { return find(view.rootObject(), objectName); }
 
   QPoint centerOf(const char* objectName) const {
     const QQuickItem* item = find(objectName);

@@ -1,0 +1,64 @@
+import QtQuick
+import Wayloom.Screens as Screens
+
+// One wheel of a date picker. It turns by touch, mouse wheel and keys, and a click takes a row.
+ListView {
+    id: wheel
+
+    required property Screens.DatePicker picker
+    required property int column
+    required property int value
+
+    readonly property int rowSize: 36
+
+    function turn(row: int) {
+        wheel.picker.turn(wheel.column, row)
+        // It may have sprung back to a value that it had before.
+        wheel.currentIndex = Qt.binding(() => wheel.value)
+    }
+
+    clip: true
+    activeFocusOnTab: true
+    boundsBehavior: Flickable.StopAtBounds
+    snapMode: ListView.SnapToItem
+    highlightRangeMode: ListView.StrictlyEnforceRange
+    highlightMoveDuration: 150
+    preferredHighlightBegin: (height - rowSize) / 2
+    preferredHighlightEnd: (height + rowSize) / 2
+    currentIndex: value
+    keyNavigationEnabled: false
+    onMovementEnded: turn(currentIndex)
+    Keys.onUpPressed: turn(value - 1)
+    Keys.onDownPressed: turn(value + 1)
+    Accessible.role: Accessible.SpinBox
+    Accessible.name: currentItem ? (currentItem as DateWheelRow).text : ""
+
+    delegate: DateWheelRow {
+        required property int index
+
+        width: wheel.width
+        height: wheel.rowSize
+        text: wheel.picker.rowText(wheel.column, index)
+        isChosen: ListView.isCurrentItem
+        onClicked: wheel.turn(index)
+    }
+
+    WheelHandler {
+        property real turned: 0
+
+        onWheel: event => {
+            turned -= event.angleDelta.y / 120
+            const rows = Math.trunc(turned)
+            if (rows === 0)
+                return
+            turned -= rows
+            wheel.turn(wheel.value + rows)
+        }
+    }
+
+    FocusRing {
+        visible: wheel.activeFocus
+        radius: FlatPalette.cornerRadius
+        anchors.margins: 2
+    }
+}

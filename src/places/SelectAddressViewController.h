@@ -1,0 +1,89 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include <QtCore/QPointer>
+
+#include "app/BaseViewController.h"
+#include "map/MapView.h"
+#include "places/LocationClass.h"
+#include "platform/Alerts.h"
+
+namespace wayloom {
+
+/// The address picker: the place under the pin in the middle of its map is the pick. Presented over
+/// another screen, to which it hands the pick; main thread only.
+class SelectAddressViewController : public BaseViewController, public LocationDelegate {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("the application makes it")
+  Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY changed)
+  Q_PROPERTY(QString addressText READ addressText NOTIFY changed)
+  Q_PROPERTY(bool spinning READ spinning NOTIFY changed)
+
+ public:
+  /// Latitude and longitude in degrees, and the address. All are zero and empty after a cancel.
+  using Block = std::function<void(double latitude, double longitude, const QString& address)>;
+
+  struct Services {
+    LocationClass& location;
+    Alerts& alerts;
+    std::shared_ptr<TileSource> tiles;
+  };
+
+  /// `block` is called once, when the screen begins to leave.
+  SelectAddressViewController(const Services& services, Block block, QObject* parent = nullptr);
+
+  /// The layout is there and about to appear; `mainMapView` belongs to it.
+  Q_INVOKABLE void viewDidLoad(wayloom::MapView* mainMapView);
+
+  Q_INVOKABLE void searchButtonClicked();
+  Q_INVOKABLE bool textFieldShouldReturn();
+  Q_INVOKABLE void mineLocationButtonClicked();
+  Q_INVOKABLE void okButtonClicked();
+  Q_INVOKABLE void cancelButtonClicked();
+  /// Leaving by key is a cancel.
+  void done() override { cancelButtonClicked(); }
+
+  void locationSuccess(Location* location, double latitude, double longitude) override;
+  void locationFailed(Location* location, const std::optional<std::string>& error) override;
+  void reverseGeocoderSuccess(Location* location, const std::string& address) override;
+  void reverseGeocoderFailed(Location* location, const std::optional<std::string>& error) override;
+  void geocoderSuccess(Location* location, Coordinate coordinate) override;
+  void geocoderFailed(Location* location, const std::optional<std::string>& error) override;
+  // For geocoding services that report this way; Location does not.
+  void geocoderSuccess(Location* location, const std::string& address);
+  void geocoderCoordinateFailed(Location* location, const std::optional<std::string>& error);
+
+  QString searchText() const { return mSearchText; }
+  void setSearchText(const QString& text);
+  QString addressText() const { return mAddressText; }
+  bool spinning() const { return mSpinning; }
+
+ Q_SIGNALS:
+  void changed();
+  /// The search field gives up the keyboard.
+  void keyboardDismissed();
+
+ private:
+  void regionWillChange();
+  void regionDidChange();
+  void showAddress(const QString& text, bool spinning);
+  void leave(Coordinate pick, const QString& address);
+
+  Services mServices;
+  QPointer<MapView> mMainMapView;
+
+  double latitude = 0;
+  double longitude = 0;
+  QString address;
+  Block mBlock;
+  bool mIsLoading = false;
+
+  QString mSearchText;
+  QString mAddressText;
+  bool mSpinning = false;
+};
+
+}  // namespace wayloom

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <memory>
+
+#include <QtCore/QObject>
+#include <QtCore/QPointer>
+
+#include "map/MapView.h"
+#include "platform/Directions.h"
+#include "route/RoutePoints.h"
+
+namespace wayloom {
+
+/// The planned path of the route screen: asks for directions, keeps the points, and draws the line
+/// and its two markers. Owned by the screen; main thread only.
+class PathPlan : public QObject {
+  Q_OBJECT
+
+ public:
+  /// `directions` must outlive this object.
+  PathPlan(Directions& directions, QObject* parent);
+
+  void setMapView(MapView* map) { mMapView = map; }
+
+  /// Plans from place to place if both are chosen; the last answer wins.
+  void drawMapLine(Coordinate start, Coordinate end);
+
+  void cleanPath();
+  void cleanStart();
+  void cleanEnd();
+
+  /// The points, start first. The list stays the same one for as long as nobody sets another; a new
+  /// plan refills it.
+  const std::shared_ptr<RoutePoints>& points() const { return mPoints; }
+  void setPoints(RoutePoints points);
+  /// The last plan failed; false from the start of the next one.
+  bool isRouteError() const { return mIsRouteError; }
+
+ Q_SIGNALS:
+  void started();
+  void ended();
+
+ private:
+  void findDirectionsFromTo(Coordinate source, Coordinate destination);
+  void complete(Coordinate source, Coordinate destination, const DirectionsAnswer& answer);
+  void buildStart();
+  void buildEnd();
+  void removeFirst(std::int32_t tag);
+
+  Directions& mDirections;
+  QPointer<MapView> mMapView;
+  std::shared_ptr<RoutePoints> mPoints = std::make_shared<RoutePoints>();
+  bool mIsRouteError = false;
+};
+
+}  // namespace wayloom

@@ -1,0 +1,258 @@
+#include "route/WayloomViewController.h"
+
+#include <chrono>
+#include <cmath>
+
+#include <QtCore/QDateTime>
+
+#include "kit/LocalizedText.h"
+#include "kit/ShownText.h"
+#include "map/ShownPoint.h"
+#include "settings/ModeSwitch.h"
+
+namespace wayloom {
+
+namespace {
+
+constexpr std::chrono::seconds kTick{1};
+
+/// Write results are for the command line; on the screen the files themselves tell.
+void ignore(const Status& /*result*/) {}
+
+QString timeText(double secondsSince1970) {
+  return QDateTime::fromSecsSinceEpoch(static_cast<qint64>(secondsSince1970))
+      .toString(QStringLiteral("MM-dd HH:mm"));
+}
+
+}  // namespace
+
+WayloomViewController::WayloomViewController(const Services& services, QObject* parent)
+    : BaseViewController(parent),
+      mServices(services),
+      mSimulation(services.files, services.clock, &services.saves),
+      mPlan(services.directions, this) {
+  mTimer.setInterval(kTick);
+  connect(&mTimer, &QTimer::timeout, this, &WayloomViewController::refreshLocation);
+  connect(&mPlan, &PathPlan::started, this, [this] { showHUDView(); });
+  connect(&mPlan, &PathPlan::ended, this, [this] { hideHUDView(); });
+  connect(&dp_drive, &DatePicker::valueChanged, this, &WayloomViewController::pickerValueChanged);
+}
+
+template <typename Change>
+void WayloomViewController::update(Change&& change) {
+  const View before = mView;
+  change(mView);
+  if (mView != before) Q_EMIT changed();
+}
+
+void WayloomViewController::viewDidLoad(MapView* map) {
+  mv_main = map;
+  map->setTileSource(mServices.tiles);
+  mPlan.setMapView(map);
+  mPlan.setPoints({});
+  update([](View& view) {
+    view.startText = localizedText("Please choose Start");
+    view.endText = localizedText("Please choose End");
+    view.startTimeText = localizedText("Please choose Start Time");
+    view.endTimeText = localizedText("Please choose End Time");
+  });
+  dp_drive.start(mServices.clock.secondsSince1970());
+
+  mSimulation.refresh();
+  const bool isOn = mSimulation.preferences().enabled();
+  update([&](View& view) {
+    view.enabled = isOn;
+    view.tipText.clear();
+  });
+  if (isOn) {
+    restore();
+  } else {
+    mServices.location.sharedInstacneWithDelegate(this).startLocation();
+  }
+}
+
+void WayloomViewController::restore() {
+  const RoutePreferences& preferences = mSimulation.preferences();
+  const std::int32_t now = mSimulation.now();
+  mStartTime = preferences.start();
+  mEndTime = preferences.end();
+  mPlan.setPoints(preferences.points ? *preferences.points : RoutePoints());
+  mStartCoordinate = mPlan.points()->first();
+  mEndCoordinate = mPlan.points()->last();
+  drawMapLine();
+  up();
+  update([&](View& view) {
+    view.tipText = localizedText("Wayloom is working");
+    view.startText = shownText(preferences.text("s"));
+    view.endText = shownText(preferences.text("e"));
+    view.startTimeText = timeText(mStartTime);
+    view.endTimeText = timeText(mEndTime);
+  });
+  follow(positionAt(now, preferences));
+  mTimer.start();
+}
+
+void WayloomViewController::viewWillAppear() {
+  mSimulation.refresh();
+  update([this](View& view) { view.enabled = mSimulation.preferences().enabled(); });
+}
+
+void WayloomViewController::setEnable(bool on) {
+  update([on](View& view) { view.enabled = on; });
+  if (on) {
+    turnOn();
+  } else {
+    turnOff();
+  }
+}
+
+RouteChoices WayloomViewController::choices() const {
+  return {.start = mStartCoordinate,
+          .end = mEndCoordinate,
+          .startTime = mStartTime,
+          .endTime = mEndTime,
+          .startText = mView.startText.toStdString(),
+          .endText = mView.endText.toStdString()};
+}
+
+void WayloomViewController::turnOn() {
+  const char* refusal = refusalToTurnOn(choices(), *mPlan.points(), mPlan.isRouteError());
+  if (refusal) {
+    mServices.alerts.show("", refusal, "OK");
+    update([](View& view) { view.enabled = false; });
+    return;
+  }
+  mStartTime = startTimeFrom(choices(), mSimulation.now());
+  update([](View& view) { view.tipText = localizedText("Wayloom is working"); });
+  up();
+  drawMapLine();
+  ignore(mSimulation.turnOn(choices(), mPlan.points()));
+  mTimer.start();
+}
+
+void WayloomViewController::turnOff() {
+  update([](View& view) { view.tipText.clear(); });
+  down();
+  mPlan.cleanPath();
+  mPlan.cleanStart();
+  mPlan.cleanEnd();
+  ignore(mSimulation.turnOff());
+  mTimer.stop();
+}
+
+void WayloomViewController::refreshLocation() {
+  follow(mSimulation.position());
+}
+
+void WayloomViewController::follow(std::optional<Coordinate> position) {
+  if (position && mv_main) showPoint(*mv_main, *position);
+}
+
+void WayloomViewController::drawMapLine() {
+  mPlan.drawMapLine(mStartCoordinate, mEndCoordinate);
+}
+
+void WayloomViewController::exchange() {
+  if (const char* refusal = mSimulation.refusalToLeave()) {
+    mServices.alerts.show("", refusal, "OK");
+    return;
+  }
+  ignore(mSimulation.leaveForFixedLocation());
+  mServices.screens.changeToLocation();
+}
+
+void WayloomViewController::showInfoView() {
+  mServices.screens.presentInfo();
+}
+
+void WayloomViewController::mineLocationButtonClicked() {
+  showHUDView();
+  mServices.location.sharedInstacneWithDelegate(this).startLocation();
+}
+
+void WayloomViewController::locationSuccess(Location* /*location*/, double /*latitude*/,
+                                            double /*longitude*/) {
+  hideHUDView();
+  if (!mv_main) return;
+  moveToPoint(*mv_main, {mServices.location.latitude(), mServices.location.longitude()});
+}
+
+void WayloomViewController::locationFailed(Location* /*location*/,
+                                           const std::optional<std::string>& /*error*/) {
+  hideHUDView();
+}
+
+bool WayloomViewController::refusesEdit() {
+  const char* refusal = mSimulation.refusalToLeave();
+  if (refusal) showHUDHintText(localizedText(refusal));
+  return refusal != nullptr;
+}
+
+void WayloomViewController::startTapped() {
+  if (!refusesEdit()) chooseAddress(mStartCoordinate, &View::startText);
+}
+
+void WayloomViewController::endTapped() {
+  if (!refusesEdit()) chooseAddress(mEndCoordinate, &View::endText);
+}
+
+void WayloomViewController::chooseAddress(Coordinate& place, QString View::*label) {
+  mServices.screens.presentSelectAddress(
+      [this, &place, label](double latitude, double longitude, const QString& address) {
+        if (!isChosen({latitude, longitude})) return;
+        place = {latitude, longitude};
+        update([&](View& view) { view.*label = address; });
+        drawMapLine();
+      });
+}
+
+void WayloomViewController::startTimeTapped() {
+  if (refusesEdit()) return;
+  mIsStart = true;
+  showDatePicker();
+}
+
+void WayloomViewController::endTimeTapped() {
+  if (refusesEdit()) return;
+  mIsStart = false;
+  showDatePicker();
+}
+
+void WayloomViewController::showDatePicker() {
+  dp_drive.start(mServices.clock.secondsSince1970());
+  update([](View& view) { view.pickerShown = true; });
+}
+
+void WayloomViewController::hideDatePicker() {
+  update([](View& view) { view.pickerShown = false; });
+}
+
+void WayloomViewController::pickerValueChanged() {
+  const double seconds = std::trunc(dp_drive.date());
+  (mIsStart ? mStartTime : mEndTime) = seconds;
+  update(
+      [&](View& view) { (mIsStart ? view.startTimeText : view.endTimeText) = timeText(seconds); });
+}
+
+void WayloomViewController::pickerButtonClicked() {
+  hideDatePicker();
+  pickerValueChanged();
+}
+
+void WayloomViewController::up() {
+  update([](View& view) { view.collapsed = true; });
+}
+
+void WayloomViewController::down() {
+  update([](View& view) { view.collapsed = false; });
+}
+
+void WayloomViewController::upDown() {
+  if (mView.collapsed) {
+    down();
+  } else {
+    up();
+  }
+}
+
+}  // namespace wayloom

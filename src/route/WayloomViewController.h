@@ -1,0 +1,140 @@
+#pragma once
+
+#include <memory>
+
+#include <QtCore/QPointer>
+#include <QtCore/QTimer>
+
+#include "app/BaseViewController.h"
+#include "app/ScreenSwitcher.h"
+#include "kit/DatePicker.h"
+#include "map/MapView.h"
+#include "places/LocationClass.h"
+#include "platform/Alerts.h"
+#include "route/PathPlan.h"
+#include "route/RouteSimulation.h"
+
+namespace wayloom {
+
+/// The route screen: two places, two times, and the drive between them. While the drive is on, the
+/// map follows it once a second and every choice is locked. Made by the application and alive as
+/// long as it; main thread only.
+class WayloomViewController : public BaseViewController, public LocationDelegate {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("the application makes it")
+  Q_PROPERTY(bool enabled READ enabled NOTIFY changed)
+  Q_PROPERTY(bool collapsed READ collapsed NOTIFY changed)
+  Q_PROPERTY(bool pickerShown READ pickerShown NOTIFY changed)
+  Q_PROPERTY(QString startText READ startText NOTIFY changed)
+  Q_PROPERTY(QString endText READ endText NOTIFY changed)
+  Q_PROPERTY(QString startTimeText READ startTimeText NOTIFY changed)
+  Q_PROPERTY(QString endTimeText READ endTimeText NOTIFY changed)
+  Q_PROPERTY(QString tipText READ tipText NOTIFY changed)
+  Q_PROPERTY(wayloom::DatePicker* picker READ picker CONSTANT)
+
+ public:
+  struct Services {
+    SettingsFiles& files;
+    const Clock& clock;
+    /// Where the route file is written.
+    WorkQueue& saves;
+    Directions& directions;
+    LocationClass& location;
+    Alerts& alerts;
+    ScreenSwitcher& screens;
+    std::shared_ptr<TileSource> tiles;
+  };
+
+  explicit WayloomViewController(const Services& services, QObject* parent = nullptr);
+
+  /// The layout is there; `mv_main` belongs to it.
+  Q_INVOKABLE void viewDidLoad(wayloom::MapView* mv_main);
+  bool isViewLoaded() const { return mv_main; }
+  /// The screen appears, or the application came to the front while it is the current one.
+  void viewWillAppear();
+
+  Q_INVOKABLE void setEnable(bool on);
+  /// Shows where the drive is now.
+  void refreshLocation();
+  Q_INVOKABLE void exchange();
+  Q_INVOKABLE void showInfoView();
+  Q_INVOKABLE void mineLocationButtonClicked();
+  void hideKeyboard() {}
+
+  Q_INVOKABLE void startTapped();
+  Q_INVOKABLE void endTapped();
+  Q_INVOKABLE void startTimeTapped();
+  Q_INVOKABLE void endTimeTapped();
+
+  void showDatePicker();
+  void hideDatePicker();
+  void pickerValueChanged();
+  Q_INVOKABLE void pickerButtonClicked();
+
+  void up();
+  void down();
+  Q_INVOKABLE void upDown();
+
+  void locationSuccess(Location* location, double latitude, double longitude) override;
+  void locationFailed(Location* location, const std::optional<std::string>& error) override;
+
+  bool enabled() const { return mView.enabled; }
+  bool collapsed() const { return mView.collapsed; }
+  bool pickerShown() const { return mView.pickerShown; }
+  QString startText() const { return mView.startText; }
+  QString endText() const { return mView.endText; }
+  QString startTimeText() const { return mView.startTimeText; }
+  QString endTimeText() const { return mView.endTimeText; }
+  QString tipText() const { return mView.tipText; }
+  DatePicker* picker() { return &dp_drive; }
+
+ Q_SIGNALS:
+  void changed();
+
+ private:
+  /// What the controls show.
+  struct View {
+    bool enabled = false;
+    bool collapsed = false;
+    bool pickerShown = false;
+    QString startText;
+    QString endText;
+    QString startTimeText;
+    QString endTimeText;
+    QString tipText;
+
+    bool operator==(const View&) const = default;
+  };
+
+  /// Applies a change to what the controls show and announces it if there is one.
+  template <typename Change>
+  void update(Change&& change);
+
+  void turnOn();
+  void turnOff();
+  void restore();
+  void follow(std::optional<Coordinate> position);
+  void drawMapLine();
+  /// Shows a hint and is true while the drive is on.
+  bool refusesEdit();
+  void chooseAddress(Coordinate& place, QString View::*label);
+  RouteChoices choices() const;
+
+  Services mServices;
+  RouteSimulation mSimulation;
+  PathPlan mPlan;
+  DatePicker dp_drive;
+  QPointer<MapView> mv_main;
+  QTimer mTimer;
+  View mView;
+
+  bool mIsStart = true;
+  Coordinate mStartCoordinate;
+  Coordinate mEndCoordinate;
+  /// Whole seconds since 1970; 0 when not chosen.
+  double mStartTime = 0;
+  double mEndTime = 0;
+};
+
+}  // namespace wayloom

@@ -30,14 +30,16 @@ Item {
             textOnly: true
             margin: 10
             Component.onCompleted: shown = true
-            onVisibleChanged: if (!visible && !shown) destroy()
             Accessible.role: Accessible.AlertMessage
             Accessible.name: labelText
 
             Timer {
                 interval: 1000
                 running: true
-                onTriggered: hint.shown = false
+                onTriggered: {
+                    hint.shown = false
+                    hint.destroy(500)  // When it has faded.
+                }
             }
         }
     }

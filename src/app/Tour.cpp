@@ -9,6 +9,8 @@
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 
+#include "map/MapView.h"
+
 namespace wayloom {
 
 namespace {
@@ -146,11 +148,13 @@ bool Tour::drive() {
     std::fprintf(stderr, "wayloom: the drive was not turned on\n");
     return false;
   }
-  const auto isCollapsed = [this] {
-    const QQuickItem* panel = mWindow.find("v_top");
-    return panel->y() + panel->height() == 54 && !mWindow.find("HUD")->property("shown").toBool();
+  // The map first fits the whole path, planned once more, and then follows the car.
+  const auto follows = [this] {
+    const auto* map = qobject_cast<MapView*>(mWindow.find("mv_main"));
+    return map->showsUserLocation() && map->region().span.latitudeDelta < 0.05 &&
+           !mWindow.find("HUD")->property("shown").toBool();
   };
-  return mWindow.waitUntil("the panel's end", isCollapsed) && mWindow.waitForMap("mv_main") &&
+  return mWindow.waitUntil("the drive", follows) && mWindow.waitForMap("mv_main") &&
          mWindow.savePicture("drive");
 }
 

@@ -46,4 +46,16 @@ enum class RouteForm { Summary, GeoJson };
 ExitStatus planRoute(CommandLine& line, const std::string& from, const std::string& to,
                      RouteForm form);
 
+/// A drive as it was typed: two PLACEs and two TIMEs.
+struct Drive {
+  std::string from;
+  std::string to;
+  std::string start;
+  std::string end;
+};
+
+ExitStatus turnRouteOn(CommandLine& line, const Drive& drive);
+ExitStatus turnRouteOff(CommandLine& line);
+ExitStatus showRoutePosition(CommandLine& line, const std::string& time);
+
 }  // namespace wayloom

@@ -1,6 +1,8 @@
 #include "cli/Commands.h"
 #include "cli/TextForms.h"
+#include "cli/TimeArgument.h"
 #include "fixed/FixedLocation.h"
+#include "route/RouteSimulation.h"
 #include "settings/ModeSwitch.h"
 
 namespace wayloom {
@@ -11,22 +13,16 @@ const char* nameOf(Mode mode) {
   return mode == Mode::FixedLocation ? "fixed" : "route";
 }
 
-nlohmann::json toJson(Coordinate coordinate) {
-  return {{"latitude", coordinate.latitude}, {"longitude", coordinate.longitude}};
-}
-
 /// What the files say, as one reading of them.
 struct Reading {
   Mode mode;
   FixedLocationState fixed;
-  bool routeEnabled;
+  RoutePreferences route;
 };
 
 Reading readFiles(CommandLine& line) {
   SettingsFiles& files = line.files();
-  const auto route = files.loadDictionary(SettingsFile::Route);
-  return {files.readMasterMode(), readFixedLocation(files),
-          route && refusalToLeave(Mode::Route, *route) != nullptr};
+  return {files.readMasterMode(), readFixedLocation(files), RouteFile(files).load()};
 }
 
 std::string fixedText(const FixedLocationState& fixed) {
@@ -38,6 +34,43 @@ std::string driftText(const FixedLocationState& fixed) {
   return std::string(fixed.drifting ? "on" : "off") + ", speed " + shortNumber(fixed.driftSpeed);
 }
 
+std::string routeText(const RoutePreferences& route) {
+  if (!route.enabled()) return "off";
+  return "on from " + oneLine(route.text("s")) + " to " + oneLine(route.text("e")) + ", " +
+         timeText(route.start()) + " to " + timeText(route.end());
+}
+
+/// Where the phone says it is; none for the device's own position.
+std::optional<Coordinate> positionNow(const Reading& status) {
+  if (status.fixed.enabled) {
+    return status.fixed.hasCoordinate ? std::optional(status.fixed.coordinate) : std::nullopt;
+  }
+  if (!status.route.enabled()) return std::nullopt;
+  return positionAt(SystemClock().wholeSecondsSince1970(), status.route);
+}
+
+nlohmann::json toJson(const std::optional<Coordinate>& coordinate) {
+  return coordinate ? toJson(*coordinate) : nlohmann::json();
+}
+
+nlohmann::json toJson(const FixedLocationState& fixed) {
+  return {{"enabled", fixed.enabled},
+          {"position", fixed.hasCoordinate ? toJson(fixed.coordinate) : nlohmann::json()},
+          {"drift", fixed.drifting},
+          {"speed", fixed.driftSpeed}};
+}
+
+nlohmann::json toJson(const RoutePreferences& route) {
+  nlohmann::json json = {{"enabled", route.enabled()}};
+  if (!route.enabled()) return json;
+  json.update({{"from", route.text("s")},
+               {"to", route.text("e")},
+               {"start", route.start()},
+               {"end", route.end()},
+               {"points", route.points ? route.points->count() : 0}});
+  return json;
+}
+
 }  // namespace
 
 ExitStatus showStatus(CommandLine& line) {
@@ -46,22 +79,15 @@ ExitStatus showStatus(CommandLine& line) {
     line.warnOfDamage(name);
   }
   const Reading status = readFiles(line);
-  const FixedLocationState& fixed = status.fixed;
-  nlohmann::json json = {
-      {"mode", nameOf(status.mode)},
-      {"fixed",
-       {{"enabled", fixed.enabled},
-        {"position", fixed.hasCoordinate ? toJson(fixed.coordinate) : nlohmann::json()},
-        {"drift", fixed.drifting},
-        {"speed", fixed.driftSpeed}}},
-      {"route", {{"enabled", status.routeEnabled}}},
-      {"position",
-       fixed.enabled && fixed.hasCoordinate ? toJson(fixed.coordinate) : nlohmann::json()},
-  };
+  const auto position = positionNow(status);
+  nlohmann::json json = {{"mode", nameOf(status.mode)},
+                         {"fixed", toJson(status.fixed)},
+                         {"route", toJson(status.route)},
+                         {"position", toJson(position)}};
   std::string text = std::string("mode      ") + nameOf(status.mode) + "\nfixed     " +
-                     fixedText(fixed) + "\ndrift     " + driftText(fixed) + "\nroute     " +
-                     (status.routeEnabled ? "on" : "off") + "\nposition  " +
-                     (fixed.enabled ? coordinateText(fixed.coordinate) : "the device's own");
+                     fixedText(status.fixed) + "\ndrift     " + driftText(status.fixed) +
+                     "\nroute     " + routeText(status.route) + "\nposition  " +
+                     (position ? coordinateText(*position) : "the device's own");
   return line.answer({std::move(text), std::move(json)});
 }
 

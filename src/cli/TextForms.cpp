@@ -17,6 +17,10 @@ std::string coordinateText(Coordinate coordinate) {
   return formatReal(coordinate.latitude) + ", " + formatReal(coordinate.longitude);
 }
 
+nlohmann::json toJson(Coordinate coordinate) {
+  return {{"latitude", coordinate.latitude}, {"longitude", coordinate.longitude}};
+}
+
 std::string oneLine(std::string text) {
   for (std::size_t at = 0; at < text.size(); ++at) {
     const auto byte = static_cast<unsigned char>(text[at]);

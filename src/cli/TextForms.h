@@ -1,5 +1,6 @@
 #pragma once
 
+#include <nlohmann/json.hpp>
 #include <string>
 
 #include "places/Coordinate.h"
@@ -11,6 +12,9 @@ std::string shortNumber(double value);
 
 /// "57.706547, 11.967100".
 std::string coordinateText(Coordinate coordinate);
+
+/// {"latitude": 57.706547, "longitude": 11.9671}.
+nlohmann::json toJson(Coordinate coordinate);
 
 /// The text as one line without control characters, whoever wrote it: safe to print on a terminal.
 std::string oneLine(std::string text);

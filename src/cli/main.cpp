@@ -16,9 +16,9 @@ struct Typed {
   std::string text;
   std::string mode;
   std::optional<std::string> near;
-  std::string from;
-  std::string to;
-  std::string drift;
+  wayloom::Drive drive;
+  std::string time = "now";
+  std::string onOff;
   double speed = 0;
   int limit = 10;
   std::string name;
@@ -62,11 +62,11 @@ void addFixedCommands(CLI::App& app, Typed& typed) {
   });
 
   auto* drift = fixed->add_subcommand("drift", "Let the position drift by itself, or not");
-  drift->add_option("on|off", typed.drift)->required()->check(CLI::IsMember({"on", "off"}));
+  drift->add_option("on|off", typed.onOff)->required()->check(CLI::IsMember({"on", "off"}));
   auto* speed = drift->add_option("--speed", typed.speed, "0 (slow) to 1 (fast)");
   drift->callback([&typed, speed] {
     typed.command = [&typed, isGiven = speed->count() > 0](CommandLine& line) {
-      return wayloom::setDrift(line, typed.drift == "on",
+      return wayloom::setDrift(line, typed.onOff == "on",
                                isGiven ? std::optional(typed.speed) : std::nullopt);
     };
   });
@@ -148,16 +148,43 @@ void addPlaceCommands(CLI::App& app, Typed& typed) {
 
 void addRouteCommands(CLI::App& app, Typed& typed) {
   auto* route = app.add_subcommand("route", "A drive on roads")->require_subcommand(1);
+  const auto addPlaces = [&typed](CLI::App* command) {
+    command
+        ->add_option("--from", typed.drive.from,
+                     "Where it starts: LAT,LON, #:LAT,LON or an address")
+        ->required();
+    command->add_option("--to", typed.drive.to, "Where it ends")->required();
+  };
   auto* plan = route->add_subcommand("plan", "Show the quickest drive, without turning it on");
-  plan->add_option("--from", typed.from, "Where it starts: LAT,LON, #:LAT,LON or an address")
-      ->required();
-  plan->add_option("--to", typed.to, "Where it ends")->required();
+  addPlaces(plan);
   plan->add_flag("--geojson", typed.geoJson, "Answer with the whole line as GeoJSON");
   plan->callback([&typed] {
     typed.command = [&typed](CommandLine& line) {
       return wayloom::planRoute(
-          line, typed.from, typed.to,
+          line, typed.drive.from, typed.drive.to,
           typed.geoJson ? wayloom::RouteForm::GeoJson : wayloom::RouteForm::Summary);
+    };
+  });
+
+  auto* on = route->add_subcommand("on", "Turn the quickest drive on");
+  addPlaces(on);
+  on->add_option("--start", typed.drive.start,
+                 "When it starts: 2026-11-23T08:30, now, +30m or seconds since 1970")
+      ->required();
+  on->add_option("--end", typed.drive.end, "When it ends")->required();
+  on->callback([&typed] {
+    typed.command = [&typed](CommandLine& line) { return wayloom::turnRouteOn(line, typed.drive); };
+  });
+
+  route->add_subcommand("off", "Turn the drive off; its path is kept")->callback([&typed] {
+    typed.command = wayloom::turnRouteOff;
+  });
+
+  auto* where = route->add_subcommand("where", "Show where the drive is");
+  where->add_option("--at", typed.time, "At another time than now");
+  where->callback([&typed] {
+    typed.command = [&typed](CommandLine& line) {
+      return wayloom::showRoutePosition(line, typed.time);
     };
   });
 }

@@ -8,6 +8,8 @@ ListView {
     required property Screens.DatePicker picker
     required property int column
     required property int value
+    /// Whether to show that the keyboard is on it.
+    property bool marksFocus: false
 
     readonly property int rowSize: 36
 
@@ -57,7 +59,7 @@ ListView {
     }
 
     FocusRing {
-        visible: wheel.activeFocus
+        visible: wheel.activeFocus && wheel.marksFocus
         radius: FlatPalette.cornerRadius
         anchors.margins: 2
     }

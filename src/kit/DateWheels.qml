@@ -7,7 +7,16 @@ FocusScope {
 
     required property Screens.DatePicker picker
 
+    /// A key was pressed since the picker got the keyboard.
+    property bool keysUsed: false
+
     implicitHeight: 216
+    onActiveFocusChanged: keysUsed = false
+    Keys.priority: Keys.BeforeItem
+    Keys.onPressed: event => {
+        keysUsed = true
+        event.accepted = false
+    }
 
     Rectangle {
         anchors.fill: parent
@@ -42,6 +51,7 @@ FocusScope {
             focus: true
             picker: wheels.picker
             column: Screens.DatePicker.Day
+            marksFocus: wheels.keysUsed
             value: wheels.picker.day
             model: wheels.picker.dayCount
             KeyNavigation.right: hourWheel
@@ -54,6 +64,7 @@ FocusScope {
             height: parent.height
             picker: wheels.picker
             column: Screens.DatePicker.Hour
+            marksFocus: wheels.keysUsed
             value: wheels.picker.hour
             model: 24
             KeyNavigation.right: minuteWheel
@@ -66,6 +77,7 @@ FocusScope {
             height: parent.height
             picker: wheels.picker
             column: Screens.DatePicker.Minute
+            marksFocus: wheels.keysUsed
             value: wheels.picker.minute
             model: 60
         }

@@ -11,8 +11,6 @@ T.AbstractButton {
     required property string value
     required property string captionName
     required property string valueName
-    /// Nothing was chosen yet: the value only asks for it.
-    property bool isEmpty: false
 
     height: FlatPalette.rowHeight
     focusPolicy: Qt.StrongFocus
@@ -58,7 +56,7 @@ T.AbstractButton {
             width: parent.width - x - FlatPalette.margin
             height: parent.height
             text: row.value
-            color: row.isEmpty ? FlatPalette.secondaryText : FlatPalette.text
+            color: FlatPalette.text
             font.pixelSize: FlatPalette.bodySize
             horizontalAlignment: Text.AlignRight
             verticalAlignment: Text.AlignVCenter

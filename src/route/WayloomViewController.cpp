@@ -136,6 +136,7 @@ void WayloomViewController::turnOff() {
   mPlan.cleanPath();
   mPlan.cleanStart();
   mPlan.cleanEnd();
+  if (mv_main) mv_main->setShowsUserLocation(false);
   ignore(mSimulation.turnOff());
   mTimer.stop();
 }
@@ -145,7 +146,10 @@ void WayloomViewController::refreshLocation() {
 }
 
 void WayloomViewController::follow(std::optional<Coordinate> position) {
-  if (position && mv_main) showPoint(*mv_main, *position);
+  if (!mv_main || !position) return;
+  mv_main->setUserLocation(position);
+  mv_main->setShowsUserLocation(true);
+  showPoint(*mv_main, *position);
 }
 
 void WayloomViewController::drawMapLine() {

@@ -50,7 +50,7 @@ class WhitelistScreenTest : public testing::Test {
     return item;
   }
   QString nameIn(int index) const { return row(index)->property("appName").toString(); }
-  bool hasCheckmark(int index) const { return screen.find(row(index), "checkmark")->isVisible(); }
+  bool hasCheckmark(int index) const { return foundItem(row(index), "checkmark")->isVisible(); }
   void clickOn(int index) {
     const QQuickItem* item = row(index);
     const QPointF middle = item->mapToScene({item->width() / 2, item->height() / 2});

@@ -1,10 +1,8 @@
 #include <atomic>
-#include <cstdlib>
 #include <nlohmann/json.hpp>
-#include <sys/wait.h>
 #include <thread>
 
-#include "tests/support/TemporaryRoot.h"
+#include "tests/support/ShellRun.h"
 
 namespace wayloom {
 namespace {
@@ -15,21 +13,12 @@ using testing::HasSubstr;
 /// Runs the real program as a shell does, with files and applications of the test's own.
 class ApplicationCommandsTest : public testing::Test {
  protected:
-  struct Run {
-    int status;
-    std::string out, err;
-  };
-
-  Run run(const std::string& arguments, const std::string& tag = "run") const {
+  ShellRun run(const std::string& arguments, const std::string& tag = "run") const {
     const auto path = [&](const char* name) { return (root.path() / name).string(); };
-    const auto out = path(("out-" + tag).c_str());
-    const auto err = path(("err-" + tag).c_str());
-    const std::string command = "DBUS_SESSION_BUS_ADDRESS=unix:path=/nonexistent LC_ALL=C HOME='" +
-                                path("home") + "' XDG_DATA_HOME= XDG_DATA_DIRS='" + path("share") +
-                                "' '" WAYLOOMCTL "' --root '" + root.path().string() + "' " +
-                                arguments + " > '" + out + "' 2> '" + err + "'";
-    const int status = std::system(command.c_str());
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, bytesOf(out), bytesOf(err)};
+    return runInShell("LC_ALL=C HOME='" + path("home") + "' XDG_DATA_HOME= XDG_DATA_DIRS='" +
+                          path("share") + "' '" WAYLOOMCTL "' --root '" + root.path().string() +
+                          "' " + arguments,
+                      root.path(), tag);
   }
   void install(const std::string& name, const std::string& lines) {
     writeBytes(root.path() / "share/applications" / name, "[Desktop Entry]\n" + lines);

@@ -1,10 +1,8 @@
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
-#include <sys/wait.h>
 
 #include "tests/regions/SmallIndex.h"
-#include "tests/support/TemporaryRoot.h"
+#include "tests/support/ShellRun.h"
 
 namespace wayloom {
 namespace {
@@ -15,21 +13,11 @@ using Texts = std::map<std::string, std::string>;
 /// Runs the real program as a shell does, on files and regions of the test's own.
 class WayloomctlTest : public testing::Test {
  protected:
-  struct Run {
-    int status;
-    std::string out, err;
-  };
-
-  Run run(const std::string& arguments) const {
-    const auto out = root.path() / "out";
-    const auto err = root.path() / "err";
-    const std::string command =
-        "DBUS_SESSION_BUS_ADDRESS=unix:path=/nonexistent XDG_CONFIG_HOME='" + root.path().string() +
-        "' '" WAYLOOMCTL "' --root '" + root.path().string() + "' --regions '" +
-        index.folder().path().string() + "' " + arguments + " > '" + out.string() + "' 2> '" +
-        err.string() + "'";
-    const int status = std::system(command.c_str());
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, bytesOf(out), bytesOf(err)};
+  ShellRun run(const std::string& arguments) const {
+    return runInShell("XDG_CONFIG_HOME='" + root.path().string() + "' '" WAYLOOMCTL "' --root '" +
+                          root.path().string() + "' --regions '" + index.folder().path().string() +
+                          "' " + arguments,
+                      root.path());
   }
   Texts location() const { return textsIn(SettingsFiles(root.path()), SettingsFile::Location); }
   std::string mode() const {
@@ -44,7 +32,7 @@ class WayloomctlTest : public testing::Test {
 TEST_F(WayloomctlTest, WritesWhatTheScreenWouldWrite) {
   EXPECT_EQ(run("fixed on").status, 1) << "no position was ever chosen";
   EXPECT_EQ(location(), (Texts{{"(missing)", ""}}));
-  const Run moved = run("fixed move 1,2");
+  const ShellRun moved = run("fixed move 1,2");
   EXPECT_EQ(moved.status, 1);
   EXPECT_THAT(moved.err, HasSubstr("nothing was written"));
   EXPECT_EQ(location(), (Texts{{"(missing)", ""}}));
@@ -91,7 +79,7 @@ TEST_F(WayloomctlTest, WhatIsNoPositionIsNotTurnedOn) {
 TEST_F(WayloomctlTest, ARouteThatIsOnKeepsItsMode) {
   SettingsFiles files(root.path());
   ASSERT_TRUE(files.save(SettingsFile::Route, PropertyList::Dictionary{{"enable", "1"}}));
-  const Run refused = run("fixed on 1,2");
+  const ShellRun refused = run("fixed on 1,2");
   EXPECT_EQ(refused.status, 1);
   EXPECT_THAT(refused.err, HasSubstr("please turn off the Wayloom first!"));
   EXPECT_EQ(location(), (Texts{{"(missing)", ""}})) << "both would be on";
@@ -123,7 +111,7 @@ TEST_F(WayloomctlTest, AnswersBadInputInOneLine) {
       {"search --service web paris", 1, "geocoding"},
   };
   for (const auto& test : cases) {
-    const Run answer = run(test.arguments);
+    const ShellRun answer = run(test.arguments);
     EXPECT_EQ(answer.status, test.status) << test.arguments;
     EXPECT_EQ(answer.out, "") << test.arguments;
     EXPECT_EQ(std::count(answer.err.begin(), answer.err.end(), '\n'), 1) << answer.err;
@@ -133,7 +121,7 @@ TEST_F(WayloomctlTest, AnswersBadInputInOneLine) {
 
 TEST_F(WayloomctlTest, SaysWhichFileCannotBeWritten) {
   writeBytes(root.path() / "var", "a file where a folder belongs");
-  const Run refused = run("fixed on 1,2");
+  const ShellRun refused = run("fixed on 1,2");
   EXPECT_EQ(refused.status, 1);
   EXPECT_THAT(refused.err, HasSubstr((root.path() / "var").string()));
 }
@@ -142,11 +130,11 @@ TEST_F(WayloomctlTest, NamesDamagedFilesAndGoesOn) {
   const auto path = SettingsFiles(root.path()).path(SettingsFile::Location);
   writeBytes(path, "<plist><dict>");
   writeBytes(index.folder().path() / "broken.region", "no database");
-  const Run status = run("--json status");
+  const ShellRun status = run("--json status");
   EXPECT_EQ(status.status, 0);
   EXPECT_THAT(status.err, HasSubstr("com.quorvil.wl.location.plist is damaged"));
   EXPECT_THAT(status.out, HasSubstr("\"enabled\": false"));
-  const Run search = run("search paris");
+  const ShellRun search = run("search paris");
   EXPECT_EQ(search.status, 0);
   EXPECT_THAT(search.err, HasSubstr("broken.region"));
   EXPECT_EQ(search.out, "48.850000, 2.350000  Paris, Île-de-France, France\n");
@@ -160,7 +148,7 @@ TEST_F(WayloomctlTest, FavouritesAreCountedFromOneAndChoosingPinsThem) {
             "1\t-33.900000, 151.200000\ttwo\\nlines\n2\t48.850000, 2.350000\tUnknow\n");
   for (const char* number : {"0", "-1", "3", "99999999999"}) {
     for (const std::string command : {"favorites remove ", "favorites choose "}) {
-      const Run refused = run(command + number);
+      const ShellRun refused = run(command + number);
       EXPECT_EQ(refused.status, 1) << command << number;
       EXPECT_THAT(refused.err, HasSubstr("run from 1 to 2")) << command << number;
     }

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstdlib>
+#include <string>
+#include <sys/wait.h>
+
+#include "tests/support/TemporaryRoot.h"
+
+namespace wayloom {
+
+/// How a program ended that was run as a shell runs it.
+struct ShellRun {
+  /// -1 when a signal ended it.
+  int status;
+  std::string out, err;
+};
+
+/// Runs `command` with no bus to reach; what it prints passes through files in `folder` whose names
+/// begin with `tag`, so that runs with different tags may overlap.
+inline ShellRun runInShell(const std::string& command, const std::filesystem::path& folder,
+                           const std::string& tag = "run") {
+  const auto out = folder / (tag + ".out");
+  const auto err = folder / (tag + ".err");
+  const std::string line = "DBUS_SESSION_BUS_ADDRESS=unix:path=/nonexistent " + command + " > '" +
+                           out.string() + "' 2> '" + err.string() + "'";
+  const int status = std::system(line.c_str());
+  return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, bytesOf(out), bytesOf(err)};
+}
+
+}  // namespace wayloom

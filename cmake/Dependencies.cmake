@@ -9,7 +9,7 @@ find_path(RAPIDJSON_INCLUDE_DIR rapidjson/document.h REQUIRED)
 find_package(CLI11 REQUIRED)
 
 if(WAYLOOM_SCREENS)
-  find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Qml Quick Positioning LinguistTools)
+  find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Network Qml Quick Positioning LinguistTools)
   if(WAYLOOM_TESTS)
     find_package(Qt6 6.4 REQUIRED COMPONENTS Test QuickTest)
   endif()

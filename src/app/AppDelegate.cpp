@@ -34,6 +34,9 @@ AppDelegate::AppDelegate(AppServices& services)
                          .alerts = services.alerts,
                          .screens = *this,
                          .tiles = services.tiles}) {
+  mWindow.setTitle(QStringLiteral("Wayloom"));
+  mWindow.setMinimumSize(kSmallestSize);
+  mWindow.resize(kPhoneSize);
   connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
           [this](Qt::ApplicationState state) {
             if (state == Qt::ApplicationActive) didBecomeActive();
@@ -45,8 +48,6 @@ AppDelegate::AppDelegate(AppServices& services)
 
 bool AppDelegate::didFinishLaunching() {
   mShown = mServices.files.readMasterMode();
-  mWindow.setTitle(QStringLiteral("Wayloom"));
-  mWindow.setMinimumSize(kSmallestSize);
   mWindow.setResizeMode(QQuickView::SizeRootObjectToView);
   mWindow.engine()->addImportPath(QStringLiteral("qrc:/qt/qml"));
   mWindow.engine()->addImageProvider(ApplicationIcons::providerName(),
@@ -58,15 +59,23 @@ bool AppDelegate::didFinishLaunching() {
        {QStringLiteral("modals"), QVariant::fromValue(&mModals)},
        {QStringLiteral("alerts"), QVariant::fromValue(&mServices.alerts)}});
   mWindow.setSource(QUrl(QStringLiteral("qrc:/qt/qml/Wayloom/Layouts/AppWindow.qml")));
-  if (mWindow.status() != QQuickView::Ready) return false;
+  if (mWindow.status() != QQuickView::Ready) {
+    std::fprintf(stderr, "wayloom: the screens cannot be loaded; is the installation complete?\n");
+    return false;
+  }
   viewWillAppear(mShown);
   for (const RefusedRegion& refused : mServices.regions.refused()) {
     std::fprintf(stderr, "wayloom: region %s is left out: %s\n", refused.path.c_str(),
                  refused.reason.c_str());
   }
-  mWindow.resize(kPhoneSize);
   mWindow.show();
   return true;
+}
+
+void AppDelegate::comeToTheFront() {
+  if (mWindow.windowStates() & Qt::WindowMinimized) mWindow.showNormal();
+  mWindow.raise();
+  mWindow.requestActivate();
 }
 
 void AppDelegate::didBecomeActive() {

@@ -19,9 +19,11 @@ class AppDelegate : public QObject, public ScreenSwitcher {
  public:
   explicit AppDelegate(AppServices& services);
 
-  /// Loads the layouts and shows the window; false when they cannot be loaded.
+  /// Loads the layouts and shows the window; false, with a line on standard error, when they cannot
+  /// be loaded.
   [[nodiscard]] bool didFinishLaunching();
   void didBecomeActive();
+  void comeToTheFront();
 
   void changeToLocation() override;
   void changeToRouter() override;

@@ -1,65 +1,76 @@
 #include <clocale>
 #include <cstdio>
 
-#include <QtCore/QCommandLineParser>
+#include <QtCore/QDir>
+#include <QtCore/QSettings>
 #include <QtCore/QTranslator>
 #include <QtGui/QGuiApplication>
+#include <QtGui/QIcon>
 
 #include "app/AppDelegate.h"
+#include "app/SingleInstance.h"
+#include "app/StartOptions.h"
 #include "app/Tour.h"
+#include "app/WindowPlace.h"
+#include "settings/SettingsRoot.h"
 
 namespace {
 
-std::optional<std::filesystem::path> pathOf(const QCommandLineParser& parser,
-                                            const QCommandLineOption& option) {
-  if (!parser.isSet(option)) return std::nullopt;
-  return std::filesystem::path(parser.value(option).toStdString());
+using namespace wayloom;
+
+/// A tour starts from nothing, and leaves what the user's own windows remember alone.
+int runTour(const StartOptions& options) {
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
+                     QDir(*options.tour).absoluteFilePath(QStringLiteral("remembered")));
+  AppServices services(
+      {.root = options.root, .regions = options.regions, .configuredPositionOnly = true});
+  AppDelegate delegate(services);
+  if (!delegate.didFinishLaunching()) return 1;
+  return Tour(delegate.window(), services.files, *options.tour).run() ? 0 : 1;
+}
+
+int runApplication(const StartOptions& options) {
+  SingleInstance instance(settingsRoot(options.root));
+  switch (instance.start()) {
+    case SingleInstance::Start::First:
+      break;
+    case SingleInstance::Start::Second:
+      return 0;
+    case SingleInstance::Start::Unanswered:
+      std::fprintf(stderr, "wayloom: it is running already, but does not answer\n");
+      return 1;
+  }
+  AppServices services({.root = options.root, .regions = options.regions});
+  AppDelegate delegate(services);
+  const WindowPlace place(delegate.window());
+  if (!delegate.didFinishLaunching()) return 1;
+  QObject::connect(&instance, &SingleInstance::startedAgain, &delegate,
+                   &AppDelegate::comeToTheFront);
+  return QGuiApplication::exec();
 }
 
 }  // namespace
 
 int main(int argc, char* argv[]) {
+  QCoreApplication::setOrganizationName(QStringLiteral("wayloom"));
+  QCoreApplication::setApplicationName(QStringLiteral("wayloom"));
+  QCoreApplication::setApplicationVersion(QStringLiteral(WAYLOOM_VERSION));
+  if (StartOptions::areQuestions(argc, argv)) {
+    const QCoreApplication application(argc, argv);
+    StartOptions::read(application);
+    return 0;
+  }
   QGuiApplication application(argc, argv);
   // Numbers in files and map styles have a decimal point whatever the user's language.
   std::setlocale(LC_NUMERIC, "C");
-  QGuiApplication::setOrganizationName(QStringLiteral("wayloom"));
-  QGuiApplication::setApplicationName(QStringLiteral("wayloom"));
-  QGuiApplication::setApplicationVersion(QStringLiteral(WAYLOOM_VERSION));
+  QGuiApplication::setDesktopFileName(QStringLiteral("wayloom"));
+  QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/wayloom.svg")));
 
   // English stands behind every language: some keys of the string table are no English.
   QTranslator english;
   if (english.load(QStringLiteral(":/translations/wayloom_en.qm"))) {
     QGuiApplication::installTranslator(&english);
   }
-
-  QCommandLineParser parser;
-  parser.setApplicationDescription(QStringLiteral("Decides where the phone says it is."));
-  parser.addHelpOption();
-  parser.addVersionOption();
-  const QCommandLineOption root(QStringLiteral("root"),
-                                QStringLiteral("Folder below which the settings files stand."),
-                                QStringLiteral("DIR"));
-  const QCommandLineOption regions(QStringLiteral("regions"),
-                                   QStringLiteral("Folder with the region files."),
-                                   QStringLiteral("DIR"));
-  const QCommandLineOption tour(
-      QStringLiteral("tour"),
-      QStringLiteral("Walk through the screens, save a picture of each step in DIR, and end."),
-      QStringLiteral("DIR"));
-  parser.addOptions({root, regions, tour});
-  parser.process(application);
-
-  wayloom::AppServices services({.root = pathOf(parser, root),
-                                 .regions = pathOf(parser, regions),
-                                 .configuredPositionOnly = parser.isSet(tour)});
-  wayloom::AppDelegate delegate(services);
-  if (!delegate.didFinishLaunching()) {
-    std::fprintf(stderr, "wayloom: the screens cannot be loaded; is the installation complete?\n");
-    return 1;
-  }
-  if (parser.isSet(tour)) {
-    wayloom::Tour walk(delegate.window(), services.files, parser.value(tour));
-    return walk.run() ? 0 : 1;
-  }
-  return QGuiApplication::exec();
+  const StartOptions options = StartOptions::read(application);
+  return options.tour ? runTour(options) : runApplication(options);
 }

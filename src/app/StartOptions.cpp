@@ -1,6 +1,8 @@
 #include "app/StartOptions.h"
 
 #include <algorithm>
+#include <cstdio>
+#include <cstdlib>
 #include <string_view>
 
 #include <QtCore/QCommandLineParser>
@@ -16,6 +18,15 @@ std::optional<std::filesystem::path> pathOf(const QCommandLineParser& parser,
   return std::filesystem::path(parser.value(option).toStdString());
 }
 
+std::optional<bool> isDark(const QCommandLineParser& parser, const QCommandLineOption& option) {
+  if (!parser.isSet(option)) return std::nullopt;
+  const QString value = parser.value(option);
+  if (value == QStringLiteral("dark")) return true;
+  if (value == QStringLiteral("light")) return false;
+  std::fprintf(stderr, "wayloom: --appearance is light or dark, not '%s'\n", qPrintable(value));
+  std::exit(1);
+}
+
 }  // namespace
 
 StartOptions StartOptions::read(const QCoreApplication& application) {
@@ -29,13 +40,20 @@ StartOptions StartOptions::read(const QCoreApplication& application) {
       QStringLiteral("tour"),
       QStringLiteral("Walk through the screens, save a picture of each step in DIR, and end."),
       folder);
+  const QCommandLineOption appearance(
+      QStringLiteral("appearance"),
+      QStringLiteral("Use light or dark colours, whatever the desktop uses."),
+      QStringLiteral("light|dark"));
   QCommandLineParser parser;
   parser.setApplicationDescription(QStringLiteral("Decides where the phone says it is."));
   parser.addHelpOption();
   parser.addVersionOption();
-  parser.addOptions({root, regions, tour});
+  parser.addOptions({root, regions, appearance, tour});
   parser.process(application);
-  StartOptions options{pathOf(parser, root), pathOf(parser, regions), std::nullopt};
+  StartOptions options;
+  options.root = pathOf(parser, root);
+  options.regions = pathOf(parser, regions);
+  options.dark = isDark(parser, appearance);
   if (parser.isSet(tour)) options.tour = parser.value(tour);
   return options;
 }

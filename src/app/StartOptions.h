@@ -13,6 +13,8 @@ namespace wayloom {
 struct StartOptions {
   std::optional<std::filesystem::path> root;
   std::optional<std::filesystem::path> regions;
+  /// A dark or a light palette, whatever the desktop's is.
+  std::optional<bool> dark;
   /// Where the pictures of the tour go, if there is to be one.
   std::optional<QString> tour;
 

@@ -6,6 +6,7 @@
 #include <QtCore/QTranslator>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QIcon>
+#include <QtGui/QPalette>
 
 #include "app/AppDelegate.h"
 #include "app/SingleInstance.h"
@@ -17,6 +18,9 @@
 namespace {
 
 using namespace wayloom;
+
+constexpr QColor kDarkWindow(0x20, 0x28, 0x30);
+constexpr QColor kLightWindow(0xef, 0xef, 0xef);
 
 /// A tour starts from nothing, and leaves what the user's own windows remember alone.
 int runTour(const StartOptions& options) {
@@ -72,5 +76,9 @@ int main(int argc, char* argv[]) {
     QGuiApplication::installTranslator(&english);
   }
   const StartOptions options = StartOptions::read(application);
+  if (options.dark) {
+    // The whole palette follows from the colour of windows.
+    QGuiApplication::setPalette(QPalette(*options.dark ? kDarkWindow : kLightWindow));
+  }
   return options.tour ? runTour(options) : runApplication(options);
 }

@@ -11,7 +11,7 @@ Rectangle {
     width: Math.min(label.implicitWidth + 10, maximumWidth)
     height: label.implicitHeight + 4
     radius: 3
-    color: "#b3ffffff"
+    color: FlatPalette.veil
 
     Text {
         id: label

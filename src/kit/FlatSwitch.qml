@@ -7,8 +7,8 @@ T.Switch {
 
     property color onColor: FlatPalette.turquoise
     property color offColor: FlatPalette.clouds
-    property color onBackgroundColor: FlatPalette.midnightBlue
-    property color offBackgroundColor: FlatPalette.silver
+    property color onBackgroundColor: FlatPalette.switchGround
+    property color offBackgroundColor: FlatPalette.switchGroundOff
 
     implicitWidth: 60
     implicitHeight: 30

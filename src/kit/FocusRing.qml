@@ -5,6 +5,6 @@ Rectangle {
     anchors.fill: parent
     anchors.margins: -2
     color: "transparent"
-    border.color: FlatPalette.midnightBlue
+    border.color: FlatPalette.focus
     border.width: 2
 }

@@ -36,7 +36,7 @@ T.Button {
         Rectangle {
             anchors.fill: parent
             radius: control.cornerRadius
-            color: control.down ? FlatPalette.clouds : control.surfaceColor
+            color: control.down ? FlatPalette.pressed : control.surfaceColor
             border.color: control.raised ? "#14000000" : "transparent"
         }
         FocusRing {

@@ -67,7 +67,7 @@ T.SwipeDelegate {
                     anchors.centerIn: parent
                     width: 10
                     height: 2
-                    color: FlatPalette.surface
+                    color: FlatPalette.clouds
                 }
             }
         }

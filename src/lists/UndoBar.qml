@@ -16,7 +16,7 @@ Rectangle {
     enabled: shown
     opacity: shown ? 1 : 0
     Behavior on opacity { NumberAnimation { duration: 150 } }
-    color: FlatPalette.midnightBlue
+    color: FlatPalette.bar
     Accessible.role: Accessible.AlertMessage
     Accessible.name: label.text
 

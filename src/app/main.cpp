@@ -2,8 +2,8 @@
 #include <cstdio>
 
 #include <QtCore/QDir>
+#include <QtCore/QLocale>
 #include <QtCore/QSettings>
-#include <QtCore/QTranslator>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QIcon>
 #include <QtGui/QPalette>
@@ -11,6 +11,7 @@
 #include "app/AppDelegate.h"
 #include "app/SingleInstance.h"
 #include "app/StartOptions.h"
+#include "app/StringTables.h"
 #include "app/Tour.h"
 #include "app/WindowPlace.h"
 #include "settings/SettingsRoot.h"
@@ -70,11 +71,7 @@ int main(int argc, char* argv[]) {
   QGuiApplication::setDesktopFileName(QStringLiteral("wayloom"));
   QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/wayloom.svg")));
 
-  // English stands behind every language: some keys of the string table are no English.
-  QTranslator english;
-  if (english.load(QStringLiteral(":/translations/wayloom_en.qm"))) {
-    QGuiApplication::installTranslator(&english);
-  }
+  const StringTables strings(QLocale().uiLanguages());
   const StartOptions options = StartOptions::read(application);
   if (options.dark) {
     // The whole palette follows from the colour of windows.

@@ -4,7 +4,9 @@ import QtQuick
 FlatButton {
     anchors.verticalCenter: parent.verticalCenter
     anchors.margins: FlatPalette.margin
-    width: FlatPalette.barButtonWidth
+    width: Math.max(FlatPalette.barButtonWidth, implicitWidth)
+    leftPadding: 10
+    rightPadding: 10
     height: 32
     font.pixelSize: 15
 }

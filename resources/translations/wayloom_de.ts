@@ -1,0 +1,235 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>Wayloom</name>
+    <message>
+        <source>Add To →</source>
+        <translation>Merken →</translation>
+    </message>
+    <message>
+        <source>Address is loading, please wait</source>
+        <translation>Die Adresse wird noch gesucht, bitte warten</translation>
+    </message>
+    <message>
+        <source>Applications that are installed on this device appear here.</source>
+        <translation>Hier erscheinen die Anwendungen, die auf diesem Gerät installiert sind.</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>CANCEL</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Contact Author</source>
+        <translation>Autor anschreiben</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Deleted “%1”</source>
+        <translation>„%1“ gelöscht</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>Drift speed</source>
+        <translation>Geschwindigkeit des Umherwanderns</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>Fahrt</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Ziel</translation>
+    </message>
+    <message>
+        <source>End Time</source>
+        <translation>Ankunft</translation>
+    </message>
+    <message>
+        <source>End Time must later than Start Time</source>
+        <translation>Die Ankunft muss nach der Abfahrt liegen</translation>
+    </message>
+    <message>
+        <source>Enter Address Here</source>
+        <translation>Adresse eingeben</translation>
+    </message>
+    <message>
+        <source>Favorites</source>
+        <translation>Favoriten</translation>
+    </message>
+    <message>
+        <source>Fixed location</source>
+        <translation>Fester Standort</translation>
+    </message>
+    <message>
+        <source>Hide the choices</source>
+        <translation>Auswahl ausblenden</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Informationen</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Karte</translation>
+    </message>
+    <message>
+        <source>My location</source>
+        <translation>Mein Standort</translation>
+    </message>
+    <message>
+        <source>No applications found</source>
+        <translation>Keine Anwendungen gefunden</translation>
+    </message>
+    <message>
+        <source>No favorites yet</source>
+        <translation>Noch keine Favoriten</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Path planning failure, rechoose Start/End please</source>
+        <translation>Keine Strecke gefunden, bitte Start oder Ziel neu wählen</translation>
+    </message>
+    <message>
+        <source>Pick a place on the map and press “Add To →”.</source>
+        <translation>Einen Ort auf der Karte wählen und „Merken →“ drücken.</translation>
+    </message>
+    <message>
+        <source>Please Enter Favorites Name</source>
+        <translation>Name des Favoriten</translation>
+    </message>
+    <message>
+        <source>Please choose</source>
+        <translation>Bitte wählen</translation>
+    </message>
+    <message>
+        <source>Please choose End</source>
+        <translation>Bitte das Ziel wählen</translation>
+    </message>
+    <message>
+        <source>Please choose End Time</source>
+        <translation>Bitte die Ankunftszeit wählen</translation>
+    </message>
+    <message>
+        <source>Please choose Start</source>
+        <translation>Bitte den Start wählen</translation>
+    </message>
+    <message>
+        <source>Please choose Start Time</source>
+        <translation>Bitte die Abfahrtszeit wählen</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Search Failed</source>
+        <translation>Nichts gefunden</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>Suche läuft</translation>
+    </message>
+    <message>
+        <source>Show the choices</source>
+        <translation>Auswahl einblenden</translation>
+    </message>
+    <message>
+        <source>Spotloom is working,please turn off the Spotloom first!</source>
+        <translation>Der feste Standort ist eingeschaltet. Bitte erst ausschalten!</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Start Time</source>
+        <translation>Abfahrt</translation>
+    </message>
+    <message>
+        <source>Switch mode</source>
+        <translation>Modus wechseln</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>Heute</translation>
+    </message>
+    <message>
+        <source>Turn on the switch will change your coordinate automatic in a range</source>
+        <translation>Eingeschaltet wandert die Position von selbst in der Umgebung umher</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Unknow</source>
+        <translation>Unbekannt</translation>
+    </message>
+    <message>
+        <source>Visit Quorvil</source>
+        <translation>Quorvil besuchen</translation>
+    </message>
+    <message>
+        <source>Wayloom</source>
+        <translation>Wayloom</translation>
+    </message>
+    <message>
+        <source>Wayloom is working</source>
+        <translation>Wayloom läuft</translation>
+    </message>
+    <message>
+        <source>Wayloom is working,please turn off the Wayloom first!</source>
+        <translation>Die Fahrt läuft. Bitte erst ausschalten!</translation>
+    </message>
+    <message>
+        <source>White List</source>
+        <translation>Weiße Liste</translation>
+    </message>
+    <message>
+        <source>fast</source>
+        <translation>schnell</translation>
+    </message>
+    <message>
+        <source>slow</source>
+        <translation>langsam</translation>
+    </message>
+    <message>
+        <source>定位服务未开启</source>
+        <translation>Die Ortungsdienste sind ausgeschaltet</translation>
+    </message>
+    <message>
+        <source>定位失败</source>
+        <translation>Ortung fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>请开启定位以保证程序正常运行</source>
+        <translation>Bitte den Zugriff auf den Standort erlauben, damit die Anwendung arbeiten kann</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+</context>
+</TS>

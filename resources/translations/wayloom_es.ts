@@ -1,0 +1,235 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name>Wayloom</name>
+    <message>
+        <source>Add To →</source>
+        <translation>Guardar →</translation>
+    </message>
+    <message>
+        <source>Address is loading, please wait</source>
+        <translation>Buscando la dirección, espere</translation>
+    </message>
+    <message>
+        <source>Applications that are installed on this device appear here.</source>
+        <translation>Aquí aparecen las aplicaciones instaladas en este dispositivo.</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
+    <message>
+        <source>CANCEL</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Contact Author</source>
+        <translation>Contactar al autor</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Deleted “%1”</source>
+        <translation>«%1» eliminado</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Listo</translation>
+    </message>
+    <message>
+        <source>Drift speed</source>
+        <translation>Velocidad de deriva</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>Trayecto</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Editar</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Destino</translation>
+    </message>
+    <message>
+        <source>End Time</source>
+        <translation>Hora de llegada</translation>
+    </message>
+    <message>
+        <source>End Time must later than Start Time</source>
+        <translation>La hora de llegada debe ser posterior a la de salida</translation>
+    </message>
+    <message>
+        <source>Enter Address Here</source>
+        <translation>Escriba una dirección</translation>
+    </message>
+    <message>
+        <source>Favorites</source>
+        <translation>Favoritos</translation>
+    </message>
+    <message>
+        <source>Fixed location</source>
+        <translation>Ubicación fija</translation>
+    </message>
+    <message>
+        <source>Hide the choices</source>
+        <translation>Ocultar las opciones</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Información</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Mapa</translation>
+    </message>
+    <message>
+        <source>My location</source>
+        <translation>Mi ubicación</translation>
+    </message>
+    <message>
+        <source>No applications found</source>
+        <translation>No se encontraron aplicaciones</translation>
+    </message>
+    <message>
+        <source>No favorites yet</source>
+        <translation>Aún no hay favoritos</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Path planning failure, rechoose Start/End please</source>
+        <translation>No se encontró ninguna ruta; elija otro origen o destino</translation>
+    </message>
+    <message>
+        <source>Pick a place on the map and press “Add To →”.</source>
+        <translation>Elija un lugar en el mapa y pulse «Guardar →».</translation>
+    </message>
+    <message>
+        <source>Please Enter Favorites Name</source>
+        <translation>Nombre del favorito</translation>
+    </message>
+    <message>
+        <source>Please choose</source>
+        <translation>Elegir</translation>
+    </message>
+    <message>
+        <source>Please choose End</source>
+        <translation>Elija el destino</translation>
+    </message>
+    <message>
+        <source>Please choose End Time</source>
+        <translation>Elija la hora de llegada</translation>
+    </message>
+    <message>
+        <source>Please choose Start</source>
+        <translation>Elija el origen</translation>
+    </message>
+    <message>
+        <source>Please choose Start Time</source>
+        <translation>Elija la hora de salida</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>Search Failed</source>
+        <translation>Sin resultados</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>Buscando</translation>
+    </message>
+    <message>
+        <source>Show the choices</source>
+        <translation>Mostrar las opciones</translation>
+    </message>
+    <message>
+        <source>Spotloom is working,please turn off the Spotloom first!</source>
+        <translation>La ubicación fija está activada. ¡Desactívela primero!</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Origen</translation>
+    </message>
+    <message>
+        <source>Start Time</source>
+        <translation>Hora de salida</translation>
+    </message>
+    <message>
+        <source>Switch mode</source>
+        <translation>Cambiar de modo</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>Hoy</translation>
+    </message>
+    <message>
+        <source>Turn on the switch will change your coordinate automatic in a range</source>
+        <translation>Si se activa, la posición se mueve sola por los alrededores</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Unknow</source>
+        <translation>Desconocido</translation>
+    </message>
+    <message>
+        <source>Visit Quorvil</source>
+        <translation>Visitar Quorvil</translation>
+    </message>
+    <message>
+        <source>Wayloom</source>
+        <translation>Wayloom</translation>
+    </message>
+    <message>
+        <source>Wayloom is working</source>
+        <translation>Wayloom está en marcha</translation>
+    </message>
+    <message>
+        <source>Wayloom is working,please turn off the Wayloom first!</source>
+        <translation>El trayecto está en marcha. ¡Deténgalo primero!</translation>
+    </message>
+    <message>
+        <source>White List</source>
+        <translation>Lista blanca</translation>
+    </message>
+    <message>
+        <source>fast</source>
+        <translation>rápido</translation>
+    </message>
+    <message>
+        <source>slow</source>
+        <translation>lento</translation>
+    </message>
+    <message>
+        <source>定位服务未开启</source>
+        <translation>Los servicios de ubicación están desactivados</translation>
+    </message>
+    <message>
+        <source>定位失败</source>
+        <translation>No se pudo obtener la ubicación</translation>
+    </message>
+    <message>
+        <source>请开启定位以保证程序正常运行</source>
+        <translation>Permita el acceso a su ubicación para que la aplicación funcione</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>Aceptar</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,235 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>Wayloom</name>
+    <message>
+        <source>Add To →</source>
+        <translation>Ajouter →</translation>
+    </message>
+    <message>
+        <source>Address is loading, please wait</source>
+        <translation>Recherche de l’adresse, veuillez patienter</translation>
+    </message>
+    <message>
+        <source>Applications that are installed on this device appear here.</source>
+        <translation>Les applications installées sur cet appareil apparaissent ici.</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <source>CANCEL</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Contact Author</source>
+        <translation>Contacter l’auteur</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Deleted “%1”</source>
+        <translation>« %1 » supprimé</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Drift speed</source>
+        <translation>Vitesse de dérive</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>Trajet</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Modifier</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Arrivée</translation>
+    </message>
+    <message>
+        <source>End Time</source>
+        <translation>Heure d’arrivée</translation>
+    </message>
+    <message>
+        <source>End Time must later than Start Time</source>
+        <translation>L’heure d’arrivée doit suivre l’heure de départ</translation>
+    </message>
+    <message>
+        <source>Enter Address Here</source>
+        <translation>Saisir une adresse</translation>
+    </message>
+    <message>
+        <source>Favorites</source>
+        <translation>Favoris</translation>
+    </message>
+    <message>
+        <source>Fixed location</source>
+        <translation>Position fixe</translation>
+    </message>
+    <message>
+        <source>Hide the choices</source>
+        <translation>Masquer les choix</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Informations</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Carte</translation>
+    </message>
+    <message>
+        <source>My location</source>
+        <translation>Ma position</translation>
+    </message>
+    <message>
+        <source>No applications found</source>
+        <translation>Aucune application trouvée</translation>
+    </message>
+    <message>
+        <source>No favorites yet</source>
+        <translation>Aucun favori pour l’instant</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Path planning failure, rechoose Start/End please</source>
+        <translation>Aucun itinéraire trouvé, choisissez un autre départ ou une autre arrivée</translation>
+    </message>
+    <message>
+        <source>Pick a place on the map and press “Add To →”.</source>
+        <translation>Choisissez un lieu sur la carte et appuyez sur « Ajouter → ».</translation>
+    </message>
+    <message>
+        <source>Please Enter Favorites Name</source>
+        <translation>Nom du favori</translation>
+    </message>
+    <message>
+        <source>Please choose</source>
+        <translation>À choisir</translation>
+    </message>
+    <message>
+        <source>Please choose End</source>
+        <translation>Veuillez choisir l’arrivée</translation>
+    </message>
+    <message>
+        <source>Please choose End Time</source>
+        <translation>Veuillez choisir l’heure d’arrivée</translation>
+    </message>
+    <message>
+        <source>Please choose Start</source>
+        <translation>Veuillez choisir le départ</translation>
+    </message>
+    <message>
+        <source>Please choose Start Time</source>
+        <translation>Veuillez choisir l’heure de départ</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Chercher</translation>
+    </message>
+    <message>
+        <source>Search Failed</source>
+        <translation>Aucun résultat</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>Recherche</translation>
+    </message>
+    <message>
+        <source>Show the choices</source>
+        <translation>Afficher les choix</translation>
+    </message>
+    <message>
+        <source>Spotloom is working,please turn off the Spotloom first!</source>
+        <translation>La position fixe est active. Veuillez d’abord la désactiver !</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Départ</translation>
+    </message>
+    <message>
+        <source>Start Time</source>
+        <translation>Heure de départ</translation>
+    </message>
+    <message>
+        <source>Switch mode</source>
+        <translation>Changer de mode</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>Aujourd’hui</translation>
+    </message>
+    <message>
+        <source>Turn on the switch will change your coordinate automatic in a range</source>
+        <translation>Activé, la position se déplace d’elle-même dans les environs</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Unknow</source>
+        <translation>Inconnu</translation>
+    </message>
+    <message>
+        <source>Visit Quorvil</source>
+        <translation>Visiter Quorvil</translation>
+    </message>
+    <message>
+        <source>Wayloom</source>
+        <translation>Wayloom</translation>
+    </message>
+    <message>
+        <source>Wayloom is working</source>
+        <translation>Wayloom est actif</translation>
+    </message>
+    <message>
+        <source>Wayloom is working,please turn off the Wayloom first!</source>
+        <translation>Le trajet est en cours. Veuillez d’abord l’arrêter !</translation>
+    </message>
+    <message>
+        <source>White List</source>
+        <translation>Liste blanche</translation>
+    </message>
+    <message>
+        <source>fast</source>
+        <translation>rapide</translation>
+    </message>
+    <message>
+        <source>slow</source>
+        <translation>lent</translation>
+    </message>
+    <message>
+        <source>定位服务未开启</source>
+        <translation>Les services de localisation sont désactivés</translation>
+    </message>
+    <message>
+        <source>定位失败</source>
+        <translation>Échec de la localisation</translation>
+    </message>
+    <message>
+        <source>请开启定位以保证程序正常运行</source>
+        <translation>Veuillez autoriser l’accès à votre position pour que l’application fonctionne</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+</context>
+</TS>

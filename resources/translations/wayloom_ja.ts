@@ -1,0 +1,235 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context>
+    <name>Wayloom</name>
+    <message>
+        <source>Add To →</source>
+        <translation>追加 →</translation>
+    </message>
+    <message>
+        <source>Address is loading, please wait</source>
+        <translation>住所を読み込んでいます。お待ちください</translation>
+    </message>
+    <message>
+        <source>Applications that are installed on this device appear here.</source>
+        <translation>このデバイスにインストールされているアプリがここに表示されます。</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>CANCEL</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Contact Author</source>
+        <translation>作者に連絡</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Deleted “%1”</source>
+        <translation>「%1」を削除しました</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>完了</translation>
+    </message>
+    <message>
+        <source>Drift speed</source>
+        <translation>漂う速さ</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>走行</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>編集</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>終点</translation>
+    </message>
+    <message>
+        <source>End Time</source>
+        <translation>終了時刻</translation>
+    </message>
+    <message>
+        <source>End Time must later than Start Time</source>
+        <translation>終了時刻は開始時刻より後にしてください</translation>
+    </message>
+    <message>
+        <source>Enter Address Here</source>
+        <translation>住所を入力</translation>
+    </message>
+    <message>
+        <source>Favorites</source>
+        <translation>お気に入り</translation>
+    </message>
+    <message>
+        <source>Fixed location</source>
+        <translation>固定位置</translation>
+    </message>
+    <message>
+        <source>Hide the choices</source>
+        <translation>選択項目を隠す</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>情報</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>地図</translation>
+    </message>
+    <message>
+        <source>My location</source>
+        <translation>現在地</translation>
+    </message>
+    <message>
+        <source>No applications found</source>
+        <translation>アプリが見つかりません</translation>
+    </message>
+    <message>
+        <source>No favorites yet</source>
+        <translation>お気に入りはまだありません</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Path planning failure, rechoose Start/End please</source>
+        <translation>経路が見つかりません。起点または終点を選び直してください</translation>
+    </message>
+    <message>
+        <source>Pick a place on the map and press “Add To →”.</source>
+        <translation>地図で場所を選び、「追加 →」を押してください。</translation>
+    </message>
+    <message>
+        <source>Please Enter Favorites Name</source>
+        <translation>お気に入りの名前</translation>
+    </message>
+    <message>
+        <source>Please choose</source>
+        <translation>選択してください</translation>
+    </message>
+    <message>
+        <source>Please choose End</source>
+        <translation>終点を選んでください</translation>
+    </message>
+    <message>
+        <source>Please choose End Time</source>
+        <translation>終了時刻を選んでください</translation>
+    </message>
+    <message>
+        <source>Please choose Start</source>
+        <translation>起点を選んでください</translation>
+    </message>
+    <message>
+        <source>Please choose Start Time</source>
+        <translation>開始時刻を選んでください</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>Search Failed</source>
+        <translation>見つかりませんでした</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>検索中</translation>
+    </message>
+    <message>
+        <source>Show the choices</source>
+        <translation>選択項目を表示</translation>
+    </message>
+    <message>
+        <source>Spotloom is working,please turn off the Spotloom first!</source>
+        <translation>固定位置がオンです。先にオフにしてください。</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>起点</translation>
+    </message>
+    <message>
+        <source>Start Time</source>
+        <translation>開始時刻</translation>
+    </message>
+    <message>
+        <source>Switch mode</source>
+        <translation>モードを切り替える</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>今日</translation>
+    </message>
+    <message>
+        <source>Turn on the switch will change your coordinate automatic in a range</source>
+        <translation>オンにすると、位置が周辺を自動的に動きます</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Unknow</source>
+        <translation>不明</translation>
+    </message>
+    <message>
+        <source>Visit Quorvil</source>
+        <translation>Quorvil を見る</translation>
+    </message>
+    <message>
+        <source>Wayloom</source>
+        <translation>Wayloom</translation>
+    </message>
+    <message>
+        <source>Wayloom is working</source>
+        <translation>Wayloom は動作中です</translation>
+    </message>
+    <message>
+        <source>Wayloom is working,please turn off the Wayloom first!</source>
+        <translation>走行中です。先にオフにしてください。</translation>
+    </message>
+    <message>
+        <source>White List</source>
+        <translation>ホワイトリスト</translation>
+    </message>
+    <message>
+        <source>fast</source>
+        <translation>速い</translation>
+    </message>
+    <message>
+        <source>slow</source>
+        <translation>遅い</translation>
+    </message>
+    <message>
+        <source>定位服务未开启</source>
+        <translation>位置情報サービスがオフです</translation>
+    </message>
+    <message>
+        <source>定位失败</source>
+        <translation>位置を取得できません</translation>
+    </message>
+    <message>
+        <source>请开启定位以保证程序正常运行</source>
+        <translation>アプリが正しく動作するよう、位置情報の利用を許可してください</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,235 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_Hans" sourcelanguage="en">
+<context>
+    <name>Wayloom</name>
+    <message>
+        <source>Add To →</source>
+        <translation>收藏 →</translation>
+    </message>
+    <message>
+        <source>Address is loading, please wait</source>
+        <translation>正在获取地址，请稍候</translation>
+    </message>
+    <message>
+        <source>Applications that are installed on this device appear here.</source>
+        <translation>此设备上已安装的应用会显示在这里。</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>返回</translation>
+    </message>
+    <message>
+        <source>CANCEL</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Contact Author</source>
+        <translation>联系作者</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Deleted “%1”</source>
+        <translation>已删除“%1”</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>完成</translation>
+    </message>
+    <message>
+        <source>Drift speed</source>
+        <translation>漂移速度</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>行程</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>编辑</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>终点</translation>
+    </message>
+    <message>
+        <source>End Time</source>
+        <translation>结束时间</translation>
+    </message>
+    <message>
+        <source>End Time must later than Start Time</source>
+        <translation>结束时间必须晚于开始时间</translation>
+    </message>
+    <message>
+        <source>Enter Address Here</source>
+        <translation>请输入地址</translation>
+    </message>
+    <message>
+        <source>Favorites</source>
+        <translation>收藏夹</translation>
+    </message>
+    <message>
+        <source>Fixed location</source>
+        <translation>固定位置</translation>
+    </message>
+    <message>
+        <source>Hide the choices</source>
+        <translation>隐藏选项</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>信息</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>地图</translation>
+    </message>
+    <message>
+        <source>My location</source>
+        <translation>我的位置</translation>
+    </message>
+    <message>
+        <source>No applications found</source>
+        <translation>未找到应用</translation>
+    </message>
+    <message>
+        <source>No favorites yet</source>
+        <translation>还没有收藏</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>好</translation>
+    </message>
+    <message>
+        <source>Path planning failure, rechoose Start/End please</source>
+        <translation>路径规划失败，请重新选择起点或终点</translation>
+    </message>
+    <message>
+        <source>Pick a place on the map and press “Add To →”.</source>
+        <translation>在地图上选择一个位置，然后点按“收藏 →”。</translation>
+    </message>
+    <message>
+        <source>Please Enter Favorites Name</source>
+        <translation>请输入收藏名称</translation>
+    </message>
+    <message>
+        <source>Please choose</source>
+        <translation>请选择</translation>
+    </message>
+    <message>
+        <source>Please choose End</source>
+        <translation>请选择终点</translation>
+    </message>
+    <message>
+        <source>Please choose End Time</source>
+        <translation>请选择结束时间</translation>
+    </message>
+    <message>
+        <source>Please choose Start</source>
+        <translation>请选择起点</translation>
+    </message>
+    <message>
+        <source>Please choose Start Time</source>
+        <translation>请选择开始时间</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>Search Failed</source>
+        <translation>搜索失败</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>正在搜索</translation>
+    </message>
+    <message>
+        <source>Show the choices</source>
+        <translation>显示选项</translation>
+    </message>
+    <message>
+        <source>Spotloom is working,please turn off the Spotloom first!</source>
+        <translation>定点正在运行，请先关闭！</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>起点</translation>
+    </message>
+    <message>
+        <source>Start Time</source>
+        <translation>开始时间</translation>
+    </message>
+    <message>
+        <source>Switch mode</source>
+        <translation>切换模式</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>今天</translation>
+    </message>
+    <message>
+        <source>Turn on the switch will change your coordinate automatic in a range</source>
+        <translation>打开开关后，坐标会在一定范围内自动变化</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Unknow</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>Visit Quorvil</source>
+        <translation>访问 Quorvil</translation>
+    </message>
+    <message>
+        <source>Wayloom</source>
+        <translation>Wayloom</translation>
+    </message>
+    <message>
+        <source>Wayloom is working</source>
+        <translation>Wayloom 正在运行</translation>
+    </message>
+    <message>
+        <source>Wayloom is working,please turn off the Wayloom first!</source>
+        <translation>行程正在运行，请先关闭！</translation>
+    </message>
+    <message>
+        <source>White List</source>
+        <translation>白名单</translation>
+    </message>
+    <message>
+        <source>fast</source>
+        <translation>快</translation>
+    </message>
+    <message>
+        <source>slow</source>
+        <translation>慢</translation>
+    </message>
+    <message>
+        <source>定位服务未开启</source>
+        <translation>定位服务未开启</translation>
+    </message>
+    <message>
+        <source>定位失败</source>
+        <translation>定位失败</translation>
+    </message>
+    <message>
+        <source>请开启定位以保证程序正常运行</source>
+        <translation>请开启定位以保证程序正常运行</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>确定</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,235 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_Hant" sourcelanguage="en">
+<context>
+    <name>Wayloom</name>
+    <message>
+        <source>Add To →</source>
+        <translation>收藏 →</translation>
+    </message>
+    <message>
+        <source>Address is loading, please wait</source>
+        <translation>正在取得地址，請稍候</translation>
+    </message>
+    <message>
+        <source>Applications that are installed on this device appear here.</source>
+        <translation>此裝置上已安裝的應用程式會顯示在這裡。</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>返回</translation>
+    </message>
+    <message>
+        <source>CANCEL</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>Contact Author</source>
+        <translation>聯絡作者</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>刪除</translation>
+    </message>
+    <message>
+        <source>Deleted “%1”</source>
+        <translation>已刪除「%1」</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>完成</translation>
+    </message>
+    <message>
+        <source>Drift speed</source>
+        <translation>漂移速度</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>行程</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>編輯</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>終點</translation>
+    </message>
+    <message>
+        <source>End Time</source>
+        <translation>結束時間</translation>
+    </message>
+    <message>
+        <source>End Time must later than Start Time</source>
+        <translation>結束時間必須晚於開始時間</translation>
+    </message>
+    <message>
+        <source>Enter Address Here</source>
+        <translation>請輸入地址</translation>
+    </message>
+    <message>
+        <source>Favorites</source>
+        <translation>我的最愛</translation>
+    </message>
+    <message>
+        <source>Fixed location</source>
+        <translation>固定位置</translation>
+    </message>
+    <message>
+        <source>Hide the choices</source>
+        <translation>隱藏選項</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>資訊</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>地圖</translation>
+    </message>
+    <message>
+        <source>My location</source>
+        <translation>我的位置</translation>
+    </message>
+    <message>
+        <source>No applications found</source>
+        <translation>找不到應用程式</translation>
+    </message>
+    <message>
+        <source>No favorites yet</source>
+        <translation>尚無收藏</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>好</translation>
+    </message>
+    <message>
+        <source>Path planning failure, rechoose Start/End please</source>
+        <translation>路徑規劃失敗，請重新選擇起點或終點</translation>
+    </message>
+    <message>
+        <source>Pick a place on the map and press “Add To →”.</source>
+        <translation>在地圖上選擇一個位置，然後點一下「收藏 →」。</translation>
+    </message>
+    <message>
+        <source>Please Enter Favorites Name</source>
+        <translation>請輸入收藏名稱</translation>
+    </message>
+    <message>
+        <source>Please choose</source>
+        <translation>請選擇</translation>
+    </message>
+    <message>
+        <source>Please choose End</source>
+        <translation>請選擇終點</translation>
+    </message>
+    <message>
+        <source>Please choose End Time</source>
+        <translation>請選擇結束時間</translation>
+    </message>
+    <message>
+        <source>Please choose Start</source>
+        <translation>請選擇起點</translation>
+    </message>
+    <message>
+        <source>Please choose Start Time</source>
+        <translation>請選擇開始時間</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>搜尋</translation>
+    </message>
+    <message>
+        <source>Search Failed</source>
+        <translation>搜尋失敗</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>搜尋中</translation>
+    </message>
+    <message>
+        <source>Show the choices</source>
+        <translation>顯示選項</translation>
+    </message>
+    <message>
+        <source>Spotloom is working,please turn off the Spotloom first!</source>
+        <translation>定點正在執行，請先關閉！</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>起點</translation>
+    </message>
+    <message>
+        <source>Start Time</source>
+        <translation>開始時間</translation>
+    </message>
+    <message>
+        <source>Switch mode</source>
+        <translation>切換模式</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>今天</translation>
+    </message>
+    <message>
+        <source>Turn on the switch will change your coordinate automatic in a range</source>
+        <translation>開啟後，座標會在一定範圍內自動變化</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>還原</translation>
+    </message>
+    <message>
+        <source>Unknow</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>Visit Quorvil</source>
+        <translation>造訪 Quorvil</translation>
+    </message>
+    <message>
+        <source>Wayloom</source>
+        <translation>Wayloom</translation>
+    </message>
+    <message>
+        <source>Wayloom is working</source>
+        <translation>Wayloom 執行中</translation>
+    </message>
+    <message>
+        <source>Wayloom is working,please turn off the Wayloom first!</source>
+        <translation>行程正在執行，請先關閉！</translation>
+    </message>
+    <message>
+        <source>White List</source>
+        <translation>白名單</translation>
+    </message>
+    <message>
+        <source>fast</source>
+        <translation>快</translation>
+    </message>
+    <message>
+        <source>slow</source>
+        <translation>慢</translation>
+    </message>
+    <message>
+        <source>定位服务未开启</source>
+        <translation>定位服務未開啟</translation>
+    </message>
+    <message>
+        <source>定位失败</source>
+        <translation>定位失敗</translation>
+    </message>
+    <message>
+        <source>请开启定位以保证程序正常运行</source>
+        <translation>請開啟定位以確保程式正常運作</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>確定</translation>
+    </message>
+</context>
+</TS>

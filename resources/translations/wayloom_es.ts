@@ -61,7 +61,7 @@
     </message>
     <message>
         <source>End Time</source>
-        <translation>Hora de llegada</translation>
+        <translation>Llegada</translation>
     </message>
     <message>
         <source>End Time must later than Start Time</source>
@@ -165,7 +165,7 @@
     </message>
     <message>
         <source>Start Time</source>
-        <translation>Hora de salida</translation>
+        <translation>Salida</translation>
     </message>
     <message>
         <source>Switch mode</source>

@@ -61,7 +61,7 @@
     </message>
     <message>
         <source>End Time</source>
-        <translation>Heure d’arrivée</translation>
+        <translation>Arrivée à</translation>
     </message>
     <message>
         <source>End Time must later than Start Time</source>
@@ -165,7 +165,7 @@
     </message>
     <message>
         <source>Start Time</source>
-        <translation>Heure de départ</translation>
+        <translation>Départ à</translation>
     </message>
     <message>
         <source>Switch mode</source>

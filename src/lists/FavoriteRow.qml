@@ -83,6 +83,8 @@ T.SwipeDelegate {
             elide: Text.ElideRight
             maximumLineCount: 1
             textFormat: Text.PlainText
+            // Marks piled on a letter reach into other rows.
+            clip: true
         }
     }
 

@@ -49,6 +49,7 @@ FocusScope {
         bottomMargin: undoBar.shown ? undoBar.height : 0
         clip: true
         focus: true
+        activeFocusOnTab: true
         reuseItems: true
         currentIndex: -1
         highlightMoveDuration: 0

@@ -33,11 +33,13 @@ Rectangle {
         anchors.right: undoButton.left
         anchors.margins: FlatPalette.margin
         anchors.verticalCenter: parent.verticalCenter
-        text: qsTranslate("Wayloom", "Deleted “%1”").arg(bar.deletedName)
+        // Isolated, a name that turns the writing's direction leaves the rest as it is.
+        text: qsTranslate("Wayloom", "Deleted “%1”").arg("\u2068" + bar.deletedName + "\u2069")
         color: FlatPalette.clouds
         font.pixelSize: FlatPalette.bodySize
         elide: Text.ElideRight
         maximumLineCount: 1
+        clip: true
         textFormat: Text.PlainText
     }
     FlatButton {

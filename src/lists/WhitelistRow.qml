@@ -47,6 +47,8 @@ T.AbstractButton {
             elide: Text.ElideRight
             maximumLineCount: 1
             textFormat: Text.PlainText
+            // Marks piled on a letter reach into other rows.
+            clip: true
         }
         Image {
             id: checkmark

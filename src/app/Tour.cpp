@@ -39,7 +39,8 @@ bool Tour::run() {
     return false;
   }
   const bool walked = start() && pinPlace() && saveFavorite() && seeFavorites() &&
-                      changeToRoute() && planDrive() && chooseTimes() && drive();
+                      seeInformation() && changeToRoute() && planDrive() && chooseTimes() &&
+                      drive();
   if (!walked) return false;
   for (const SettingsFile name : {SettingsFile::Master, SettingsFile::Location,
                                   SettingsFile::Favorites, SettingsFile::Route}) {
@@ -91,6 +92,16 @@ bool Tour::seeFavorites() {
          mWindow.savePicture("favourites-edit") && mWindow.click("editButton") &&
          mWindow.clickRow(0) && mWindow.waitForScreen("mainMapView") &&
          mWindow.waitForMap("mainMapView") && mWindow.savePicture("chosen");
+}
+
+bool Tour::seeInformation() {
+  if (!mWindow.click("btn_info") || !mWindow.waitForScreen("InfoViewController")) return false;
+  if (!mWindow.savePicture("information") || !mWindow.click("wihteListButton")) return false;
+  if (!mWindow.waitForScreen("mainTableView") || !mWindow.savePicture("whitelist")) return false;
+  mWindow.press(Qt::Key_Escape);
+  if (!mWindow.waitForScreen("InfoViewController")) return false;
+  mWindow.press(Qt::Key_Escape);
+  return mWindow.waitForScreen("mainMapView");
 }
 
 bool Tour::changeToRoute() {

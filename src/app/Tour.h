@@ -20,6 +20,7 @@ class Tour {
   bool pinPlace();
   bool saveFavorite();
   bool seeFavorites();
+  bool seeInformation();
   bool changeToRoute();
   bool planDrive();
   bool choosePlace(const char* label, const QString& address, const char* picture);

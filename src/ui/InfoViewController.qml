@@ -8,6 +8,7 @@ FocusScope {
 
     required property Screens.InfoViewController controller
 
+    objectName: "InfoViewController"
     focus: true
 
     component LargeButton: FlatButton {

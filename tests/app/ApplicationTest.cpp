@@ -1,0 +1,149 @@
+#include <QtCore/QSettings>
+#include <QtTest/QTest>
+
+#include "app/AppDelegate.h"
+#include "app/WindowDriver.h"
+#include "settings/ModeSwitch.h"
+#include "tests/support/TemporaryRoot.h"
+
+namespace wayloom {
+namespace {
+
+using Texts = std::map<std::string, std::string>;
+using Dictionary = PropertyList::Dictionary;
+
+void collect(const QQuickItem* item, const QString& name, QList<const QQuickItem*>& found) {
+  if (item->objectName() == name) found.append(item);
+  for (const QQuickItem* child : item->childItems()) collect(child, name, found);
+}
+
+/// The joined application: its window, all of its screens, and real files.
+class ApplicationTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
+                       QString::fromStdString(root.path().string()));
+  }
+
+  void start() {
+    services.emplace(AppServices::Options{
+        .root = root.path(), .regions = root.path() / "regions", .configuredPositionOnly = true});
+    application.emplace(*services);
+    ASSERT_TRUE(application->didFinishLaunching());
+    window.emplace(application->window(), QString());
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&application->window()));
+  }
+  void stop() {
+    window.reset();
+    application.reset();
+    services.reset();
+  }
+  bool isIn(const char* map) const { return window->isShown(map); }
+  std::string mode() const { return textsIn(files, SettingsFile::Master)["mode"]; }
+
+  TemporaryRoot root;
+  SettingsFiles files{root.path()};
+  std::optional<AppServices> services;
+  std::optional<AppDelegate> application;
+  std::optional<WindowDriver> window;
+};
+
+TEST_F(ApplicationTest, TheMasterFileNamesTheScreenOfTheStart) {
+  const struct {
+    std::optional<PropertyList> mode;
+    bool isFixed;
+  } cases[] = {{std::nullopt, false}, {"0", false}, {"1", true}, {"x", false},
+               {"-2", true},          {7, true},    {true, true}};
+  int number = 0;
+  for (const auto& test : cases) {
+    if (test.mode) {
+      ASSERT_TRUE(files.save(SettingsFile::Master, Dictionary{{"mode", *test.mode}}));
+    }
+    start();
+    EXPECT_EQ(isIn("mainMapView"), test.isFixed) << "case " << number;
+    EXPECT_EQ(isIn("mv_main"), !test.isFixed) << "case " << number++;
+    stop();
+  }
+}
+
+TEST_F(ApplicationTest, TheModeButtonsSwapScreensThatKeepTheirState) {
+  start();
+  ASSERT_TRUE(isIn("mv_main"));
+  ASSERT_TRUE(window->click("btn_upDown"));
+  ASSERT_TRUE(window->click("btn_exchange"));
+  EXPECT_EQ(mode(), "1");
+  ASSERT_TRUE(isIn("mainMapView"));
+  ASSERT_TRUE(window->click("searchField"));
+  window->type("half an addr");
+
+  ASSERT_TRUE(window->click("btn_exchange"));
+  EXPECT_EQ(mode(), "0");
+  ASSERT_TRUE(isIn("mv_main"));
+  EXPECT_LT(window->find("v_top")->property("restingY").toReal(), 0) << "still collapsed";
+  ASSERT_TRUE(window->click("btn_exchange"));
+  EXPECT_EQ(window->find("searchField")->property("text"), "half an addr");
+}
+
+TEST_F(ApplicationTest, ComingToTheFrontRefreshesTheScreenOfTheModeOnly) {
+  ASSERT_TRUE(files.writeMasterMode(Mode::FixedLocation));
+  start();
+  ASSERT_TRUE(window->click("btn_exchange"));
+  ASSERT_TRUE(window->click("btn_exchange"));
+  ASSERT_TRUE(files.save(SettingsFile::Route, Dictionary{{"enable", "1"}}));
+  ASSERT_TRUE(files.saveLocationSettings(Dictionary{{"enable", "1"}}));
+  application->didBecomeActive();
+
+  QList<const QQuickItem*> switches;
+  collect(application->window().rootObject(), "enableSwitch", switches);
+  ASSERT_EQ(switches.size(), 2);
+  for (const QQuickItem* item : switches) {
+    EXPECT_EQ(item->property("checked").toBool(), item->isVisible());
+  }
+  EXPECT_TRUE(window->find("enableSwitch")->property("checked").toBool());
+}
+
+TEST_F(ApplicationTest, OnlyOneSimulationIsOnAtATime) {
+  ASSERT_TRUE(files.writeMasterMode(Mode::FixedLocation));
+  ASSERT_TRUE(files.saveLocationSettings(
+      Dictionary{{"enable", "0"}, {"latitude", "57.7"}, {"longitude", "11.9"}}));
+  start();
+  ASSERT_TRUE(window->click("enableSwitch"));
+  ASSERT_TRUE(window->click("btn_exchange"));
+  EXPECT_EQ(window->find("alertMessage")->property("text"), kSpotloomIsWorking);
+  ASSERT_TRUE(window->click("alertButton"));
+  EXPECT_TRUE(isIn("mainMapView"));
+  EXPECT_EQ(mode(), "1");
+  EXPECT_EQ(textsIn(files, SettingsFile::Location)["enable"], "1");
+
+  ASSERT_TRUE(window->click("enableSwitch"));
+  ASSERT_TRUE(window->click("btn_exchange"));
+  EXPECT_TRUE(isIn("mv_main"));
+  EXPECT_EQ(textsIn(files, SettingsFile::Location)["enable"], "0");
+  EXPECT_EQ(mode(), "0");
+}
+
+TEST_F(ApplicationTest, ModalScreensLieOverOneAnotherAndLeaveByKey) {
+  start();
+  ASSERT_TRUE(window->click("btn_info"));
+  ASSERT_TRUE(window->waitForScreen("InfoViewController"));
+  EXPECT_FALSE(isIn("mv_main"));
+  ASSERT_TRUE(window->click("wihteListButton"));
+  ASSERT_TRUE(window->waitForScreen("mainTableView"));
+  window->press(Qt::Key_Escape);
+  ASSERT_TRUE(window->waitUntil("the information", [&] { return !isIn("mainTableView"); }));
+  window->press(Qt::Key_Escape);
+  ASSERT_TRUE(window->waitUntil(
+      "the route screen", [&] { return isIn("mv_main") && window->find("mv_main")->isEnabled(); }));
+
+  ASSERT_TRUE(files.save(SettingsFile::Route, Dictionary{{"enable", "0"}}));
+  ASSERT_TRUE(window->click("lb_start"));
+  ASSERT_TRUE(window->waitForScreen("buttonBar"));
+  ASSERT_TRUE(files.save(SettingsFile::Route, Dictionary{{"enable", "1"}}));
+  ASSERT_TRUE(window->click("btn_cancel"));
+  EXPECT_TRUE(window->waitUntil("the switch", [&] {
+    return window->find("enableSwitch")->property("checked").toBool();
+  })) << "the screen below appears again, and reads its file";
+}
+
+}  // namespace
+}  // namespace wayloom

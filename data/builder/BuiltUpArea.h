@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "MapGeometry.h"
+#include "drawing/MapGeometry.h"
 
 namespace wayloom {
 

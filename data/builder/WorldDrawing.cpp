@@ -7,9 +7,9 @@
 
 #include "CityList.h"
 #include "GeoJson.h"
-#include "PlaceLabels.h"
 #include "ReadFile.h"
 #include "WorldOutlines.h"
+#include "drawing/PlaceLabels.h"
 #include "regions/DrawingTable.h"
 #include "ui/WebMercator.h"
 

@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <vector>
 
-#include "PlaceLabels.h"
+#include "drawing/PlaceLabels.h"
 #include "regions/Database.h"
 
 namespace wayloom {

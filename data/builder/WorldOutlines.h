@@ -2,8 +2,8 @@
 
 #include <vector>
 
-#include "MapGeometry.h"
 #include "TopoJson.h"
+#include "drawing/MapGeometry.h"
 
 namespace wayloom {
 

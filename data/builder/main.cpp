@@ -6,9 +6,10 @@
 
 #include "GothenburgPlaces.h"
 #include "GothenburgRoads.h"
-#include "StreetDrawing.h"
+#include "GothenburgStreets.h"
 #include "WorldDrawing.h"
 #include "WorldPlaces.h"
+#include "drawing/StreetDrawing.h"
 #include "regions/RegionWriter.h"
 
 namespace {
@@ -49,6 +50,7 @@ Status buildGothenburg(const path& packages, const Labels& labels, const path& t
                kOpenStreetMap,
                {southWest.longitude, southWest.latitude, northEast.longitude, northEast.latitude}});
   if (!writer) return writer.failure();
+  if (auto status = addBuiltUpArea(writer->database(), *streets); !status) return status;
   if (auto status = addStreetDrawing(writer->database(), *streets, labels); !status) return status;
   if (auto status = addGothenburgPlaces(writer->database(), packages); !status) return status;
   if (auto status = addGothenburgRoads(writer->database(), packages); !status) return status;

@@ -47,6 +47,9 @@ class CommandLine {
   Geocoder& geocoder();
   Directions& directions();
   RunLoop& loop() { return mLoop; }
+  /// The installed regions; warns of those that cannot be used when asked for the first time.
+  const RegionStore& regions();
+  const Options& options() const { return mOptions; }
 
   /// Prints the answer on standard output.
   ExitStatus answer(const Answer& answer) const;
@@ -60,8 +63,6 @@ class CommandLine {
 
  private:
   std::unique_ptr<Geocoder> makeOnlineGeocoder();
-  /// The installed regions; warns of those that cannot be used when asked for the first time.
-  const RegionStore& regions();
 
   Options mOptions;
   SettingsFiles mFiles;

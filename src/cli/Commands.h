@@ -58,4 +58,10 @@ ExitStatus turnRouteOn(CommandLine& line, const Drive& drive);
 ExitStatus turnRouteOff(CommandLine& line);
 ExitStatus showRoutePosition(CommandLine& line, const std::string& time);
 
+ExitStatus listRegions(CommandLine& line);
+/// Named after the file when no name is given.
+ExitStatus importRegionFile(CommandLine& line, const std::string& file,
+                            const std::optional<std::string>& name);
+ExitStatus removeRegion(CommandLine& line, const std::string& name);
+
 }  // namespace wayloom

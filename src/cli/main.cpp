@@ -189,6 +189,30 @@ void addRouteCommands(CLI::App& app, Typed& typed) {
   });
 }
 
+void addRegionCommands(CLI::App& app, Typed& typed) {
+  auto* region =
+      app.add_subcommand("region", "Maps, places and roads on this machine")->require_subcommand(1);
+  region->add_subcommand("list", "Show the region files in use")->callback([&typed] {
+    typed.command = wayloom::listRegions;
+  });
+  auto* import = region->add_subcommand("import", "Make an OpenStreetMap extract into a region");
+  import->add_option("FILE", typed.text, "A file in .osm.pbf, .osm, .osm.gz or .osm.bz2")
+      ->required();
+  auto* name = import->add_option("--name", typed.name, "Its name; the file's when not given");
+  import->callback([&typed, name] {
+    typed.command = [&typed, isGiven = name->count() > 0](CommandLine& line) {
+      return wayloom::importRegionFile(line, typed.text,
+                                       isGiven ? std::optional(typed.name) : std::nullopt);
+};
+}  // namespace
+);
+auto* remove = region->add_subcommand("remove", "Delete an imported region");
+remove->add_option("NAME", typed.name)->required();
+remove->callback([&typed] {
+  typed.command = [&typed](CommandLine& line) { return wayloom::removeRegion(line, typed.name); };
+});
+}
+
 /// A southern latitude must not be taken for an option: "-33.9,151.2" becomes "#:-33.9,151.2".
 std::vector<std::string> arguments(int argc, char* argv[]) {
   std::vector<std::string> result(argv + 1, argv + argc);
@@ -220,6 +244,7 @@ int run(int argc, char* argv[]) {
   addApplicationCommands(app, typed);
   addPlaceCommands(app, typed);
   addRouteCommands(app, typed);
+  addRegionCommands(app, typed);
   try {
     app.parse(arguments(argc, argv));
   } catch (const CLI::Success& success) {

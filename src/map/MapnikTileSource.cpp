@@ -24,7 +24,7 @@
 #include <QtCore/QSet>
 #include <QtCore/QStandardPaths>
 
-#include "map/RegionTables.h"
+#include "map/LazyTables.h"
 #include "ui/WebMercator.h"
 
 namespace wayloom {
@@ -34,6 +34,9 @@ namespace {
 constexpr int kTilePixels = 512;
 constexpr int kMaximumZoom = 18;
 constexpr double kLargestScale = 4;
+
+// From this zoom on, a region made from a detailed extract shows more than one of the whole world.
+constexpr int kFirstFineZoom = 9;
 
 // Wide enough for the longest label whose middle lies in the neighbouring tile.
 constexpr int kBufferPixels = 200;
@@ -45,27 +48,6 @@ MapBox boxOf(const RegionBounds& bounds) {
   const double margin = (northEast.x - southWest.x) / 4;
   return {southWest.x - margin, southWest.y - margin, northEast.x + margin, northEast.y + margin};
 }
-
-/// One region's tables, opened when a tile first needs them. Shared by the layers of one drawer.
-class LazyTables {
- public:
-  explicit LazyTables(const Region& region) : mRegion(region) {}
-
-  const RegionBounds& bounds() const { return mRegion.info.bounds; }
-
-  RegionTables* tables() {
-    if (!mWasOpened) {
-      mWasOpened = true;
-      if (auto database = openRegion(mRegion.path)) mTables.emplace(std::move(*database));
-    }
-    return mTables ? &*mTables : nullptr;
-  }
-
- private:
-  const Region& mRegion;
-  bool mWasOpened = false;
-  std::optional<RegionTables> mTables;
-};
 
 template <typename Path>
 Path pathOf(const MapPath& points) {
@@ -126,12 +108,16 @@ class RowFeatures final : public mapnik::Featureset {
   std::size_t mNext = 0;
 };
 
-/// One layer of one region as Mapnik sees it.
+using SharedTables = std::vector<std::shared_ptr<LazyTables>>;
+
+/// One layer of one region as Mapnik sees it. Where a smaller region draws the same ground, its
+/// lines are the better ones, and the coarse ones beside them would mislead.
 class RegionLayer final : public mapnik::datasource {
  public:
-  RegionLayer(std::shared_ptr<LazyTables> tables, std::string layer)
+  RegionLayer(std::shared_ptr<LazyTables> tables, SharedTables smaller, std::string layer)
       : mapnik::datasource(mapnik::parameters()),
         mTables(std::move(tables)),
+        mSmaller(std::move(smaller)),
         mLayer(std::move(layer)) {}
 
   datasource_t type() const override { return Vector; }
@@ -152,12 +138,26 @@ class RegionLayer final : public mapnik::datasource {
     const auto* const columns = tables ? tables->columns(mLayer, zoom) : nullptr;
     if (!columns) return mapnik::make_invalid_featureset();
     const auto& box = query.get_bbox();
+    if (isDrawnBySmaller(box, zoom)) return mapnik::make_invalid_featureset();
     return std::make_shared<RowFeatures>(
         *columns, tables->rows(mLayer, zoom, {box.minx(), box.miny(), box.maxx(), box.maxy()}));
   }
 
  private:
+  bool isDrawnBySmaller(const mapnik::box2d<double>& box, int zoom) const {
+    const bool hasCoarseForm = mLayer == "border" || mLayer == "river" || mLayer == "water";
+    if (!hasCoarseForm || zoom < kFirstFineZoom) return false;
+    return std::any_of(mSmaller.begin(), mSmaller.end(), [&](const auto& region) {
+      const auto& [west, south, east, north] = region->bounds();
+      const MapPoint southWest = mapPoint({south, west});
+      const MapPoint northEast = mapPoint({north, east});
+      const mapnik::box2d<double> all(southWest.x, southWest.y, northEast.x, northEast.y);
+      return all.contains(box) && region->tables() && region->tables()->columns(mLayer, zoom);
+    });
+  }
+
   std::shared_ptr<LazyTables> mTables;
+  SharedTables mSmaller;
   std::string mLayer;
 };
 
@@ -188,12 +188,18 @@ class MapnikTileSource::Drawer {
     mapnik::load_map_string(mMap, readStyle());
     const std::vector<mapnik::layer> styled = mMap.layers();
     while (mMap.layer_count() > 0) mMap.remove_layer(mMap.layer_count() - 1);
-    std::vector<std::shared_ptr<LazyTables>> tables;
+    SharedTables tables;
     for (const Region& region : regions) tables.push_back(std::make_shared<LazyTables>(region));
+    const auto size = [](const RegionBounds& b) { return (b.east - b.west) * (b.north - b.south); };
     for (const mapnik::layer& layer : styled) {
       for (const auto& region : tables) {
         mapnik::layer copy = layer;
-        copy.set_datasource(std::make_shared<RegionLayer>(region, layer.name()));
+        SharedTables smaller;
+        std::copy_if(
+            tables.begin(), tables.end(), std::back_inserter(smaller),
+            [&](const auto& other) { return size(other->bounds()) < size(region->bounds()); });
+        copy.set_datasource(
+            std::make_shared<RegionLayer>(region, std::move(smaller), layer.name()));
         mMap.add_layer(std::move(copy));
       }
     }

@@ -4,14 +4,13 @@
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <initializer_list>
 #include <string_view>
+
+#include "regions/CarAccess.h"
 
 namespace wayloom {
 
 namespace {
-
-using Tags = std::map<std::string, std::string>;
 
 struct RoadClass {
   std::string_view name;
@@ -40,42 +39,17 @@ constexpr std::array<RoadClass, 15> kClasses = {{
 constexpr double kSlowestKmPerHour = 5;
 constexpr double kFastestKmPerHour = 140;
 constexpr std::uint8_t kYardKmPerHour = 10;
+// With the wait for it, a crossing is slow.
+constexpr std::uint8_t kFerryKmPerHour = 15;
 constexpr double kKmPerMile = 1.609344;
-
-std::string_view tag(const Tags& tags, const std::string& name) {
-  const auto found = tags.find(name);
-  return found == tags.end() ? std::string_view() : std::string_view(found->second);
-}
-
-bool isOneOf(std::string_view value, std::initializer_list<std::string_view> values) {
-  return std::find(values.begin(), values.end(), value) != values.end();
-}
-
-enum class Access { kFree, kDestinationOnly, kNone };
-
-Access accessOf(const Tags& tags) {
-  // The most precise tag decides.
-  for (const char* name : {"motorcar", "motor_vehicle", "vehicle", "access"}) {
-    const std::string_view value = tag(tags, name);
-    if (value.empty()) continue;
-    if (isOneOf(value, {"yes", "designated", "permissive", "official", "public", "unknown"})) {
-      return Access::kFree;
-    }
-    if (isOneOf(value, {"destination", "customers", "delivery", "residents"})) {
-      return Access::kDestinationOnly;
-    }
-    return Access::kNone;
-  }
-  return isOneOf(tag(tags, "service"), {"bus", "busway"}) ? Access::kNone : Access::kFree;
-}
 
 // Whether the way may be driven in either direction is kept in `use`; false when that changes with
 // the hour.
-bool readDirections(const Tags& tags, RoadUse& use) {
-  const std::string_view oneway = tag(tags, "oneway");
+bool readDirections(const OsmTags& tags, RoadUse& use) {
+  const std::string_view oneway = tagOf(tags, "oneway");
   if (isOneOf(oneway, {"reversible", "alternating"})) return false;
-  const bool isImplied = isOneOf(tag(tags, "highway"), {"motorway", "motorway_link"}) ||
-                         isOneOf(tag(tags, "junction"), {"roundabout", "circular"});
+  const bool isImplied = isOneOf(tagOf(tags, "highway"), {"motorway", "motorway_link"}) ||
+                         isOneOf(tagOf(tags, "junction"), {"roundabout", "circular"});
   const bool isTwoWay = isOneOf(oneway, {"no", "false", "0"});
   if (isOneOf(oneway, {"-1", "reverse"})) {
     use.forward = false;
@@ -99,20 +73,71 @@ std::optional<std::uint8_t> postedKmPerHour(std::string_view text) {
       std::lround(std::clamp(limit, kSlowestKmPerHour, kFastestKmPerHour)));
 }
 
+// A duration as "45" (minutes), "1:30", "00:20:30" or "PT1H30M"; nothing for other forms.
+std::optional<double> secondsOf(std::string_view text) {
+  double seconds = 0;
+  if (text.starts_with("PT")) {
+    for (text.remove_prefix(2); !text.empty();) {
+      unsigned count = 0;
+      const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), count);
+      const auto digits = static_cast<std::size_t>(end - text.data());
+      if (error != std::errc() || digits == text.size()) return std::nullopt;
+      const auto unit = std::string_view("HMS").find(text[digits]);
+      if (unit == std::string_view::npos) return std::nullopt;
+      seconds += count * std::array{3600.0, 60.0, 1.0}[unit];
+      text.remove_prefix(digits + 1);
+    }
+  } else {
+    int parts = 0;
+    for (bool more = true; more; ++parts) {
+      unsigned count = 0;
+      const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), count);
+      if (error != std::errc() || parts == 3) return std::nullopt;
+      text.remove_prefix(static_cast<std::size_t>(end - text.data()));
+      more = text.starts_with(':');
+      if (more) text.remove_prefix(1);
+      seconds = seconds * 60 + count;
+    }
+    if (!text.empty()) return std::nullopt;
+    if (parts < 3) seconds *= 60;
+  }
+  return seconds > 0 ? std::optional(seconds) : std::nullopt;
+}
+
 }  // namespace
 
-std::optional<RoadUse> carUse(const Tags& tags) {
+std::optional<RoadUse> carUse(const OsmTags& tags) {
   const auto* const found =
       std::find_if(kClasses.begin(), kClasses.end(),
-                   [&](const RoadClass& each) { return each.name == tag(tags, "highway"); });
-  if (found == kClasses.end() || tag(tags, "area") == "yes") return std::nullopt;
-  const Access access = accessOf(tags);
+                   [&](const RoadClass& each) { return each.name == tagOf(tags, "highway"); });
+  if (found == kClasses.end() || tagOf(tags, "area") == "yes") return std::nullopt;
+  const CarAccess access = carAccess(tags).value_or(
+      isOneOf(tagOf(tags, "service"), {"bus", "busway"}) ? CarAccess::kNone : CarAccess::kFree);
   RoadUse use;
-  if (access == Access::kNone || !readDirections(tags, use)) return std::nullopt;
-  use.destinationOnly = access == Access::kDestinationOnly;
-  const bool isYard = isOneOf(tag(tags, "service"), {"parking_aisle", "driveway", "drive-through"});
+  if (access == CarAccess::kNone || !readDirections(tags, use)) return std::nullopt;
+  use.destinationOnly = access == CarAccess::kDestinationOnly;
+  const bool isYard =
+      isOneOf(tagOf(tags, "service"), {"parking_aisle", "driveway", "drive-through"});
   const std::uint8_t usual = isYard ? kYardKmPerHour : found->kmPerHour;
-  use.kmPerHour = postedKmPerHour(tag(tags, "maxspeed")).value_or(usual);
+  use.kmPerHour = postedKmPerHour(tagOf(tags, "maxspeed")).value_or(usual);
+  return use;
+}
+
+std::optional<RoadUse> ferryUse(const OsmTags& tags, double metres) {
+  if (tagOf(tags, "route") != "ferry") return std::nullopt;
+  // One that names its passengers but no cars takes none.
+  const bool isForWalkers = tags.contains("foot") || tags.contains("bicycle");
+  const CarAccess access =
+      carAccess(tags).value_or(isForWalkers ? CarAccess::kNone : CarAccess::kFree);
+  RoadUse use;
+  if (access == CarAccess::kNone || !readDirections(tags, use)) return std::nullopt;
+  use.destinationOnly = access == CarAccess::kDestinationOnly;
+  use.isFerry = true;
+  use.kmPerHour = kFerryKmPerHour;
+  if (const auto seconds = secondsOf(tagOf(tags, "duration"))) {
+    use.kmPerHour = static_cast<std::uint8_t>(
+        std::lround(std::clamp(metres / *seconds * 3.6, 1.0, kFastestKmPerHour)));
+  }
   return use;
 }
 

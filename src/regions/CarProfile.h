@@ -1,9 +1,9 @@
 #pragma once
 
 #include <cstdint>
-#include <map>
 #include <optional>
-#include <string>
+
+#include "regions/OsmTags.h"
 
 namespace wayloom {
 
@@ -14,12 +14,17 @@ struct RoadUse {
   /// Only for who starts or ends there, not for going through.
   bool destinationOnly = false;
   std::uint8_t kmPerHour = 50;
+  /// Over water: nobody gets on or off on the way.
+  bool isFerry = false;
 
   bool operator==(const RoadUse&) const = default;
 };
 
 /// What the tags of an OpenStreetMap way say about driving there; nothing for ways that cars may
 /// not use.
-std::optional<RoadUse> carUse(const std::map<std::string, std::string>& tags);
+std::optional<RoadUse> carUse(const OsmTags& tags);
+
+/// The same for a ferry whose line has this length; nothing for one that takes no cars.
+std::optional<RoadUse> ferryUse(const OsmTags& tags, double metres);
 
 }  // namespace wayloom

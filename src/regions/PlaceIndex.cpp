@@ -131,6 +131,11 @@ double PlaceIndex::score(const PlaceRow& row, bool isNamed, const Question& ques
 std::optional<Place> PlaceIndex::placeAt(Coordinate position) {
   if (!isPosition(position)) return std::nullopt;
   if (auto street = streetAt(position)) return street;
+  return areaAt(position);
+}
+
+std::optional<Place> PlaceIndex::areaAt(Coordinate position) {
+  if (!isPosition(position)) return std::nullopt;
   auto country = countryAt(position);
   for (const double radius : {kAroundMetres, kFarMetres}) {
     if (auto settlement = settlementAt(position, radius, country)) return settlement;

@@ -29,6 +29,8 @@ class PlaceIndex {
   /// belongs to or is nearest to, else the country. Nothing far out at sea. The coordinate of the
   /// answer is that of what was found.
   std::optional<Place> placeAt(Coordinate position);
+  /// The same without houses and streets.
+  std::optional<Place> areaAt(Coordinate position);
 
  private:
   struct Candidate {

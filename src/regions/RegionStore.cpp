@@ -61,6 +61,12 @@ RegionStore::RegionStore(const std::vector<std::filesystem::path>& directories) 
   }
 }
 
+RegionStore RegionStore::without(const std::filesystem::path& path) const {
+  RegionStore rest = *this;
+  std::erase_if(rest.mRegions, [&](const Region& region) { return region.path == path; });
+  return rest;
+}
+
 Result<Database> openRegion(const std::filesystem::path& path) {
   std::error_code error;
   // Opening a pipe would wait for ever.

@@ -34,6 +34,9 @@ class RegionStore {
   const std::vector<Region>& regions() const { return mRegions; }
   const std::vector<RefusedRegion>& refused() const { return mRefused; }
 
+  /// The store as it would be if there were no such file.
+  RegionStore without(const std::filesystem::path& path) const;
+
  private:
   std::vector<Region> mRegions;
   std::vector<RefusedRegion> mRefused;

@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <string>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
@@ -34,20 +35,45 @@ std::string plainNumber(double value) {
   return {buffer.data(), end};
 }
 
-// An empty file of an unpredictable name that the store does not take for a region.
-Result<std::filesystem::path> makeTemporary(const std::filesystem::path& target) {
-  std::string pattern = target.string() + ".XXXXXX";
-  const int descriptor = ::mkostemp(pattern.data(), O_CLOEXEC);
-  if (descriptor < 0) return systemFailure("cannot create", target);
-  ::fchmod(descriptor, S_IRUSR | S_IWUSR | S_IRGRP | S_IROTH);
-  ::close(descriptor);
-  return std::filesystem::path(pattern);
+constexpr std::string_view kPattern = ".XXXXXX";
+
+// Whether a path is one that makeTemporary() gives.
+bool isTemporary(const std::filesystem::path& path) {
+  return path.extension().string().size() == kPattern.size() &&
+         path.stem().extension() == kRegionExtension;
+}
+
+// Removes what writers left that were killed: files that no writer holds a lock on.
+void removeLeftovers(const std::filesystem::path& folder) {
+  std::error_code error;
+  for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
+       entry.increment(error)) {
+    if (!isTemporary(entry->path())) continue;
+    const Descriptor file(::open(entry->path().c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC));
+    if (file.get() >= 0 && ::flock(file.get(), LOCK_EX | LOCK_NB) == 0) {
+      ::unlink(entry->path().c_str());
+    }
+  }
+}
+
+std::filesystem::path folderOf(const std::filesystem::path& target) {
+  return target.has_parent_path() ? target.parent_path() : ".";
 }
 
 }  // namespace
 
-RegionWriter::RegionWriter(std::filesystem::path target, std::filesystem::path temporary,
-                           Database database)
+// An empty file of an unpredictable name that the store does not take for a region.
+Result<RegionWriter::Temporary> RegionWriter::makeTemporary(const std::filesystem::path& target) {
+  removeLeftovers(folderOf(target));
+  std::string pattern = target.string().append(kPattern);
+  auto lock = std::make_unique<Descriptor>(::mkostemp(pattern.data(), O_CLOEXEC));
+  if (lock->get() < 0) return systemFailure("cannot create", target);
+  ::flock(lock->get(), LOCK_EX);
+  ::fchmod(lock->get(), S_IRUSR | S_IWUSR | S_IRGRP | S_IROTH);
+  return Temporary{pattern, std::move(lock)};
+}
+
+RegionWriter::RegionWriter(std::filesystem::path target, Temporary temporary, Database database)
     : mTarget(std::move(target)),
       mTemporary(std::move(temporary)),
       mDatabase(std::move(database)) {}
@@ -58,7 +84,7 @@ RegionWriter::RegionWriter(RegionWriter&& other) noexcept
       mDatabase(std::move(other.mDatabase)) {}
 
 RegionWriter::~RegionWriter() {
-  if (!mTemporary.empty()) ::unlink(mTemporary.c_str());
+  if (!mTemporary.path.empty()) ::unlink(mTemporary.path.c_str());
 }
 
 Result<RegionWriter> RegionWriter::create(const std::filesystem::path& target,
@@ -71,9 +97,9 @@ Result<RegionWriter> RegionWriter::create(const std::filesystem::path& target,
   }
   auto temporary = makeTemporary(target);
   if (!temporary) return temporary.failure();
-  auto database = Database::openForBuilding(*temporary);
+  auto database = Database::openForBuilding(temporary->path);
   if (!database) {
-    ::unlink(temporary->c_str());
+    ::unlink(temporary->path.c_str());
     return Failure{"cannot write " + target.string() + ": " + database.failure().message};
   }
   RegionWriter writer(target, std::move(*temporary), std::move(*database));
@@ -108,13 +134,13 @@ Status RegionWriter::commit() {
   // The tables' statistics spare every reader a bad plan.
   if (auto status = mDatabase.execute("ANALYZE; COMMIT"); !status) return status;
   if (auto status = mDatabase.close(); !status) return status;
-  if (!syncPath(mTemporary, O_RDWR)) return systemFailure("cannot write", mTarget);
-  if (::rename(mTemporary.c_str(), mTarget.c_str()) != 0) {
+  if (!syncPath(mTemporary.path, O_RDWR)) return systemFailure("cannot write", mTarget);
+  if (::rename(mTemporary.path.c_str(), mTarget.c_str()) != 0) {
     return systemFailure("cannot replace", mTarget);
   }
-  mTemporary.clear();
-  const auto folder = mTarget.has_parent_path() ? mTarget.parent_path() : ".";
-  if (!syncPath(folder, O_RDONLY | O_DIRECTORY)) return systemFailure("cannot write", mTarget);
+  mTemporary.path.clear();
+  if (!syncPath(folderOf(mTarget), O_RDONLY | O_DIRECTORY))
+    return systemFailure("cannot write", mTarget);
   return done();
 }
 

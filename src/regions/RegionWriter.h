@@ -1,16 +1,19 @@
 #pragma once
 
 #include <filesystem>
+#include <memory>
 
 #include "regions/Database.h"
 #include "regions/RegionFile.h"
+#include "settings/Descriptor.h"
 #include "settings/Result.h"
 
 namespace wayloom {
 
 /// Makes one region file. It grows beside its target under another name and takes the target's
-/// place, complete, in commit(); a writer destroyed before that leaves nothing behind. Owned by
-/// whoever builds the region; one thread at a time.
+/// place, complete, in commit(); a writer destroyed before that leaves nothing behind, and what one
+/// left that was killed goes when the next is made. Owned by whoever builds the region; one thread
+/// at a time.
 class RegionWriter {
  public:
   static Result<RegionWriter> create(const std::filesystem::path& target, const RegionInfo& info);
@@ -27,12 +30,19 @@ class RegionWriter {
   Status commit();
 
  private:
-  RegionWriter(std::filesystem::path target, std::filesystem::path temporary, Database database);
+  struct Temporary {
+    std::filesystem::path path;
+    /// Holds a lock that says that the file is being written.
+    std::unique_ptr<Descriptor> lock;
+  };
+
+  static Result<Temporary> makeTemporary(const std::filesystem::path& target);
+  RegionWriter(std::filesystem::path target, Temporary temporary, Database database);
   Status writeHead(const RegionInfo& info);
 
   std::filesystem::path mTarget;
-  /// Empty once the file is no longer ours to remove.
-  std::filesystem::path mTemporary;
+  /// Its path is empty once the file is no longer ours to remove.
+  Temporary mTemporary;
   Database mDatabase;
 };
 

@@ -2,7 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 #include <numbers>
+#include <numeric>
+#include <set>
 #include <utility>
 
 namespace wayloom {
@@ -68,24 +71,82 @@ void RoadGraph::measure() {
 }
 
 void RoadGraph::findArcs() {
-  mArcs.first.assign(junctionCount() + 1, 0);
-  for (const RoadEdge& edge : edges()) {
-    if (edge.use.forward) ++mArcs.first[edge.from + 1];
-    if (edge.use.backward) ++mArcs.first[edge.to + 1];
-  }
-  for (std::size_t junction = 0; junction < junctionCount(); ++junction) {
-    mArcs.first[junction + 1] += mArcs.first[junction];
-  }
-  mArcs.all.resize(mArcs.first.back());
-  std::vector<std::uint32_t> next(mArcs.first);
+  std::vector<RoadArc> arcs;
+  std::vector<std::uint32_t> sources;
+  arcs.reserve(2 * edges().size());
+  sources.reserve(2 * edges().size());
   for (std::uint32_t number = 0; number < edges().size(); ++number) {
     const RoadEdge& edge = edges()[number];
     const auto taken = static_cast<float>(seconds(number));
     const bool residents = edge.use.destinationOnly;
-    if (edge.use.forward) mArcs.all[next[edge.from]++] = {edge.to, number, taken, true, residents};
-    if (edge.use.backward)
-      mArcs.all[next[edge.to]++] = {edge.from, number, taken, false, residents};
+    if (edge.use.forward) {
+      arcs.push_back({edge.to, number, taken, true, residents});
+      sources.push_back(edge.from);
+    }
+    if (edge.use.backward) {
+      arcs.push_back({edge.from, number, taken, false, residents});
+      sources.push_back(edge.to);
+    }
   }
+  mJunctionOf.resize(junctionCount());
+  std::iota(mJunctionOf.begin(), mJunctionOf.end(), 0U);
+  if (!mNetwork.turns.empty()) addTurnNodes(arcs, sources);
+
+  mArcs.first.assign(nodeCount() + 1, 0);
+  for (const std::uint32_t source : sources) ++mArcs.first[source + 1];
+  std::partial_sum(mArcs.first.begin(), mArcs.first.end(), mArcs.first.begin());
+  mArcs.all.resize(arcs.size());
+  std::vector<std::uint32_t> next(mArcs.first);
+  for (std::size_t arc = 0; arc < arcs.size(); ++arc) mArcs.all[next[sources[arc]]++] = arcs[arc];
+}
+
+void RoadGraph::addTurnNodes(std::vector<RoadArc>& arcs, std::vector<std::uint32_t>& sources) {
+  // By junction and the edge on which one comes.
+  std::map<std::pair<std::uint32_t, std::uint32_t>, std::set<std::uint32_t>> forbidden;
+  for (const ForbiddenTurn& turn : mNetwork.turns) {
+    forbidden[{turn.junction, turn.fromEdge}].insert(turn.toEdge);
+  }
+  std::map<std::pair<std::uint32_t, std::uint32_t>, std::uint32_t> nodes;
+  for (const auto& [coming, edges] : forbidden) {
+    const auto node = static_cast<std::uint32_t>(nodeCount());
+    nodes.emplace(coming, node);
+    mJunctionOf.push_back(coming.first);
+    mTurnNodes.push_back(node);
+    mSpace.push_back(SpacePoint(mSpace[coming.first]));
+  }
+  std::map<std::uint32_t, std::vector<std::size_t>> leaving;
+  for (const auto& [coming, edges] : forbidden) leaving[coming.first];
+  for (std::size_t arc = 0; arc < arcs.size(); ++arc) {
+    const auto found = leaving.find(sources[arc]);
+    if (found != leaving.end()) found->second.push_back(arc);
+    const auto node = nodes.find({arcs[arc].target, arcs[arc].edge});
+    if (node != nodes.end()) arcs[arc].target = node->second;
+  }
+  for (const auto& [coming, edges] : forbidden) {
+    for (const std::size_t arc : leaving[coming.first]) {
+      if (edges.contains(arcs[arc].edge)) continue;
+      arcs.push_back(RoadArc(arcs[arc]));
+      sources.push_back(nodes[coming]);
+    }
+  }
+}
+
+std::span<const std::uint32_t> RoadGraph::turnNodes(std::uint32_t junction) const {
+  const auto before = [this](std::uint32_t a, std::uint32_t b) {
+    return mJunctionOf[a] < mJunctionOf[b];
+  };
+  // A junction is its own node, so it can be compared with the others.
+  const auto [first, last] =
+      std::equal_range(mTurnNodes.begin(), mTurnNodes.end(), junction, before);
+  return {first, last};
+}
+
+const RoadArc* RoadGraph::arcOf(std::uint32_t edge, bool isForward) const {
+  const RoadEdge& road = edges()[edge];
+  for (const RoadArc& arc : arcs(isForward ? road.from : road.to)) {
+    if (arc.edge == edge && arc.isForward == isForward) return &arc;
+  }
+  return nullptr;
 }
 
 Line RoadGraph::line(std::uint32_t edge) const {
@@ -130,7 +191,7 @@ std::vector<RoadSpot> RoadGraph::spotsAround(Coordinate position, double radiusM
   for (const RegionBounds& bounds : boundsAround(position, radiusMetres)) {
     for (const std::uint32_t edge : mTree.edgesIn(bounds)) {
       const RoadUse& use = edges()[edge].use;
-      if (!use.forward && !use.backward) continue;
+      if ((!use.forward && !use.backward) || use.isFerry) continue;
       if (const auto spot = spotOn(edge, position, radiusMetres)) spots.push_back(*spot);
     }
   }
@@ -146,14 +207,34 @@ std::optional<std::uint32_t> RoadGraph::junctionAt(const RoadSpot& spot) const {
   return std::nullopt;
 }
 
-std::uint32_t RoadGraph::exitComponent(const RoadSpot& spot) const {
-  const RoadEdge& road = edges()[spot.edge];
-  return mComponents.of(junctionAt(spot).value_or(road.use.forward ? road.to : road.from));
-}
-
-std::uint32_t RoadGraph::entryComponent(const RoadSpot& spot) const {
-  const RoadEdge& road = edges()[spot.edge];
-  return mComponents.of(junctionAt(spot).value_or(road.use.forward ? road.from : road.to));
+RoadSpotPlace RoadGraph::placeOf(const RoadSpot& spot) const {
+  RoadSpotPlace place;
+  const auto enter = [&](std::uint32_t junction, std::optional<std::uint32_t> edge) {
+    const auto addNode = [&](std::uint32_t node) {
+      const auto leaving = arcs(node);
+      const bool isOpen = !edge || std::any_of(leaving.begin(), leaving.end(),
+                                               [&](const auto& arc) { return arc.edge == *edge; });
+      if (isOpen) place.entries.push_back(mComponents.of(node));
+    };
+    addNode(junction);
+    for (const std::uint32_t node : turnNodes(junction)) addNode(node);
+  };
+  if (const auto junction = junctionAt(spot)) {
+    place.exits.push_back(mComponents.of(*junction));
+    enter(*junction, std::nullopt);
+  } else {
+    for (const bool isForward : {true, false}) {
+      const RoadArc* arc = arcOf(spot.edge, isForward);
+      if (!arc) continue;
+      place.exits.push_back(mComponents.of(arc->target));
+      enter(isForward ? edges()[spot.edge].from : edges()[spot.edge].to, spot.edge);
+    }
+  }
+  for (auto* components : {&place.exits, &place.entries}) {
+    std::sort(components->begin(), components->end());
+    components->erase(std::unique(components->begin(), components->end()), components->end());
+  }
+  return place;
 }
 
 bool RoadGraph::leads(const RoadSpot& from, const RoadSpot& to) const {
@@ -162,14 +243,12 @@ bool RoadGraph::leads(const RoadSpot& from, const RoadSpot& to) const {
     if (use.forward && from.alongMetres <= to.alongMetres) return true;
     if (use.backward && from.alongMetres >= to.alongMetres) return true;
   }
-  return mComponents.leads(exitComponent(from), entryComponent(to));
-}
-
-bool RoadGraph::areAlike(const RoadSpot& a, const RoadSpot& b) const {
-  const std::uint32_t entry = entryComponent(a);
-  const std::uint32_t exit = exitComponent(a);
-  return entry == entryComponent(b) && exit == exitComponent(b) &&
-         (entry == exit || a.edge == b.edge);
+  const RoadSpotPlace start = placeOf(from);
+  const RoadSpotPlace end = placeOf(to);
+  return std::any_of(start.exits.begin(), start.exits.end(), [&](std::uint32_t exit) {
+    return std::any_of(end.entries.begin(), end.entries.end(),
+                       [&](std::uint32_t entry) { return mComponents.leads(exit, entry); });
+  });
 }
 
 }  // namespace wayloom

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <set>
 #include <unordered_map>
 
 namespace wayloom {
@@ -23,6 +24,7 @@ using Numbers = std::unordered_map<RoadPoint, std::uint32_t, PointHash>;
 struct Stretch {
   Points points;
   RoadUse use;
+  std::size_t way = 0;
 };
 
 Points pointsOf(const RoadWay& way) {
@@ -34,13 +36,15 @@ Points pointsOf(const RoadWay& way) {
   return points;
 }
 
-std::vector<Stretch> stretches(const std::vector<RoadWay>& ways) {
+std::vector<Stretch> stretches(const std::vector<RoadWay>& ways,
+                               const std::set<RoadPoint>& barriers) {
   std::vector<Points> lines;
   Numbers uses;
   for (const RoadWay& way : ways) {
     const Points& points = lines.emplace_back(pointsOf(way));
     for (const RoadPoint& point : points) ++uses[point];
   }
+  for (const RoadPoint& barrier : barriers) uses[barrier] += 2;
   std::vector<Stretch> result;
   for (std::size_t way = 0; way < ways.size(); ++way) {
     const Points& points = lines[way];
@@ -49,7 +53,8 @@ std::vector<Stretch> stretches(const std::vector<RoadWay>& ways) {
       if (index + 1 < points.size() && uses[points[index]] < 2) continue;
       result.push_back({{points.begin() + static_cast<std::ptrdiff_t>(begin),
                          points.begin() + static_cast<std::ptrdiff_t>(index) + 1},
-                        ways[way].use});
+                        ways[way].use,
+                        way});
       begin = index;
     }
   }
@@ -72,31 +77,94 @@ std::uint64_t placeInOrder(RoadPoint point) {
          spread(static_cast<std::uint32_t>(point.latitude) ^ kSignBit);
 }
 
+// The network in the making, and which way each edge is of.
+class Network {
+ public:
+  explicit Network(const std::set<RoadPoint>& barriers) : mBarriers(barriers) {}
+
+  void add(const Stretch& part) {
+    const std::uint32_t from = junction(part.points.front());
+    const std::uint32_t to = junction(part.points.back());
+    mNetwork.edges.push_back(
+        {from, to, static_cast<std::uint32_t>(mNetwork.bends.size()), part.use});
+    mNetwork.bends.insert(mNetwork.bends.end(), part.points.begin() + 1, part.points.end() - 1);
+    mWays.push_back(part.way);
+  }
+
+  void forbid(const std::vector<RoadRules::Turn>& turns) {
+    for (std::uint32_t edge = 0; edge < mWays.size(); ++edge) {
+      mEdgesAt[mNetwork.edges[edge].from].push_back(edge);
+      if (mNetwork.edges[edge].to != mNetwork.edges[edge].from) {
+        mEdgesAt[mNetwork.edges[edge].to].push_back(edge);
+      }
+    }
+    for (const RoadRules::Turn& turn : turns) forbid(turn);
+    std::sort(mNetwork.turns.begin(), mNetwork.turns.end());
+    mNetwork.turns.erase(std::unique(mNetwork.turns.begin(), mNetwork.turns.end()),
+                         mNetwork.turns.end());
+  }
+
+  RoadNetwork take() { return std::move(mNetwork); }
+
+ private:
+  // Nothing leads from one side of a barrier to the other: each road ends there by itself.
+  std::uint32_t junction(RoadPoint point) {
+    const auto next = static_cast<std::uint32_t>(mNetwork.junctions.size());
+    if (mBarriers.contains(point)) {
+      mNetwork.junctions.push_back(point);
+      return next;
+    }
+    const auto [found, isNew] = mJunctions.emplace(point, next);
+    if (isNew) mNetwork.junctions.push_back(point);
+    return found->second;
+  }
+
+  std::vector<std::uint32_t> edgesOf(std::size_t way, std::uint32_t at) {
+    std::vector<std::uint32_t> edges;
+    for (const std::uint32_t edge : mEdgesAt[at]) {
+      if (mWays[edge] == way) edges.push_back(edge);
+    }
+    return edges;
+  }
+
+  void forbid(const RoadRules::Turn& turn) {
+    const auto via = mJunctions.find(roadPoint(turn.via));
+    if (via == mJunctions.end()) return;
+    const auto from = edgesOf(turn.fromWay, via->second);
+    const auto to = edgesOf(turn.toWay, via->second);
+    if (from.size() != 1 || to.size() != 1) return;
+    if (!turn.isOnly) {
+      mNetwork.turns.push_back({from.front(), via->second, to.front()});
+      return;
+    }
+    for (const std::uint32_t edge : mEdgesAt[via->second]) {
+      if (edge != to.front()) mNetwork.turns.push_back({from.front(), via->second, edge});
+    }
+  }
+
+  const std::set<RoadPoint>& mBarriers;
+  RoadNetwork mNetwork;
+  Numbers mJunctions;
+  std::vector<std::size_t> mWays;
+  std::unordered_map<std::uint32_t, std::vector<std::uint32_t>> mEdgesAt;
+};
+
 }  // namespace
 
-RoadNetwork roadNetwork(const std::vector<RoadWay>& ways) {
-  std::vector<Stretch> parts = stretches(ways);
+RoadNetwork roadNetwork(const std::vector<RoadWay>& ways, const RoadRules& rules) {
+  std::set<RoadPoint> barriers;
+  for (const Coordinate& barrier : rules.barriers) barriers.insert(roadPoint(barrier));
+  std::vector<Stretch> parts = stretches(ways, barriers);
   // Neighbours in the file are neighbours on the ground: the index of the edges relies on it, and
   // a search then reads little memory.
   std::stable_sort(parts.begin(), parts.end(), [](const Stretch& a, const Stretch& b) {
     return placeInOrder(a.points[a.points.size() / 2]) <
            placeInOrder(b.points[b.points.size() / 2]);
   });
-  RoadNetwork network;
-  Numbers junctions;
-  const auto junction = [&](RoadPoint point) {
-    const auto [found, isNew] =
-        junctions.emplace(point, static_cast<std::uint32_t>(network.junctions.size()));
-    if (isNew) network.junctions.push_back(point);
-    return found->second;
-  };
-  for (const Stretch& part : parts) {
-    const std::uint32_t from = junction(part.points.front());
-    const std::uint32_t to = junction(part.points.back());
-    network.edges.push_back({from, to, static_cast<std::uint32_t>(network.bends.size()), part.use});
-    network.bends.insert(network.bends.end(), part.points.begin() + 1, part.points.end() - 1);
-  }
-  return network;
+  Network network(barriers);
+  for (const Stretch& part : parts) network.add(part);
+  if (!rules.turns.empty()) network.forbid(rules.turns);
+  return network.take();
 }
 
 }  // namespace wayloom

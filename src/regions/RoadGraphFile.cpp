@@ -11,12 +11,14 @@ namespace {
 constexpr double kUnitsPerDegree = 1e7;
 constexpr std::size_t kPointBytes = 8;
 constexpr std::size_t kEdgeBytes = 16;
+constexpr std::size_t kTurnBytes = 12;
 // The search numbers each edge several times over, in 32 bits.
 constexpr std::size_t kMostEdges = 1U << 29;
 
 constexpr std::uint32_t kForward = 1;
 constexpr std::uint32_t kBackward = 2;
 constexpr std::uint32_t kDestinationOnly = 4;
+constexpr std::uint32_t kFerry = 8;
 
 using Bytes = std::vector<std::byte>;
 
@@ -54,7 +56,19 @@ Bytes encodeEdges(const std::vector<RoadEdge>& edges) {
     put(bytes, edge.firstBend);
     put(bytes, std::uint32_t{edge.use.kmPerHour} | (edge.use.forward ? kForward << 8 : 0) |
                    (edge.use.backward ? kBackward << 8 : 0) |
-                   (edge.use.destinationOnly ? kDestinationOnly << 8 : 0));
+                   (edge.use.destinationOnly ? kDestinationOnly << 8 : 0) |
+                   (edge.use.isFerry ? kFerry << 8 : 0));
+  }
+  return bytes;
+}
+
+Bytes encodeTurns(const std::vector<ForbiddenTurn>& turns) {
+  Bytes bytes;
+  bytes.reserve(turns.size() * kTurnBytes);
+  for (const ForbiddenTurn& turn : turns) {
+    put(bytes, turn.fromEdge);
+    put(bytes, turn.junction);
+    put(bytes, turn.toEdge);
   }
   return bytes;
 }
@@ -87,10 +101,31 @@ Result<std::vector<RoadEdge>> decodeEdges(std::span<const std::byte> bytes) {
     edge.firstBend = take(bytes);
     const std::uint32_t use = take(bytes);
     edge.use = {(use >> 8 & kForward) != 0, (use >> 8 & kBackward) != 0,
-                (use >> 8 & kDestinationOnly) != 0, static_cast<std::uint8_t>(use & 0xff)};
+                (use >> 8 & kDestinationOnly) != 0, static_cast<std::uint8_t>(use & 0xff),
+                (use >> 8 & kFerry) != 0};
     edges.push_back(edge);
   }
   return edges;
+}
+
+Result<std::vector<ForbiddenTurn>> decodeTurns(std::span<const std::byte> bytes) {
+  if (bytes.size() % kTurnBytes != 0) return failed("a forbidden turn is cut short");
+  std::vector<ForbiddenTurn> turns;
+  turns.reserve(bytes.size() / kTurnBytes);
+  while (!bytes.empty()) {
+    ForbiddenTurn turn;
+    turn.fromEdge = take(bytes);
+    turn.junction = take(bytes);
+    turn.toEdge = take(bytes);
+    turns.push_back(turn);
+  }
+  return turns;
+}
+
+// Whether the edge exists and begins or ends at the junction.
+bool touches(const RoadNetwork& network, std::uint32_t edge, std::uint32_t junction) {
+  return edge < network.edges.size() &&
+         (network.edges[edge].from == junction || network.edges[edge].to == junction);
 }
 
 Status check(const RoadNetwork& network) {
@@ -105,6 +140,12 @@ Status check(const RoadNetwork& network) {
     if (edge.use.kmPerHour == 0) return failed("a road has no speed");
     firstBend = edge.firstBend;
   }
+  for (const ForbiddenTurn& turn : network.turns) {
+    if (!touches(network, turn.fromEdge, turn.junction) ||
+        !touches(network, turn.toEdge, turn.junction)) {
+      return failed("a forbidden turn joins no roads");
+    }
+  }
   return done();
 }
 
@@ -114,6 +155,10 @@ Status readPart(Statement& statement, RoadNetwork& network) {
     auto edges = decodeEdges(statement.bytes(1));
     if (!edges) return edges.failure();
     network.edges = std::move(*edges);
+  } else if (part == "turns") {
+    auto turns = decodeTurns(statement.bytes(1));
+    if (!turns) return turns.failure();
+    network.turns = std::move(*turns);
   } else {
     auto points = decodePoints(statement.bytes(1));
     if (!points) return points.failure();
@@ -129,7 +174,8 @@ Result<RoadNetwork> readParts(Database& database) {
   if (!count) return count.failure();
   if (*count == 0) return network;
   auto statement = database.prepare(
-      "SELECT part, data FROM road_network WHERE part IN ('junctions', 'edges', 'bends') LIMIT 3");
+      "SELECT part, data FROM road_network WHERE part IN ('junctions', 'edges', 'bends', 'turns') "
+      "LIMIT 4");
   if (!statement) return statement.failure();
   for (;;) {
     const auto row = statement->step();
@@ -162,6 +208,7 @@ Status writeRoads(Database& database, const RoadNetwork& network) {
       {"junctions", encodePoints(network.junctions)},
       {"edges", encodeEdges(network.edges)},
       {"bends", encodePoints(network.bends)},
+      {"turns", encodeTurns(network.turns)},
   };
   for (const auto& [part, bytes] : parts) {
     status = insert->bind(1, part).bind(2, std::span<const std::byte>(bytes)).run();

@@ -32,12 +32,22 @@ struct RoadEdge {
   bool operator==(const RoadEdge&) const = default;
 };
 
+/// A turn that must not be made: at a junction from the edge on which one comes to another.
+struct ForbiddenTurn {
+  std::uint32_t fromEdge = 0;
+  std::uint32_t junction = 0;
+  std::uint32_t toEdge = 0;
+
+  auto operator<=>(const ForbiddenTurn&) const = default;
+};
+
 /// The roads of a region as its file keeps them.
 struct RoadNetwork {
   std::vector<RoadPoint> junctions;
   std::vector<RoadEdge> edges;
   /// The bends of all edges, between their ends, edge after edge.
   std::vector<RoadPoint> bends;
+  std::vector<ForbiddenTurn> turns;
 
   bool operator==(const RoadNetwork&) const = default;
 };

@@ -26,12 +26,18 @@ using SpotPair = std::pair<RoadSpot, RoadSpot>;
 // Of spots that lead to the same places only the nearest is worth asking about.
 Spots unlike(const RoadGraph& graph, Spots spots) {
   Spots result;
+  std::vector<RoadSpotPlace> places;
   for (const RoadSpot& spot : spots) {
     if (result.size() == kMostUnlikeSpots) break;
-    const bool isKnown = std::any_of(result.begin(), result.end(), [&](const RoadSpot& nearer) {
-      return graph.areAlike(nearer, spot);
-    });
-    if (!isKnown) result.push_back(spot);
+    RoadSpotPlace place = graph.placeOf(spot);
+    const bool isKnown =
+        std::any_of(places.begin(), places.end(), [&](const RoadSpotPlace& nearer) {
+          const RoadSpot& other = result[static_cast<std::size_t>(&nearer - places.data())];
+          return nearer == place && (place.entries == place.exits || other.edge == spot.edge);
+        });
+    if (isKnown) continue;
+    result.push_back(spot);
+    places.push_back(std::move(place));
   }
   return result;
 }

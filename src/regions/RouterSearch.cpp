@@ -35,31 +35,30 @@ double RouterSearch::costOf(std::uint32_t edge, double metres) const {
          factor(edge, mGraph.edges()[edge].use.destinationOnly);
 }
 
-double RouterSearch::leastCost(std::uint32_t junction) const {
-  return chordMetres(mGraph.spaceAt(junction), mToSpace) / mGraph.fastestMetresPerSecond();
+double RouterSearch::leastCost(std::uint32_t node) const {
+  return chordMetres(mGraph.spaceAt(node), mToSpace) / mGraph.fastestMetresPerSecond();
 }
 
-void RouterSearch::reach(std::uint32_t junction, double cost, Arrival arrival) {
-  if (cost >= mJunctions[junction].cost) return;
-  mJunctions[junction] = {cost, arrival};
-  mOpen.push_back({cost + leastCost(junction), cost, junction});
+void RouterSearch::reach(std::uint32_t node, double cost, Arrival arrival) {
+  if (cost >= mNodes[node].cost) return;
+  mNodes[node] = {cost, arrival};
+  mOpen.push_back({cost + leastCost(node), cost, node});
   std::push_heap(mOpen.begin(), mOpen.end(),
                  [](const Open& a, const Open& b) { return a.least > b.least; });
 }
 
 void RouterSearch::start() {
-  mJunctions.assign(mGraph.junctionCount(), {kUnreached, {}});
+  mNodes.assign(mGraph.nodeCount(), {kUnreached, {}});
   mOpen.clear();
   mBestCost = kUnreached;
-  mBestJunction.reset();
-  if (mFromJunction) return reach(*mFromJunction, 0, {mFrom.edge, true, Origin::kStart});
-  const RoadEdge& edge = mGraph.edges()[mFrom.edge];
-  const double ahead = mGraph.metres(mFrom.edge) - mFrom.alongMetres;
-  if (edge.use.forward)
-    reach(edge.to, costOf(mFrom.edge, ahead), {mFrom.edge, true, Origin::kStartOnEdge});
-  if (edge.use.backward) {
-    reach(edge.from, costOf(mFrom.edge, mFrom.alongMetres),
-          {mFrom.edge, false, Origin::kStartOnEdge});
+  mBestNode.reset();
+  if (mFromJunction) return reach(*mFromJunction, 0, {mFrom.edge, 0, true, Origin::kStart});
+  for (const bool isForward : {true, false}) {
+    const RoadArc* arc = mGraph.arcOf(mFrom.edge, isForward);
+    if (!arc) continue;
+    const double ahead =
+        isForward ? mGraph.metres(mFrom.edge) - mFrom.alongMetres : mFrom.alongMetres;
+    reach(arc->target, costOf(mFrom.edge, ahead), {mFrom.edge, 0, isForward, Origin::kStartOnEdge});
   }
 }
 
@@ -72,27 +71,40 @@ void RouterSearch::tryDirect() {
   mLastStep = Step{mFrom.edge, ahead > 0 || (ahead == 0 && use.forward)};
 }
 
-void RouterSearch::tryEnd(std::uint32_t junction, double cost) {
-  const auto offer = [&](double lastCost, std::optional<Step> lastStep) {
-    if (cost + lastCost >= mBestCost) return;
-    mBestCost = cost + lastCost;
-    mBestJunction = junction;
-    mLastStep = lastStep;
-  };
-  if (mToJunction) {
-    if (junction == *mToJunction) offer(0, std::nullopt);
-    return;
-  }
-  const RoadEdge& edge = mGraph.edges()[mTo.edge];
-  if (edge.use.forward && junction == edge.from) {
-    offer(costOf(mTo.edge, mTo.alongMetres), Step{mTo.edge, true});
-  }
-  if (edge.use.backward && junction == edge.to) {
-    offer(costOf(mTo.edge, mGraph.metres(mTo.edge) - mTo.alongMetres), Step{mTo.edge, false});
-  }
+void RouterSearch::offer(std::uint32_t node, double cost, std::optional<Step> lastStep) {
+  if (cost >= mBestCost) return;
+  mBestCost = cost;
+  mBestNode = node;
+  mLastStep = lastStep;
+}
+
+void RouterSearch::tryEnd(std::uint32_t node, double cost) {
+  if (mToJunction && mGraph.junctionOf(node) == *mToJunction) offer(node, cost, std::nullopt);
+}
+
+void RouterSearch::tryEndOn(const RoadArc& arc, std::uint32_t node, double cost) {
+  if (mToJunction || arc.edge != mTo.edge) return;
+  const double metres = arc.isForward ? mTo.alongMetres : mGraph.metres(mTo.edge) - mTo.alongMetres;
+  offer(node, cost + costOf(mTo.edge, metres), Step{mTo.edge, arc.isForward});
+}
+
+// Who is on a road turns back at its end, not at a crossing to get round a forbidden turn.
+bool RouterSearch::turnsBack(const RoadArc& arc, std::uint32_t node) const {
+  const Arrival& arrival = mNodes[node].arrival;
+  return arc.edge == arrival.edge && arrival.origin != Origin::kStart &&
+         mGraph.arcs(node).size() > 1;
 }
 
 std::optional<RoadPath> RouterSearch::find() {
+  // Each node keeps one way to it. Should that be one that only turning back leads on from, there
+  // may be none without; this is rare.
+  search(TurningBack::kAtDeadEnds);
+  if (mBestCost == kUnreached) search(TurningBack::kAnywhere);
+  if (mBestCost == kUnreached) return std::nullopt;
+  return path();
+}
+
+void RouterSearch::search(TurningBack where) {
   start();
   tryDirect();
   while (!mOpen.empty() && mOpen.front().least < mBestCost) {
@@ -100,29 +112,28 @@ std::optional<RoadPath> RouterSearch::find() {
                   [](const Open& a, const Open& b) { return a.least > b.least; });
     const Open open = mOpen.back();
     mOpen.pop_back();
-    if (open.cost > mJunctions[open.junction].cost) continue;
-    tryEnd(open.junction, open.cost);
-    for (const RoadArc& arc : mGraph.arcs(open.junction)) {
+    if (open.cost > mNodes[open.node].cost) continue;
+    tryEnd(open.node, open.cost);
+    for (const RoadArc& arc : mGraph.arcs(open.node)) {
+      if (where == TurningBack::kAtDeadEnds && turnsBack(arc, open.node)) continue;
       const double cost = static_cast<double>(arc.seconds) * factor(arc.edge, arc.destinationOnly);
-      reach(arc.target, open.cost + cost, {arc.edge, arc.isForward, Origin::kJunction});
+      tryEndOn(arc, open.node, open.cost);
+      reach(arc.target, open.cost + cost, {arc.edge, open.node, arc.isForward, Origin::kJunction});
     }
   }
-  if (mBestCost == kUnreached) return std::nullopt;
-  return path();
 }
 
 RoadPath RouterSearch::path() const {
   RoadPath path{mFrom, mTo, {}};
   if (mLastStep) path.steps.push_back(*mLastStep);
-  path.startsWithinEdge = !mBestJunction || !mFromJunction;
+  path.startsWithinEdge = !mBestNode || !mFromJunction;
   path.endsWithinEdge = mLastStep.has_value();
-  for (auto junction = mBestJunction; junction;) {
-    const Arrival& arrival = mJunctions[*junction].arrival;
+  for (auto node = mBestNode; node;) {
+    const Arrival& arrival = mNodes[*node].arrival;
     if (arrival.origin == Origin::kStart) break;
     path.steps.push_back({arrival.edge, arrival.isForward});
     if (arrival.origin == Origin::kStartOnEdge) break;
-    const RoadEdge& edge = mGraph.edges()[arrival.edge];
-    junction = arrival.isForward ? edge.from : edge.to;
+    node = arrival.before;
   }
   std::reverse(path.steps.begin(), path.steps.end());
   return path;

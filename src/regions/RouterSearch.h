@@ -37,30 +37,36 @@ class RouterSearch {
 
  private:
   using Step = RoadPath::Step;
+  enum class TurningBack { kAtDeadEnds, kAnywhere };
   enum class Origin : std::uint8_t { kJunction, kStartOnEdge, kStart };
-  /// How a junction was reached: over which edge and where from, unless it is the start itself.
+  /// How a node was reached: over which edge and from which node, unless it is the start itself.
   struct Arrival {
     std::uint32_t edge = 0;
+    std::uint32_t before = 0;
     bool isForward = true;
     Origin origin = Origin::kJunction;
   };
-  struct Junction {
+  struct Node {
     double cost;
     Arrival arrival;
   };
   struct Open {
     double least;
     double cost;
-    std::uint32_t junction;
+    std::uint32_t node;
   };
 
   double factor(std::uint32_t edge, bool destinationOnly) const;
   double costOf(std::uint32_t edge, double metres) const;
-  double leastCost(std::uint32_t junction) const;
-  void reach(std::uint32_t junction, double cost, Arrival arrival);
+  double leastCost(std::uint32_t node) const;
+  void reach(std::uint32_t node, double cost, Arrival arrival);
   void start();
+  void search(TurningBack where);
+  bool turnsBack(const RoadArc& arc, std::uint32_t node) const;
   void tryDirect();
-  void tryEnd(std::uint32_t junction, double cost);
+  void tryEnd(std::uint32_t node, double cost);
+  void tryEndOn(const RoadArc& arc, std::uint32_t node, double cost);
+  void offer(std::uint32_t node, double cost, std::optional<Step> lastStep);
   RoadPath path() const;
 
   const RoadGraph& mGraph;
@@ -69,15 +75,15 @@ class RouterSearch {
   const std::optional<std::uint32_t> mFromJunction;
   const std::optional<std::uint32_t> mToJunction;
   const SpacePoint mToSpace;
-  std::vector<Junction> mJunctions;
+  std::vector<Node> mNodes;
   std::vector<Open> mOpen;
   /// How much worse each edge counts; empty as long as none does.
   std::vector<float> mFactors;
 
   double mBestCost = 0;
-  /// The junction before the last step of the best way; none when it stays on one edge.
-  std::optional<std::uint32_t> mBestJunction;
-  /// None when the way ends at that junction.
+  /// The node before the last step of the best way; none when it stays on one edge.
+  std::optional<std::uint32_t> mBestNode;
+  /// None when the way ends at that node.
   std::optional<Step> mLastStep;
 };
 

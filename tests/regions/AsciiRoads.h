@@ -10,7 +10,8 @@ namespace wayloom {
 
 /// Roads drawn with characters, a cell being a thousandth of a degree (about 111 m). Capital
 /// letters and '+' are junctions; '-' and '|' are roads, '>', '<', '^' and 'v' one-way roads, '='
-/// is a road for residents. The upper left cell is at 1° north, 1° east.
+/// is a road for residents, '~' a ferry, and 'x' a barrier on a road. The upper left cell is at 1°
+/// north, 1° east. A turn is written as the letters that one passes.
 class AsciiRoads {
  public:
   explicit AsciiRoads(std::vector<std::string> rows) : mRows(std::move(rows)) {}
@@ -38,7 +39,24 @@ class AsciiRoads {
     return ways;
   }
 
-  RoadNetwork network() const { return roadNetwork(ways()); }
+  /// The network with turns of which none may be made, and turns of which each is the only one.
+  RoadNetwork network(const std::vector<std::string>& forbidden = {},
+                      const std::vector<std::string>& only = {}) const {
+    const std::vector<RoadWay> all = ways();
+    RoadRules rules;
+    for (std::size_t row = 0; row < mRows.size(); ++row) {
+      for (std::size_t column = 0; column < mRows[row].size(); ++column) {
+        if (mRows[row][column] == 'x') rules.barriers.push_back(position(column, row));
+      }
+    }
+    for (const auto* turns : {&forbidden, &only}) {
+      for (const std::string& turn : *turns) {
+        rules.turns.push_back({wayBetween(all, turn[0], turn[1]), wayBetween(all, turn[1], turn[2]),
+                               at(turn[1]), turns == &only});
+      }
+    }
+    return roadNetwork(all, rules);
+  }
 
   /// The letters that a line passes, in their order.
   std::string passed(const Line& line) const {
@@ -68,8 +86,17 @@ class AsciiRoads {
     return row < mRows.size() && column < mRows[row].size() ? mRows[row][column] : ' ';
   }
 
+  std::size_t wayBetween(const std::vector<RoadWay>& ways, char a, char b) const {
+    for (std::size_t way = 0; way < ways.size(); ++way) {
+      const Line& line = ways[way].line;
+      if (line.front() == at(a) && line.back() == at(b)) return way;
+      if (line.front() == at(b) && line.back() == at(a)) return way;
+    }
+    return ways.size();
+  }
+
   void addWay(std::size_t column, std::size_t row, Direction go, std::vector<RoadWay>& ways) const {
-    const std::string signs = go.right != 0 ? "-><=" : "|v^";
+    const std::string signs = go.right != 0 ? "-><=~x" : "|v^x";
     RoadWay way{{position(column, row)}, {}};
     for (;;) {
       column += go.right;
@@ -80,6 +107,9 @@ class AsciiRoads {
       if (here == '>' || here == 'v') way.use.backward = false;
       if (here == '<' || here == '^') way.use.forward = false;
       if (here == '=') way.use.destinationOnly = true;
+      if (here == 'x') way.line.push_back(position(column, row));
+      if (here == '~') way.use.isFerry = true;
+      if (here == '~') way.use.kmPerHour = 10;
     }
     way.line.push_back(position(column, row));
     ways.push_back(std::move(way));

@@ -66,9 +66,9 @@ TEST(RegionStore, RefusesByNameWhatItCannotUse) {
        },
        "damaged"},
       {[](const fs::path& path) {
-         (void)writeRegion(path, "COMMIT; PRAGMA user_version = 2; BEGIN");
+         (void)writeRegion(path, "COMMIT; PRAGMA user_version = 1; BEGIN");
        },
-       "version 2"},
+       "version 1"},
       {[](const fs::path& path) {
          (void)writeRegion(path, "COMMIT; PRAGMA application_id = 7; BEGIN");
        },

@@ -17,8 +17,9 @@ Database databaseWith(const RoadNetwork& network) {
 
 const RoadNetwork kNetwork = {
     {{-1800000000, 900000000}, {1800000000, -900000000}, {1, -1}},
-    {{0, 1, 0, {true, false, true, 130}}, {1, 1, 2, {false, true, false, 5}}, {2, 0, 2, {}}},
-    {{5, 6}, {-7, -8}, {9, 10}}};
+    {{0, 1, 0, {true, false, true, 130}}, {1, 1, 2, {false, true, false, 5, true}}, {2, 0, 2, {}}},
+    {{5, 6}, {-7, -8}, {9, 10}},
+    {{0, 1, 1}, {2, 0, 0}}};
 
 TEST(RoadGraphFile, KeepsEveryField) {
   for (const RoadNetwork& network : {kNetwork, RoadNetwork{}}) {
@@ -38,6 +39,11 @@ TEST(RoadGraphFile, RefusesWhatLeadsNowhere) {
       {"DELETE FROM road_network WHERE part = 'junctions'", "no junction"},
       {"DELETE FROM road_network WHERE part = 'bends'", "disorder"},
       {"UPDATE road_network SET data = zeroblob(16) WHERE part = 'edges'", "no speed"},
+      {"UPDATE road_network SET data = zeroblob(8) WHERE part = 'turns'", "cut short"},
+      {"UPDATE road_network SET data = x'000000000200000001000000' WHERE part = 'turns'",
+       "no roads"},
+      {"UPDATE road_network SET data = x'ffffffff0000000000000000' WHERE part = 'turns'",
+       "no roads"},
       {"DROP TABLE road_network; CREATE TABLE road_network(x)", "damaged"},
   };
   for (const auto& [change, reason] : cases) {
@@ -54,7 +60,7 @@ TEST(RoadGraphFile, SurvivesAnyBytes) {
   int refused = 0;
   for (int round = 0; round < 600; ++round) {
     Database database = databaseWith(roads.network());
-    const char* part = std::array{"junctions", "edges", "bends"}[random() % 3];
+    const char* part = std::array{"junctions", "edges", "bends", "turns"}[random() % 4];
     std::vector<std::byte> bytes(16 * (random() % 12));
     for (auto& byte : bytes) byte = static_cast<std::byte>(random() % 4 == 0 ? random() : 0);
     for (std::size_t at = 12; at < bytes.size(); at += 16) bytes[at] = std::byte{30};

@@ -41,6 +41,81 @@ TEST(Router, DrivesAsDrawn) {
   }
 }
 
+const Rows kCross = {"    D    ", "    |    ", "A---B---C", "    |    ", "    E----F"};
+const Rows kGrid = {"A---B---C", "|   |   |", "D---E---F", "|   |   |", "G---H---I"};
+
+TEST(Router, MakesOnlyTurnsThatAreAllowed) {
+  const struct {
+    Rows rows;
+    std::vector<std::string> forbidden, only;
+    char from, to;
+    const char* passed;
+  } cases[] = {
+      {kGrid, {}, {}, 'B', 'D', "BAD"},
+      {kGrid, {"BAD"}, {}, 'B', 'D', "BED"},
+      {kGrid, {"BAD"}, {}, 'D', 'B', "DAB"},
+      {kGrid, {"BAD", "BED"}, {}, 'B', 'D', "BEHGD"},
+      // Who starts at the junction itself comes from nowhere.
+      {kGrid, {"BAD"}, {}, 'A', 'D', "AD"},
+      {kGrid, {}, {"DEF"}, 'D', 'H', "DGH"},
+      {kGrid, {}, {"DEF", "DGH"}, 'D', 'B', "DAB"},
+      {kCross, {}, {"ABE"}, 'A', 'F', "ABEF"},
+      {kCross, {}, {"ABC"}, 'A', 'F', "ABCBEF"},
+      // What is forbidden from one side is allowed from the others, and from there on.
+      {kCross, {"ABD"}, {}, 'A', 'C', "ABC"},
+      {kCross, {"ABD"}, {}, 'E', 'D', "EBD"},
+      // The other way round at a dead end.
+      {kCross, {"ABD"}, {}, 'A', 'D', "ABCBD"},
+  };
+  for (const auto& test : cases) {
+    const AsciiRoads roads(test.rows);
+    const RoadGraph graph(roads.network(test.forbidden, test.only));
+    const auto routes = routesOn(graph, roads.at(test.from), roads.at(test.to), 0);
+    ASSERT_TRUE(routes) << test.passed << ": " << routes.message();
+    EXPECT_EQ(roads.passed(routes->front().line), test.passed);
+  }
+}
+
+TEST(Router, GoesNoFurtherWhereNoTurnIsAllowed) {
+  // So far apart that neither end moves to the other road.
+  const AsciiRoads roads({"A-----------B-----------C"});
+  const RoadGraph graph(roads.network({"ABC", "ABA", "CBC"}));
+  const auto there = routesOn(graph, AsciiRoads::cell(1, 0), AsciiRoads::cell(23, 0), 0);
+  EXPECT_EQ(there.message(), "no road leads from the start to the end");
+  const auto back = routesOn(graph, AsciiRoads::cell(23, 0), AsciiRoads::cell(1, 0), 0);
+  ASSERT_TRUE(back) << back.message();
+  EXPECT_EQ(roads.passed(back->front().line), "B");
+}
+
+TEST(Router, StopsAtBarriersAndTakesFerries) {
+  const struct {
+    Rows rows;
+    Coordinate from, to;
+    const char* passed;
+  } cases[] = {
+      {{"A--x--B", "|     |", "C-----D"}, AsciiRoads::cell(2, 0), AsciiRoads::cell(4, 0), "ACDB"},
+      // Up to the barrier one may drive, from either side.
+      {{"A--x--B", "|     |", "C-----D"}, AsciiRoads::cell(0, 1), AsciiRoads::cell(3, 0), "A"},
+      // A barrier on a crossing closes it for all.
+      {{"A---B", "|   x", "C---D"}, AsciiRoads::cell(4, 0), AsciiRoads::cell(4, 2), "BACD"},
+      {{"A---B~~~~C---D"}, AsciiRoads::cell(1, 0), AsciiRoads::cell(12, 0), "BC"},
+      // The slower ferry is not taken where a bridge is near.
+      {{"A---B~~~~C---D", "    |    |    ", "    E----F    "},
+       AsciiRoads::cell(1, 0),
+       AsciiRoads::cell(12, 0),
+       "BEFC"},
+      // Nobody gets on in the middle of the water.
+      {{"A---B~~~~C---D"}, AsciiRoads::cell(6, 0), AsciiRoads::cell(12, 0), "BC"},
+  };
+  for (const auto& test : cases) {
+    const AsciiRoads roads(test.rows);
+    const RoadGraph graph(roads.network());
+    const auto routes = routesOn(graph, test.from, test.to, 0);
+    ASSERT_TRUE(routes) << test.passed << ": " << routes.message();
+    EXPECT_EQ(roads.passed(routes->front().line), test.passed);
+  }
+}
+
 TEST(Router, MovesBothEndsToTheNearestRoadThatLeadsThere) {
   const struct {
     Rows rows;

@@ -1,21 +1,17 @@
-#include "StreetDrawing.h"
+#include "drawing/StreetDrawing.h"
 
 #include <algorithm>
 #include <array>
 #include <map>
 #include <tuple>
 
-#include "BuiltUpArea.h"
-#include "ReadFile.h"
-#include "StreetLabels.h"
+#include "drawing/StreetLabels.h"
 #include "regions/DrawingTable.h"
 
 namespace wayloom {
 
 namespace {
 
-constexpr double kBuiltUpCellMetres = 40;
-constexpr std::size_t kMostPolygonPoints = 800;
 constexpr std::size_t kMostLinePoints = 60;
 
 // One version of the network, for the zooms up to `zoom`, with the streets that show there.
@@ -31,22 +27,6 @@ constexpr std::array kScales = {Scale{"_z10", Street::Kind::kPrimary, 10},
                                 Scale{"_z15", Street::Kind::kPath, 15},
                                 Scale{"_z16", Street::Kind::kPath, 16},
                                 Scale{"", Street::Kind::kPath, 18}};
-
-Status writeBuiltUpArea(Database& database, const std::vector<Street>& streets) {
-  std::vector<MapPath> lines;
-  for (const Street& street : streets) {
-    if (street.level == 0 && !street.isArea) lines.push_back(street.paths.front());
-  }
-  DrawingTable table(database, "built_up", {});
-  if (lines.empty()) return table.status();
-  auto polygons = builtUpArea(lines, kBuiltUpCellMetres);
-  const MapBox box = boundsOf({DrawingShape::Kind::kPolygon, polygons.front()});
-  for (MapPolygon& piece :
-       cutToPieces(std::move(polygons), box, kMostPolygonPoints, 2 * metresPerPixel(8))) {
-    table.add({DrawingShape::Kind::kPolygon, std::move(piece)});
-  }
-  return table.status();
-}
 
 Status writeSquares(Database& database, const std::vector<Street>& streets) {
   DrawingTable table(database, "square", {});
@@ -81,25 +61,11 @@ Status writeRoads(Database& database, const std::vector<Street>& streets, const 
 
 Status addStreetDrawing(Database& database, const std::vector<Street>& streets,
                         const std::vector<PlaceLabel>& labels) {
-  for (const auto write : {writeBuiltUpArea, writeSquares}) {
-    if (auto status = write(database, streets); !status) return status;
-  }
+  if (auto status = writeSquares(database, streets); !status) return status;
   for (const Scale& scale : kScales) {
     if (auto status = writeRoads(database, streets, scale); !status) return status;
   }
   return writeStreetLabels(database, streets, labels);
-}
-
-Result<std::vector<Street>> readStreets(const std::filesystem::path& path) {
-  const auto text = readFile(path);
-  if (!text) return text.failure();
-  const auto features = readGeoJson(*text);
-  if (!features) return Failure{path.string() + " is damaged"};
-  std::vector<Street> streets;
-  for (const GeoFeature& feature : *features) {
-    if (auto street = streetOf(feature)) streets.push_back(std::move(*street));
-  }
-  return streets;
 }
 
 }  // namespace wayloom

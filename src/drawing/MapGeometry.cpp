@@ -1,4 +1,4 @@
-#include "MapGeometry.h"
+#include "drawing/MapGeometry.h"
 
 #include <algorithm>
 #include <cmath>

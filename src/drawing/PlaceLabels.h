@@ -36,8 +36,10 @@ double labelSize(const PlaceLabel& label, int zoom);
 MapBox labelBox(const PlaceLabel& label, int zoom);
 
 /// Chooses, zoom by zoom, the labels that find room beside more important ones, so that no two
-/// shown labels ever overlap. A label that is shown stays until its last zoom.
-std::vector<PlaceLabel> selectPlaceLabels(std::vector<PlaceLabel> candidates, int lastZoom);
+/// shown labels ever overlap. A label that is shown stays until its last zoom. Those of `fixed` are
+/// shown in any case; they are not among the chosen.
+std::vector<PlaceLabel> selectPlaceLabels(std::vector<PlaceLabel> candidates, int lastZoom,
+                                          const std::vector<PlaceLabel>& fixed = {});
 
 /// Writes the tables place_label and its smaller versions for small zooms.
 Status writePlaceLabels(Database& database, const std::vector<PlaceLabel>& labels);

@@ -2,8 +2,8 @@
 
 #include <vector>
 
-#include "PlaceLabels.h"
-#include "Street.h"
+#include "drawing/PlaceLabels.h"
+#include "drawing/Street.h"
 #include "regions/Database.h"
 
 namespace wayloom {

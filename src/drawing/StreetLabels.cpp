@@ -1,4 +1,4 @@
-#include "StreetLabels.h"
+#include "drawing/StreetLabels.h"
 
 #include <algorithm>
 #include <cmath>
@@ -6,7 +6,7 @@
 #include <optional>
 #include <sstream>
 
-#include "LabelGrid.h"
+#include "drawing/LabelGrid.h"
 #include "regions/DrawingTable.h"
 
 namespace wayloom {

@@ -1,4 +1,4 @@
-#include "LabelGrid.h"
+#include "drawing/LabelGrid.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,8 +1,8 @@
 #include <random>
 
-#include "MapGeometry.h"
-#include "PlaceLabels.h"
-#include "StreetLabels.h"
+#include "drawing/MapGeometry.h"
+#include "drawing/PlaceLabels.h"
+#include "drawing/StreetLabels.h"
 
 namespace wayloom {
 namespace {

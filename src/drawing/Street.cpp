@@ -1,4 +1,4 @@
-#include "Street.h"
+#include "drawing/Street.h"
 
 #include <algorithm>
 #include <array>
@@ -34,16 +34,6 @@ constexpr std::array<std::pair<std::string_view, Kind>, 19> kKinds = {{
     {"bridleway", Kind::kPath},
     {"corridor", Kind::kPath},
 }};
-
-int levelOf(const GeoFeature& feature) {
-  const int layer = std::clamp(std::atoi(feature.property("layer").c_str()), -5, 5);
-  const std::string tunnel = feature.property("tunnel");
-  if (!tunnel.empty() && tunnel != "no" && tunnel != "building_passage") {
-    return std::min(layer, -1);
-  }
-  const std::string bridge = feature.property("bridge");
-  return bridge.empty() || bridge == "no" ? 0 : std::max(layer, 1);
-}
 
 using Ends = std::multimap<std::pair<double, double>, std::size_t>;
 
@@ -81,8 +71,18 @@ const char* kindName(Street::Kind kind) {
   return kNames.at(static_cast<std::size_t>(kind));
 }
 
-std::optional<Street> streetOf(const GeoFeature& feature) {
-  std::string highway = feature.property("highway");
+int levelOf(const OsmTags& tags) {
+  const int layer = std::clamp(std::atoi(std::string(tagOf(tags, "layer")).c_str()), -5, 5);
+  const std::string_view tunnel = tagOf(tags, "tunnel");
+  if (!tunnel.empty() && tunnel != "no" && tunnel != "building_passage") {
+    return std::min(layer, -1);
+  }
+  const std::string_view bridge = tagOf(tags, "bridge");
+  return bridge.empty() || bridge == "no" ? 0 : std::max(layer, 1);
+}
+
+std::optional<Street> streetOf(const OsmTags& tags, DrawingShape shape) {
+  std::string highway(tagOf(tags, "highway"));
   Street street;
   if (const auto ending = highway.rfind("_link"); ending != std::string::npos) {
     street.isLink = true;
@@ -92,17 +92,14 @@ std::optional<Street> streetOf(const GeoFeature& feature) {
                                          [&](const auto& entry) { return entry.first == highway; });
   if (found == kKinds.end()) return {};
   street.kind = found->second;
-  street.isArea = feature.kind == GeoFeature::Kind::kPolygon && feature.property("area") != "no";
-  street.level = levelOf(feature);
+  street.isArea = shape.kind == DrawingShape::Kind::kPolygon && tagOf(tags, "area") != "no";
+  street.level = levelOf(tags);
   // Platforms are called A, B, C: noise on a map of this scale.
   if (street.kind != Kind::kPlatform) {
-    street.name = feature.property("name");
-    street.ref = feature.property("ref");
+    street.name = tagOf(tags, "name");
+    street.ref = tagOf(tags, "ref");
   }
-  for (const auto& path : feature.paths) {
-    auto& line = street.paths.emplace_back();
-    for (const Coordinate& coordinate : path) line.push_back(mapPoint(coordinate));
-  }
+  street.paths = std::move(shape.paths);
   return street;
 }
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "GeoJson.h"
-#include "MapGeometry.h"
+#include "drawing/MapGeometry.h"
+#include "regions/OsmTags.h"
 
 namespace wayloom {
 
@@ -42,9 +42,13 @@ struct Street {
 
 const char* kindName(Street::Kind kind);
 
-/// The street that the tags of an OpenStreetMap way describe; nothing for what is not drawn, such
-/// as a road under construction.
-std::optional<Street> streetOf(const GeoFeature& feature);
+/// The street that the tags of an OpenStreetMap way of this shape describe; nothing for what is not
+/// drawn, such as a road under construction.
+std::optional<Street> streetOf(const OsmTags& tags, DrawingShape shape);
+
+/// Where the tags of a way say that it runs: 0 on the ground, below it in a tunnel, above it on a
+/// bridge.
+int levelOf(const OsmTags& tags);
 
 /// Lines joined end to end where exactly two ends meet, so that each is as long as can be.
 std::vector<MapPath> joined(const std::vector<MapPath>& lines);

@@ -1,11 +1,11 @@
-#include "PlaceLabels.h"
+#include "drawing/PlaceLabels.h"
 
 #include <algorithm>
 #include <array>
 #include <climits>
 
-#include "LabelGrid.h"
-#include "MapGeometry.h"
+#include "drawing/LabelGrid.h"
+#include "drawing/MapGeometry.h"
 #include "regions/DrawingTable.h"
 
 namespace wayloom {
@@ -30,6 +30,26 @@ const char* kindName(PlaceLabel::Kind kind) {
   return "place";
 }
 
+// What labels take at each zoom.
+std::vector<LabelGrid> gridsOf(const std::vector<PlaceLabel>& labels, int lastZoom) {
+  std::vector<LabelGrid> grids(static_cast<std::size_t>(lastZoom) + 1);
+  for (const PlaceLabel& label : labels) {
+    for (int zoom = label.firstZoom; zoom <= std::min(label.lastZoom, lastZoom); ++zoom) {
+      grids[static_cast<std::size_t>(zoom)].take(labelBox(label, zoom));
+    }
+  }
+  return grids;
+}
+
+// Whether a label can stay from its first zoom to its last.
+bool staysFree(const PlaceLabel& label, const std::vector<LabelGrid>& taken) {
+  for (int zoom = label.firstZoom; zoom <= label.lastZoom; ++zoom) {
+    const auto index = static_cast<std::size_t>(zoom);
+    if (index < taken.size() && !taken[index].isFree(labelBox(label, zoom))) return false;
+  }
+  return true;
+}
+
 }  // namespace
 
 double labelSize(const PlaceLabel& label, int zoom) {
@@ -52,9 +72,11 @@ MapBox labelBox(const PlaceLabel& label, int zoom) {
   return {x - halfWidth, y - below, x + halfWidth, y + halfHeight};
 }
 
-std::vector<PlaceLabel> selectPlaceLabels(std::vector<PlaceLabel> candidates, int lastZoom) {
+std::vector<PlaceLabel> selectPlaceLabels(std::vector<PlaceLabel> candidates, int lastZoom,
+                                          const std::vector<PlaceLabel>& fixed) {
   std::stable_sort(candidates.begin(), candidates.end(),
                    [](const auto& a, const auto& b) { return a.importance > b.importance; });
+  const std::vector<LabelGrid> taken = gridsOf(fixed, lastZoom);
   std::vector<PlaceLabel> chosen;
   std::vector<PlaceLabel> waiting;
   for (int zoom = 0; zoom <= lastZoom; ++zoom) {
@@ -67,7 +89,8 @@ std::vector<PlaceLabel> selectPlaceLabels(std::vector<PlaceLabel> candidates, in
       if (label.lastZoom < zoom) continue;
       PlaceLabel shown = label;
       shown.firstZoom = zoom;
-      if (label.firstZoom <= zoom && grid.isFree(labelBox(shown, zoom))) {
+      if (label.firstZoom <= zoom && grid.isFree(labelBox(shown, zoom)) &&
+          staysFree(shown, taken)) {
         grid.take(labelBox(shown, zoom));
         chosen.push_back(std::move(shown));
       } else {

@@ -1,0 +1,222 @@
+#include "import/Extract.h"
+
+#include <array>
+#include <cmath>
+#include <exception>
+#include <osmium/area/assembler.hpp>
+#include <osmium/area/multipolygon_manager.hpp>
+#include <osmium/handler.hpp>
+#include <osmium/handler/node_locations_for_ways.hpp>
+#include <osmium/index/map/flex_mem.hpp>
+#include <osmium/io/bzip2_compression.hpp>
+#include <osmium/io/gzip_compression.hpp>
+#include <osmium/io/pbf_input.hpp>
+#include <osmium/io/reader.hpp>
+#include <osmium/io/xml_input.hpp>
+#include <osmium/visitor.hpp>
+#include <system_error>
+
+#include "import/TurnRelations.h"
+#include "settings/Utf8.h"
+
+namespace wayloom {
+
+namespace {
+
+// Thrown and caught in this file only: libosmium's handlers have no other way to stop.
+struct Stop {
+  Failure failure;
+};
+
+struct Form {
+  std::string_view ending;
+  const char* format;
+};
+constexpr std::array<Form, 5> kForms = {{{".osm.pbf", "pbf"},
+                                         {".osm.gz", "osm.gz"},
+                                         {".osm.bz2", "osm.bz2"},
+                                         {".pbf", "pbf"},
+                                         {".osm", "osm"}}};
+
+// The limit of OpenStreetMap itself.
+constexpr std::size_t kLongestTagCharacters = 255;
+constexpr std::size_t kLongestTagBytes = 4 * kLongestTagCharacters;
+
+using Locations = osmium::index::map::FlexMem<osmium::unsigned_object_id_type, osmium::Location>;
+using LocationHandler = osmium::handler::NodeLocationsForWays<Locations, Locations>;
+using AreaManager = osmium::area::MultipolygonManager<osmium::area::Assembler>;
+
+const Form* formOf(const std::filesystem::path& path) {
+  const std::string name = path.filename().string();
+  const auto* const found = std::find_if(kForms.begin(), kForms.end(), [&](const Form& form) {
+    return name.size() > form.ending.size() && name.ends_with(form.ending);
+  });
+  return found == kForms.end() ? nullptr : found;
+}
+
+bool isText(std::string_view text) {
+  if (text.size() > kLongestTagBytes) return false;
+  for (std::size_t position = 0; position < text.size();) {
+    const Utf8Step step = utf8Step(text, position);
+    if (!step.valid || step.character < ' ' || step.character == 0x7f) return false;
+    position += step.length;
+  }
+  return true;
+}
+
+// Tags that are no plain text are not taken.
+OsmTags tagsOf(const osmium::TagList& list) {
+  OsmTags tags;
+  for (const osmium::Tag& tag : list) {
+    if (isText(tag.key()) && isText(tag.value())) tags.emplace(tag.key(), tag.value());
+  }
+  return tags;
+}
+
+std::string named(const char* kind, osmium::object_id_type id) {
+  return std::string(kind) + ' ' + std::to_string(id);
+}
+
+/// Checks every object, and hands on those with tags.
+class Sorter : public osmium::handler::Handler {
+ public:
+  explicit Sorter(ExtractVisitor& visitor) : mVisitor(visitor) {}
+
+  void node(const osmium::Node& node) {
+    if (!node.location().valid()) throw Stop{{named("node", node.id()) + outside}};
+    // By then the way has missed it.
+    if (mHasWays) throw Stop{{named("node", node.id()) + " stands behind the ways"}};
+    const Coordinate position{node.location().lat(), node.location().lon()};
+    mBounds = {
+        std::min(mBounds.west, position.longitude), std::min(mBounds.south, position.latitude),
+        std::max(mBounds.east, position.longitude), std::max(mBounds.north, position.latitude)};
+    if (!node.tags().empty()) mVisitor.point(tagsOf(node.tags()), position);
+  }
+
+  void way(const osmium::Way& way) {
+    mHasWays = true;
+    Line line;
+    for (const osmium::NodeRef& node : way.nodes()) {
+      if (!node.location().valid()) {
+        throw Stop{{named("way", way.id()) + " uses " + named("node", node.ref()) +
+                    ", which the file does not hold"}};
+      }
+      const Coordinate position{node.lat(), node.lon()};
+      if (line.empty() || line.back() != position) line.push_back(position);
+    }
+    if (line.size() < 2 || way.tags().empty()) return;
+    mVisitor.line(way.id(), tagsOf(way.tags()), std::move(line));
+  }
+
+  void area(const osmium::Area& area) const {
+    std::vector<GroundPolygon> polygons;
+    for (const auto& outer : area.outer_rings()) {
+      GroundPolygon& polygon = polygons.emplace_back();
+      polygon.push_back(ringOf(outer));
+      for (const auto& inner : area.inner_rings(outer)) polygon.push_back(ringOf(inner));
+    }
+    if (!polygons.empty()) mVisitor.area(tagsOf(area.tags()), std::move(polygons));
+  }
+
+  const RegionBounds& bounds() const { return mBounds; }
+
+ private:
+  static constexpr char outside[] = " lies outside the world";
+
+  static Line ringOf(const osmium::NodeRefList& nodes) {
+    Line ring;
+    for (const osmium::NodeRef& node : nodes) ring.push_back({node.lat(), node.lon()});
+    return ring;
+  }
+
+  ExtractVisitor& mVisitor;
+  bool mHasWays = false;
+  RegionBounds mBounds = {INFINITY, INFINITY, -INFINITY, -INFINITY};
+};
+
+osmium::TagsFilter areaFilter() {
+  osmium::TagsFilter filter(false);
+  for (const char* key : {"addr:housenumber", "amenity", "building", "landuse", "leisure",
+                          "natural", "shop", "tourism", "water"}) {
+    filter.add_rule(true, key);
+  }
+  filter.add_rule(true, "waterway", "riverbank");
+  filter.add_rule(true, "waterway", "dock");
+  filter.add_rule(true, "area", "yes");
+  return filter;
+}
+
+class Reading {
+ public:
+  Reading(const std::filesystem::path& path, const Form& form, const WorkProgress& progress)
+      // With a folder in front, no name stands for standard input or a web address.
+      : mFile(std::filesystem::absolute(path).string(), form.format), mProgress(progress) {}
+
+  template <typename... Handlers>
+  void pass(std::string_view step, osmium::osm_entity_bits::type what, Handlers&... handlers) {
+    osmium::io::Reader reader(mFile, what);
+    while (auto buffer = reader.read()) {
+      osmium::apply(buffer, handlers...);
+      const double size = std::max(1.0, static_cast<double>(reader.file_size()));
+      if (!mProgress(step, static_cast<double>(reader.offset()) / size)) {
+        throw Stop{{"interrupted"}};
+      }
+    }
+    reader.close();
+  }
+
+ private:
+  osmium::io::File mFile;
+  const WorkProgress& mProgress;
+};
+
+RegionBounds readAll(Reading& reading, ExtractVisitor& visitor) {
+  osmium::area::AssemblerConfig config;
+  config.create_empty_areas = false;
+  AreaManager areas(config, areaFilter());
+  TurnRelations turns;
+  reading.pass("Reading relations", osmium::osm_entity_bits::relation, areas, turns);
+  areas.prepare_for_lookup();
+
+  Sorter sorter(visitor);
+  Locations locations;
+  Locations negatives;
+  LocationHandler placing(locations, negatives);
+  placing.ignore_errors();
+  auto& assembling =
+      areas.handler([&](const osmium::memory::Buffer& buffer) { osmium::apply(buffer, sorter); });
+  reading.pass("Reading the map", osmium::osm_entity_bits::nwr, placing, turns, sorter, assembling);
+  turns.visit(visitor);
+  return sorter.bounds();
+}
+
+}  // namespace
+
+std::string extractStem(const std::filesystem::path& path) {
+  const Form* form = formOf(path);
+  std::string name = path.filename().string();
+  name.resize(form ? name.size() - form->ending.size() : 0);
+  return name;
+}
+
+Result<RegionBounds> readExtract(const std::filesystem::path& path, ExtractVisitor& visitor,
+                                 const WorkProgress& progress) {
+  const Form* form = formOf(path);
+  if (!form) return failed("its name is not that of an extract");
+  std::error_code error;
+  if (!std::filesystem::exists(path, error)) return failed("there is no such file");
+  if (!std::filesystem::is_regular_file(path, error)) return failed("it is not a file");
+  if (std::filesystem::file_size(path, error) == 0) return failed("it is empty");
+  try {
+    Reading reading(path, *form, progress);
+    const RegionBounds bounds = readAll(reading, visitor);
+    if (!isValid(bounds)) return failed("it holds no map data");
+    return bounds;
+  } catch (const Stop& stop) {
+    return stop.failure;
+  } catch (const std::exception& fault) {
+    return failed(std::string("it is damaged or no OpenStreetMap data: ") + fault.what());
+  }
+}
+
+}  // namespace wayloom

@@ -108,14 +108,12 @@ void AppDelegate::viewWillAppear(Mode mode) {
 }
 
 void AppDelegate::presentFavorites(FavoritesDelegate& delegate) {
-  mModals.present(QStringLiteral("FavoritesViewController"),
-                  std::make_unique<FavoritesViewController>(mServices.files, delegate),
+  mModals.present(std::make_unique<FavoritesViewController>(mServices.files, delegate),
                   ModalPresenter::Transition::Flip);
 }
 
 void AppDelegate::presentInfo() {
-  mModals.present(QStringLiteral("InfoViewController"),
-                  std::make_unique<InfoViewController>(
+  mModals.present(std::make_unique<InfoViewController>(
                       InfoViewController::Services{.files = mServices.files,
                                                    .homeScreen = *mServices.homeScreen,
                                                    .addresses = mServices.addresses,
@@ -129,7 +127,6 @@ void AppDelegate::presentInfo() {
 void AppDelegate::presentSelectAddress(
     std::function<void(double latitude, double longitude, const QString& address)> block) {
   mModals.present(
-      QStringLiteral("SelectAddressViewController"),
       std::make_unique<SelectAddressViewController>(
           SelectAddressViewController::Services{
               .location = mServices.location, .alerts = mServices.alerts, .tiles = mServices.tiles},

@@ -5,10 +5,10 @@ namespace wayloom {
 ModalPresenter::ModalPresenter(QObject* parent) : QAbstractListModel(parent) {}
 ModalPresenter::~ModalPresenter() = default;
 
-void ModalPresenter::present(const QString& layout, std::unique_ptr<ModalViewController> controller,
+void ModalPresenter::present(std::unique_ptr<ModalViewController> controller,
                              Transition transition) {
   beginInsertRows({}, count(), count());
-  mScreens.push_back({layout, std::move(controller), transition});
+  mScreens.push_back({std::move(controller), transition});
   endInsertRows();
   Q_EMIT countChanged();
 }
@@ -33,7 +33,7 @@ QVariant ModalPresenter::data(const QModelIndex& index, int role) const {
   const Screen& screen = mScreens[static_cast<std::size_t>(index.row())];
   switch (role) {
     case LayoutRole:
-      return screen.layout;
+      return screen.controller->layoutName();
     case ControllerRole:
       return QVariant::fromValue(screen.controller.get());
     case TransitionRole:

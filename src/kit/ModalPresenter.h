@@ -25,9 +25,8 @@ class ModalPresenter : public QAbstractListModel {
   explicit ModalPresenter(QObject* parent = nullptr);
   ~ModalPresenter() override;
 
-  /// Presents a screen with the layout of this name over all others.
-  void present(const QString& layout, std::unique_ptr<ModalViewController> controller,
-               Transition transition);
+  /// Presents a screen over all others.
+  void present(std::unique_ptr<ModalViewController> controller, Transition transition);
 
   /// The topmost screen has left the window for good: it goes, with its controller.
   Q_INVOKABLE void removeTop();
@@ -44,7 +43,6 @@ class ModalPresenter : public QAbstractListModel {
   enum Role { LayoutRole = Qt::UserRole, ControllerRole, TransitionRole };
 
   struct Screen {
-    QString layout;
     std::unique_ptr<ModalViewController> controller;
     Transition transition;
   };

@@ -15,6 +15,11 @@ class ModalViewController : public QObject {
  public:
   using QObject::QObject;
 
+  /// The layout that shows it: the one named after the concrete class.
+  QString layoutName() const {
+    return QString::fromLatin1(metaObject()->className()).section(QStringLiteral("::"), -1);
+  }
+
   /// The back button: gives way to the screen below.
   Q_INVOKABLE virtual void done() { Q_EMIT dismissed(); }
 

@@ -18,7 +18,6 @@ QString InfoViewController::title() const {
 
 void InfoViewController::wihteList() {
   mServices.modals.present(
-      QStringLiteral("WhitelistViewController"),
       std::make_unique<WhitelistViewController>(mServices.files, mServices.homeScreen),
       ModalPresenter::Transition::Slide);
 }

@@ -16,8 +16,7 @@ class RecordedScreens : public ScreenSwitcher {
   void changeToLocation() override { changes.emplace_back("location"); }
   void changeToRouter() override { changes.emplace_back("router"); }
   void presentFavorites(FavoritesDelegate& delegate) override {
-    mScreen.modals.present("FavoritesViewController",
-                           std::make_unique<FavoritesViewController>(mScreen.files, delegate),
+    mScreen.modals.present(std::make_unique<FavoritesViewController>(mScreen.files, delegate),
                            ModalPresenter::Transition::Flip);
   }
   void presentInfo() override { changes.emplace_back("info"); }

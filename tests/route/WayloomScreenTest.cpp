@@ -44,7 +44,6 @@ class RouteScreens : public ScreenSwitcher {
   void presentInfo() override { changes.emplace_back("info"); }
   void presentSelectAddress(SelectAddressViewController::Block block) override {
     mScreen.modals.present(
-        "SelectAddressViewController",
         std::make_unique<SelectAddressViewController>(
             SelectAddressViewController::Services{mScreen.location, mScreen.alerts, mScreen.tiles},
             std::move(block)),

@@ -231,5 +231,13 @@
         <source>确定</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>d MMM yyyy</source>
+        <translation>d MMM yyyy</translation>
+    </message>
+    <message>
+        <source>ddd d MMM</source>
+        <translation>ddd d MMM</translation>
+    </message>
 </context>
 </TS>

@@ -231,5 +231,13 @@
         <source>确定</source>
         <translation>確定</translation>
     </message>
+    <message>
+        <source>d MMM yyyy</source>
+        <translation>yyyy年M月d日</translation>
+    </message>
+    <message>
+        <source>ddd d MMM</source>
+        <translation>M月d日 ddd</translation>
+    </message>
 </context>
 </TS>

@@ -70,8 +70,9 @@ QString DatePicker::rowText(Wheel wheel, int row) const {
   if (row == 0) return localizedText("Today");
   const QDate day = firstDay().addDays(row);
   const bool isThisYear = day.year() == firstDay().year();
-  return QLocale().toString(
-      day, isThisYear ? QStringLiteral("ddd d MMM") : QStringLiteral("d MMM yyyy"));
+  // Every language has its own order of day and month.
+  return QLocale().toString(day,
+                            isThisYear ? localizedText("ddd d MMM") : localizedText("d MMM yyyy"));
 }
 
 }  // namespace wayloom

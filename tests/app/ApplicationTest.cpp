@@ -102,26 +102,6 @@ TEST_F(ApplicationTest, ComingToTheFrontRefreshesTheScreenOfTheModeOnly) {
   EXPECT_TRUE(window->find("enableSwitch")->property("checked").toBool());
 }
 
-TEST_F(ApplicationTest, OnlyOneSimulationIsOnAtATime) {
-  ASSERT_TRUE(files.writeMasterMode(Mode::FixedLocation));
-  ASSERT_TRUE(files.saveLocationSettings(
-      Dictionary{{"enable", "0"}, {"latitude", "57.7"}, {"longitude", "11.9"}}));
-  start();
-  ASSERT_TRUE(window->click("enableSwitch"));
-  ASSERT_TRUE(window->click("btn_exchange"));
-  EXPECT_EQ(window->find("alertMessage")->property("text"), kSpotloomIsWorking);
-  ASSERT_TRUE(window->click("alertButton"));
-  EXPECT_TRUE(isIn("mainMapView"));
-  EXPECT_EQ(mode(), "1");
-  EXPECT_EQ(textsIn(files, SettingsFile::Location)["enable"], "1");
-
-  ASSERT_TRUE(window->click("enableSwitch"));
-  ASSERT_TRUE(window->click("btn_exchange"));
-  EXPECT_TRUE(isIn("mv_main"));
-  EXPECT_EQ(textsIn(files, SettingsFile::Location)["enable"], "0");
-  EXPECT_EQ(mode(), "0");
-}
-
 TEST_F(ApplicationTest, ModalScreensLieOverOneAnotherAndLeaveByKey) {
   start();
   ASSERT_TRUE(window->click("btn_info"));

@@ -48,13 +48,6 @@ TEST_F(SingleInstanceTest, SecondStartTellsTheFirst) {
   EXPECT_EQ(elsewhere.start(), Start::First);
 }
 
-TEST_F(SingleInstanceTest, OneEndsAndTheNextIsTheFirst) {
-  { EXPECT_EQ(SingleInstance(root).start(), Start::First); }
-  SingleInstance next(root);
-  EXPECT_EQ(next.start(), Start::First);
-  EXPECT_EQ(SingleInstance(root).start(), Start::Second);
-}
-
 TEST_F(SingleInstanceTest, WhatACrashLeavesIsNoHindrance) {
   { EXPECT_EQ(SingleInstance(root).start(), Start::First); }
   const fs::path socket = entry(".lock").replace_extension(".socket");

@@ -107,35 +107,19 @@ TEST(StringTables, EnglishHasWhatIsNoEnglishByItself) {
 }
 
 TEST(StringTables, TheFirstLanguageThatIsThereIsUsed) {
-  struct Case {
-    QStringList preferred;
-    const char* table;
+  const std::pair<const char*, std::vector<QStringList>> cases[] = {
+      {"de", {{"de-DE", "en"}, {"de_AT"}}},
+      {"fr", {{"fr-CA"}, {"sv-SE", "fr"}}},
+      {"es", {{"es-419"}}},
+      {"ja", {{"ja"}}},
+      {"zh_Hans", {{"zh-Hans"}, {"zh-CN"}, {"zh"}, {"zh_SG"}, {"zh-Hans-HK"}}},
+      {"zh_Hant", {{"zh-Hant"}, {"zh_TW"}, {"zh-HK"}, {"zh-Hant-CN"}}},
+      {"en", {{"en-GB", "de"}, {"sv"}, {}, {"", "-", "_"}, {"C"}, {"deu"}}},
   };
-  const Case cases[] = {
-      {{"de-DE", "en"}, "de"},
-      {{"de_AT"}, "de"},
-      {{"fr-CA"}, "fr"},
-      {{"es-419"}, "es"},
-      {{"ja"}, "ja"},
-      {{"zh-Hans"}, "zh_Hans"},
-      {{"zh-CN"}, "zh_Hans"},
-      {{"zh"}, "zh_Hans"},
-      {{"zh_SG"}, "zh_Hans"},
-      {{"zh-Hant"}, "zh_Hant"},
-      {{"zh_TW"}, "zh_Hant"},
-      {{"zh-HK"}, "zh_Hant"},
-      {{"zh-Hans-HK"}, "zh_Hans"},
-      {{"zh-Hant-CN"}, "zh_Hant"},
-      {{"sv-SE", "fr"}, "fr"},
-      {{"en-GB", "de"}, "en"},
-      {{"sv"}, "en"},
-      {{}, "en"},
-      {{"", "-", "_"}, "en"},
-      {{"C"}, "en"},
-      {{"deu"}, "en"},
-  };
-  for (const Case& c : cases) {
-    EXPECT_EQ(StringTables::tableFor(c.preferred), c.table) << qPrintable(c.preferred.join(' '));
+  for (const auto& [table, all] : cases) {
+    for (const QStringList& preferred : all) {
+      EXPECT_EQ(StringTables::tableFor(preferred), table) << qPrintable(preferred.join(' '));
+    }
   }
 }
 

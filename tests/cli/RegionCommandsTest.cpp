@@ -1,11 +1,9 @@
 #include <algorithm>
-#include <cstdlib>
 #include <nlohmann/json.hpp>
-#include <sys/wait.h>
 
 #include "regions/RegionStore.h"
 #include "tests/import/OsmText.h"
-#include "tests/support/TemporaryRoot.h"
+#include "tests/support/ShellRun.h"
 
 namespace wayloom {
 namespace {
@@ -16,10 +14,7 @@ using testing::HasSubstr;
 /// Runs the real program as a shell does, with regions in the place of the user's own.
 class RegionCommandsTest : public testing::Test {
  protected:
-  struct Run {
-    int status;
-    std::string out, err;
-  };
+  using Run = ShellRun;
 
   void SetUp() override {
     OsmText text;
@@ -34,12 +29,9 @@ class RegionCommandsTest : public testing::Test {
   fs::path folder() const { return root.path() / "data/wayloom/regions"; }
 
   Run run(const std::string& arguments, const std::string& before = "") const {
-    const std::string command = "WAYLOOM_REGIONS= XDG_DATA_HOME='" + path("data") + "' " + before +
-                                " '" WAYLOOMCTL "' --root '" + root.path().string() + "' " +
-                                arguments + " > '" + path("out") + "' 2> '" + path("err") + "'";
-    const int status = std::system(command.c_str());
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, bytesOf(path("out")),
-            bytesOf(path("err"))};
+    return runInShell("WAYLOOM_REGIONS= XDG_DATA_HOME='" + path("data") + "' " + before +
+                          " '" WAYLOOMCTL "' --root '" + root.path().string() + "' " + arguments,
+                      root.path());
   }
 
   TemporaryRoot root;

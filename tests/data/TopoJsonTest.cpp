@@ -53,29 +53,6 @@ TEST(TopoJson, RefusesWhatIsDamaged) {
   }
 }
 
-TEST(TopoJson, SurvivesBeingCutAnywhere) {
-  const std::string whole = topology("[[[0,0],[1,0],[0,1]]]", R"({"type":"Polygon","arcs":[[0]]})");
-  for (std::size_t length = 0; length < whole.size(); ++length) {
-    EXPECT_FALSE(readTopoJson(whole.substr(0, length), "land")) << "cut at " << length;
-  }
-}
-
-TEST(GeoJson, KeepsLinesAndPolygonsWithTheirProperties) {
-  const auto features = readGeoJson(
-      R"({"type":"FeatureCollection","features":[
-        {"type":"Feature","properties":{"name":"A","layer":2,"list":[1]},
-         "geometry":{"type":"LineString","coordinates":[[11,57],[12,58]]}},
-        {"type":"Feature","geometry":null},
-        {"type":"Feature","geometry":{"type":"Point","coordinates":[1,2]}},
-        {"type":"Feature","geometry":{"type":"LineString","coordinates":[[11,57]]}}]})");
-  ASSERT_TRUE(features);
-  ASSERT_EQ(features->size(), 1U);
-  EXPECT_EQ(features->front().property("name"), "A");
-  EXPECT_EQ(features->front().property("layer"), "2");
-  EXPECT_EQ(features->front().property("list"), "");
-  EXPECT_THAT(features->front().paths[0], ElementsAre(Coordinate{57, 11}, Coordinate{58, 12}));
-}
-
 TEST(GeoJson, RefusesPositionsOffTheGlobe) {
   for (const char* position : {"[181,0]", "[0,91]", "[0]", "\"x\"", "[null,1]"}) {
     const std::string text =

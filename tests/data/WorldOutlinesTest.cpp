@@ -58,18 +58,6 @@ TEST(WorldOutlines, LandAroundThePoleReachesTheMapsEdge) {
   }
 }
 
-TEST(WorldOutlines, SharedArcsAreBordersTheOthersCoast) {
-  Topology topology;
-  topology.arcs = {{{0, 0}, {0, 10}},                        // between the two
-                   {{0, 10}, {10, 10}, {10, 0}, {0, 0}},     // north
-                   {{0, 0}, {-10, 0}, {-10, 10}, {0, 10}}};  // south
-  topology.areas = {{"1", "North", {{{0, 1}}}}, {"2", "South", {{{2, -1}}}}};
-  const auto borders = mapLines(topology, ArcUse::kBorder);
-  ASSERT_EQ(borders.size(), 1U);
-  EXPECT_EQ(borders[0].size(), 2U);
-  EXPECT_EQ(mapLines(topology, ArcUse::kCoast).size(), 2U);
-}
-
 TEST(WorldOutlines, TheSeamIsNoCoast) {
   const auto topology =
       oneRing({{60, 170}, {70, 170}, {70, 180}, {65, -180}, {60, 180}, {60, 170}});

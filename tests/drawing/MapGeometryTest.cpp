@@ -40,14 +40,6 @@ TEST(MapGeometry, PiecesCoverWhatWasCut) {
   }
 }
 
-TEST(MapGeometry, PiecesReachOverTheirSeams) {
-  const MapPolygon square = {{{-50, -50}, {50, -50}, {50, 50}, {-50, 50}, {-50, -50}}};
-  const double overlap = 2;
-  const auto pieces = cutToPieces({square}, {-64, -64, 64, 64}, 4, overlap);
-  ASSERT_GT(pieces.size(), 1U);
-  EXPECT_GT(areaOf(pieces), areaOf({square}) + 100 * overlap);
-}
-
 TEST(MapGeometry, SimplifyingStaysWithinTheTolerance) {
   const MapPath ring = circle({0, 0}, 100, 2000);
   const MapPath rough = simplified(ring, 1);
@@ -55,16 +47,6 @@ TEST(MapGeometry, SimplifyingStaysWithinTheTolerance) {
   EXPECT_EQ(rough.front(), ring.front());
   EXPECT_EQ(rough.back(), ring.back());
   EXPECT_NEAR(signedArea(rough), signedArea(ring), 2 * std::numbers::pi * 100);
-}
-
-TEST(MapGeometry, PartsOfAPathMeasureWhatWasAsked) {
-  const MapPath path = {{0, 0}, {10, 0}, {10, 10}, {30, 10}};
-  for (const double from : {0.0, 5.0, 10.0, 19.0}) {
-    for (const double length : {0.5, 6.0, 15.0}) {
-      EXPECT_NEAR(lengthOf(partOf(path, from, from + length)), length, 1e-9)
-          << from << " + " << length;
-    }
-  }
 }
 
 TEST(MapGeometry, LabelsStandInsideTheirArea) {

@@ -31,29 +31,24 @@ TEST_F(FixedLocationTest, EachWriterSetsItsOwnKeysAndOnlyTheSwitchesPostFirst) {
     changed.insert(off.begin(), off.end());
     return changed;
   };
+  const Coordinate place{1.5, -0.25};
+  const auto switched = [&](FixedLocation& f, bool on) {
+    f.setCoordinate(place);
+    return f.setEnable(on);
+  };
+  const auto placed = [&](Texts changed) {
+    changed.insert({{"latitude", "1.500000"}, {"longitude", "-0.250000"}});
+    return with(changed);
+  };
   const struct {
     const char* writer;
     std::function<Status(FixedLocation&)> write;
     Texts after;
     bool posts;
   } cases[] = {
-      {"the map stops",
-       [](auto& f) {
-         return f.centerMoved({1.5, -0.25});
-       },
-       with({{"latitude", "1.500000"}, {"longitude", "-0.250000"}}), false},
-      {"enable switch on",
-       [](auto& f) {
-         f.setCoordinate({1.5, -0.25});
-         return f.setEnable(true);
-       },
-       with({{"enable", "1"}, {"latitude", "1.500000"}, {"longitude", "-0.250000"}}), true},
-      {"enable switch off",
-       [](auto& f) {
-         f.setCoordinate({2, 3});
-         return f.setEnable(false);
-       },
-       with({{"enable", "0"}, {"latitude", "2.000000"}, {"longitude", "3.000000"}}), true},
+      {"map", [&](auto& f) { return f.centerMoved(place); }, placed({}), false},
+      {"on", [&](auto& f) { return switched(f, true); }, placed({{"enable", "1"}}), true},
+      {"off", [&](auto& f) { return switched(f, false); }, placed({{"enable", "0"}}), true},
       {"drift switch", [](auto& f) { return f.setAuto(true, 0.25F); },
        with({{"a", "1"}, {"s", "0.250000"}}), true},
       {"slider", [](auto& f) { return f.autoSlide(true, 0.1F); },
@@ -81,28 +76,16 @@ TEST_F(FixedLocationTest, TheMapWritesIntoTheFileAsItIsNow) {
   fixed.refresh();
   store({{"enable", "1"}, {"s", "0.700000"}});
   ASSERT_TRUE(fixed.centerMoved({1, 2}));
-  EXPECT_EQ(stored(), (Texts{{"enable", "1"},
-                             {"s", "0.700000"},
-                             {"latitude", "1.000000"},
-                             {"longitude", "2.000000"}}));
-}
-
-TEST_F(FixedLocationTest, WithoutAFileTheSwitchSpringsBackOnceAndThenCreatesIt) {
-  fixed.refresh();
-  ASSERT_TRUE(fixed.centerMoved({1.5, 2.5}));
-  EXPECT_EQ(stored(), (Texts{{"(missing)", ""}}));
-
-  ASSERT_TRUE(fixed.setEnable(true));
-  EXPECT_EQ(stored(), (Texts{{"(missing)", ""}}));
-  EXPECT_EQ(notice.posts.size(), 1U) << "the notice is posted all the same";
-  EXPECT_FALSE(fixed.refresh().enabled);
-
-  ASSERT_TRUE(fixed.setEnable(true));
-  EXPECT_EQ(stored(),
-            (Texts{{"enable", "1"}, {"latitude", "1.500000"}, {"longitude", "2.500000"}}));
+  const Texts written = {
+      {"enable", "1"}, {"s", "0.700000"}, {"latitude", "1.000000"}, {"longitude", "2.000000"}};
+  EXPECT_EQ(stored(), written);
 }
 
 TEST_F(FixedLocationTest, ReadsLenientlyWhateverTheFileHolds) {
+  const PropertyList::Dictionary numbers = {
+      {"enable", true}, {"a", 1}, {"s", 0.25}, {"latitude", -3.5}, {"longitude", 7}};
+  const PropertyList::Dictionary nonsense = {
+      {"enable", PropertyList::Array{"1"}}, {"a", "no"}, {"latitude", "x"}, {"longitude", ""}};
   const struct {
     const char* what;
     PropertyList::Dictionary settings;
@@ -112,18 +95,8 @@ TEST_F(FixedLocationTest, ReadsLenientlyWhateverTheFileHolds) {
   } cases[] = {
       {"empty", {}, false, false, 0, {0, 0}},
       {"only drift", {{"a", "1"}, {"s", "0.5"}}, false, true, 0.5, {0, 0}},
-      {"numbers where texts belong",
-       {{"enable", true}, {"a", 1}, {"s", 0.25}, {"latitude", -3.5}, {"longitude", 7}},
-       true,
-       true,
-       0.25,
-       {-3.5, 7}},
-      {"nonsense",
-       {{"enable", PropertyList::Array{"1"}}, {"a", "no"}, {"latitude", "x"}, {"longitude", ""}},
-       false,
-       false,
-       0,
-       {0, 0}},
+      {"numbers where texts belong", numbers, true, true, 0.25, {-3.5, 7}},
+      {"nonsense", nonsense, false, false, 0, {0, 0}},
       {"white space and letters", {{"enable", "  +007"}, {"a", "yes"}}, true, true, 0, {0, 0}},
   };
   for (const auto& test : cases) {
@@ -135,35 +108,6 @@ TEST_F(FixedLocationTest, ReadsLenientlyWhateverTheFileHolds) {
     EXPECT_EQ(state.driftSpeed, test.speed) << test.what;
     EXPECT_EQ(state.coordinate, test.coordinate) << test.what;
   }
-}
-
-TEST_F(FixedLocationTest, ADamagedFileIsKeptBesideTheNewOne) {
-  const auto path = files.path(SettingsFile::Location);
-  writeBytes(path, "<plist><dict><key>enable");
-  EXPECT_FALSE(fixed.refresh().hasSettings);
-  ASSERT_TRUE(fixed.setEnable(true));
-  EXPECT_EQ(stored().at("enable"), "1");
-  std::vector<std::string> kept;
-  for (const auto& entry : std::filesystem::directory_iterator(path.parent_path())) {
-    if (entry.path() != path) kept.push_back(bytesOf(entry.path()));
-  }
-  EXPECT_THAT(kept, testing::ElementsAre("<plist><dict><key>enable"));
-}
-
-TEST_F(FixedLocationTest, TheModeIsLeftOnlyWhileThePositionIsOff) {
-  ASSERT_TRUE(files.writeMasterMode(Mode::FixedLocation));
-  store({{"enable", "1"}});
-  fixed.refresh();
-  const Status refused = fixed.leaveForRoute();
-  EXPECT_FALSE(refused);
-  EXPECT_EQ(refused.message(), kSpotloomIsWorking);
-  EXPECT_EQ(files.readMasterMode(), Mode::FixedLocation);
-
-  store({{"enable", "0"}});
-  EXPECT_NE(fixed.refusalToLeave(), nullptr) << "the copy counts, not the file";
-  fixed.refresh();
-  ASSERT_TRUE(fixed.leaveForRoute());
-  EXPECT_EQ(textsIn(files, SettingsFile::Master), (Texts{{"mode", "0"}}));
 }
 
 }  // namespace

@@ -34,21 +34,11 @@ class FavoritesScreenTest : public testing::Test, public FavoritesDelegate {
   void favoritesDidSelected() override { happened.emplace_back("selected"); }
 
   Array stored() const { return screen.files.loadArray(SettingsFile::Favorites).value_or(Array()); }
-  QQuickItem* row(int index) const {
-    QQuickItem* item = nullptr;
-    QMetaObject::invokeMethod(list, "itemAtIndex", Q_RETURN_ARG(QQuickItem*, item),
-                              Q_ARG(int, index));
-    return item;
-  }
-  QPoint pointIn(const QQuickItem* item) const {
-    return item->mapToScene({item->width() / 2, item->height() / 2}).toPoint();
-  }
-  void clickOn(const QQuickItem* item) {
-    QTest::mouseClick(&screen.view, Qt::LeftButton, Qt::NoModifier, pointIn(item));
-  }
+  QQuickItem* row(int index) const { return screen.row(index); }
+  void clickOn(const QQuickItem* item) { screen.click(item); }
   QQuickItem* part(int index, const char* name) const { return foundItem(row(index), name); }
   void swipeLeft(int index) {
-    const QPoint from = pointIn(row(index));
+    const QPoint from = ScreenHarness::centerOf(row(index));
     QTest::mousePress(&screen.view, Qt::LeftButton, Qt::NoModifier, from);
     for (int x = 10; x <= 120; x += 10) QTest::mouseMove(&screen.view, from - QPoint(x, 0), 5);
     QTest::mouseRelease(&screen.view, Qt::LeftButton, Qt::NoModifier, from - QPoint(120, 0));
@@ -134,17 +124,6 @@ TEST_F(FavoritesScreenTest, WithoutFavouritesEditIsDisabled) {
   EXPECT_TRUE(happened.empty());
   screen.click("backButton");
   EXPECT_EQ(happened.size(), 1U);
-}
-
-TEST_F(FavoritesScreenTest, TheKeyboardDeletesAndChooses) {
-  open(kPlaces);
-  QTest::keyClick(&screen.view, Qt::Key_Down);
-  QTest::keyClick(&screen.view, Qt::Key_Down);
-  QTest::keyClick(&screen.view, Qt::Key_Delete);
-  EXPECT_EQ(stored(), (Array{kPlaces[0], kPlaces[2]}));
-  QTest::keyClick(&screen.view, Qt::Key_Up);
-  QTest::keyClick(&screen.view, Qt::Key_Return);
-  EXPECT_EQ(screen.stored(SettingsFile::Location)["latitude"], "1.000000");
 }
 
 TEST_F(FavoritesScreenTest, TroublesomeNamesStayOnOneShortLine) {

@@ -43,19 +43,10 @@ class WhitelistScreenTest : public testing::Test {
   std::optional<Dictionary> stored() const {
     return screen.files.loadDictionary(SettingsFile::Whitelist);
   }
-  QQuickItem* row(int index) const {
-    QQuickItem* item = nullptr;
-    QMetaObject::invokeMethod(list, "itemAtIndex", Q_RETURN_ARG(QQuickItem*, item),
-                              Q_ARG(int, index));
-    return item;
-  }
+  QQuickItem* row(int index) const { return screen.row(index); }
   QString nameIn(int index) const { return row(index)->property("appName").toString(); }
   bool hasCheckmark(int index) const { return foundItem(row(index), "checkmark")->isVisible(); }
-  void clickOn(int index) {
-    const QQuickItem* item = row(index);
-    const QPointF middle = item->mapToScene({item->width() / 2, item->height() / 2});
-    QTest::mouseClick(&screen.view, Qt::LeftButton, Qt::NoModifier, middle.toPoint());
-  }
+  void clickOn(int index) { screen.click(row(index)); }
   /// The colour in the middle of a row's icon, once it shows what is expected.
   bool showsIcon(int index, QColor expected) {
     const QPoint middle = row(index)->mapToScene({22, 22}).toPoint();
@@ -108,17 +99,6 @@ TEST_F(WhitelistScreenTest, TheKeyboardReachesEveryRow) {
   QTest::keyClick(&screen.view, Qt::Key_Backtab);
   QTest::keyClick(&screen.view, Qt::Key_Return);
   EXPECT_TRUE(dismissed);
-}
-
-TEST_F(WhitelistScreenTest, ADamagedFileIsSetAsideByTheFirstTouch) {
-  const auto path = screen.files.path(SettingsFile::Whitelist);
-  writeBytes(path, "<plist><dict>");
-  install(1);
-  open();
-  EXPECT_EQ(bytesOf(path), "<plist><dict>") << "reading changes nothing";
-  clickOn(0);
-  EXPECT_EQ(stored(), (Dictionary{{"app0", true}}));
-  EXPECT_EQ(bytesOf(path.string() + ".damaged-1"), "<plist><dict>");
 }
 
 TEST_F(WhitelistScreenTest, WithoutApplicationsItSaysSo) {

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <condition_variable>
-#include <functional>
 #include <mutex>
 #include <vector>
 
@@ -26,7 +25,7 @@ class FakeTileSource : public TileSource {
     std::unique_lock lock(mMutex);
     mDrawn.push_back(key);
     mMostAtOnce = std::max(mMostAtOnce, ++mDrawing);
-    mChanged.wait(lock, [&] { return key.zoom != mHeldZoom && !mIsHeld; });
+    mChanged.wait(lock, [&] { return mHeldZoom != kEverything && mHeldZoom != key.zoom; });
     --mDrawing;
     const int pixels = static_cast<int>(512 * scale);
     QImage image(pixels, pixels, QImage::Format_RGB32);
@@ -39,18 +38,9 @@ class FakeTileSource : public TileSource {
     return {QString::number(west < 0) + QString::number(east > 0)};
   }
 
-  void hold() {
-    set([this] { mIsHeld = true; });
-  }
-  void holdZoom(int zoom) {
-    set([this, zoom] { mHeldZoom = zoom; });
-  }
-  void release() {
-    set([this] {
-      mIsHeld = false;
-      mHeldZoom = -1;
-    });
-  }
+  /// Keeps back what is asked for of this zoom, or everything.
+  void hold(int zoom = kEverything) { setHeld(zoom); }
+  void release() { setHeld(kNothing); }
   bool waitUntilDrawing(int count) {
     return QTest::qWaitFor([&] { return drawing() >= count; });
   }
@@ -68,10 +58,12 @@ class FakeTileSource : public TileSource {
   }
 
  private:
-  void set(const std::function<void()>& change) {
+  static constexpr int kNothing = -1, kEverything = -2;
+
+  void setHeld(int zoom) {
     {
       const std::lock_guard lock(mMutex);
-      change();
+      mHeldZoom = zoom;
     }
     mChanged.notify_all();
   }
@@ -79,8 +71,7 @@ class FakeTileSource : public TileSource {
   mutable std::mutex mMutex;
   std::condition_variable mChanged;
   std::vector<TileKey> mDrawn;
-  bool mIsHeld = false;
-  int mHeldZoom = -1;
+  int mHeldZoom = kNothing;
   int mDrawing = 0;
   int mMostAtOnce = 0;
 };

@@ -1,5 +1,4 @@
 #include <cmath>
-#include <random>
 
 #include "map/MapCamera.h"
 
@@ -78,22 +77,6 @@ TEST(MapCamera, ShowsTheWholeRegionAndNoMoreThanItMust) {
           EXPECT_NEAR(camera.region().center.latitude, latitude, 1e-9) << asked;
         }
       }
-    }
-  }
-}
-
-TEST(MapCamera, ViewAndWorldAgreeAndZoomingKeepsThePoint) {
-  std::mt19937 random(7);
-  std::uniform_real_distribution<double> part(0, 1);
-  for (int i = 0; i < 2000; ++i) {
-    MapCamera camera = cameraOf({375, 667}, {{part(random) * 160 - 80, part(random) * 360 - 180},
-                                             {0, std::exp2(-part(random) * 18) * 300}});
-    const QPointF at(part(random) * 375, part(random) * 667);
-    const WorldPoint world = camera.worldPointAt(at);
-    EXPECT_LT((camera.viewPoint(world) - at).manhattanLength(), 1e-4) << i;
-    camera.zoomAbout(at, part(random) * 4 - 2);
-    if (camera.center().y > 0 && camera.center().y < 1) {
-      EXPECT_LT((camera.viewPoint(world) - at).manhattanLength(), 1e-4) << i;
     }
   }
 }

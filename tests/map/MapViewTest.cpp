@@ -104,14 +104,9 @@ TEST_F(MapViewTest, ShowsItsTilesWhereTheyBelong) {
   ASSERT_TRUE(waitUntilComplete());
   map->setRegion(regionAround(57.71, 11.99, 0.04), Animated::No);
   ASSERT_TRUE(waitUntilComplete());
-  const MapCamera& camera = [&] {
-    MapCamera c;
-    c.setSize({340, 420});
-    c.fit(map->region());
-    return c;
-  }();
+  const MapCamera shown = camera();
   const QImage grabbed = window.grabWindow();
-  for (const PlacedTile& tile : visibleTiles(camera, tileZoom(camera, 18), 1)) {
+  for (const PlacedTile& tile : visibleTiles(shown, tileZoom(shown, 18), 1)) {
     const QRect inView = tile.rect.toRect().intersected(QRect(0, 0, 340, 420));
     if (inView.width() < 3 || inView.height() < 3) continue;
     EXPECT_EQ(grabbed.pixelColor(kCorner + inView.center()), FakeTileSource::colourOf(tile.key))
@@ -134,11 +129,9 @@ TEST_F(MapViewTest, ScalesTilesEvenly) {
   for (const double zoomed : {0.71, 0.9, 1.1, 1.4}) {
     map->setRegion(regionAround(57.7, 11.97, 0.1 / zoomed), Animated::No);
     ASSERT_TRUE(waitUntilComplete());
-    MapCamera camera;
-    camera.setSize({400, 600});
-    camera.fit(map->region());
+    const MapCamera shown = camera();
     const QImage grabbed = window.grabWindow();
-    for (const PlacedTile& tile : visibleTiles(camera, tileZoom(camera, 18), 1)) {
+    for (const PlacedTile& tile : visibleTiles(shown, tileZoom(shown, 18), 1)) {
       const QRect inView = tile.rect.toRect().adjusted(1, 1, -1, -1) & QRect(0, 0, 400, 600);
       for (int y = inView.top(); y <= inView.bottom(); ++y) {
         const QColor colour = grabbed.pixelColor(inView.center().x(), y);
@@ -154,11 +147,8 @@ TEST_F(MapViewTest, ParentStandsInForAMissingTile) {
   ASSERT_TRUE(waitUntilComplete());
   const QColor parent = colourAt(200, 300);
   const MapRegion region = map->region();
-  MapCamera camera;
-  camera.setSize({400, 600});
-  camera.fit(region);
-  const int zoom = tileZoom(camera, 18);
-  source->holdZoom(zoom + 1);
+  const int zoom = tileZoom(camera(), 18);
+  source->hold(zoom + 1);
   map->setRegion({region.center, {0, region.span.longitudeDelta / 2}}, Animated::No);
   ASSERT_TRUE(source->waitUntilDrawing(1));
   EXPECT_EQ(colourAt(200, 300), parent);
@@ -166,21 +156,6 @@ TEST_F(MapViewTest, ParentStandsInForAMissingTile) {
   source->release();
   ASSERT_TRUE(waitUntilComplete());
   EXPECT_NE(colourAt(200, 300), parent);
-}
-
-TEST_F(MapViewTest, ChildrenStandInWhenZoomingOut) {
-  map->setRegion(regionAround(0.02, 0.02, 0.05), Animated::No);
-  ASSERT_TRUE(waitUntilComplete());
-  const QColor child = colourAt(200, 300);
-  MapCamera camera;
-  camera.setSize({400, 600});
-  camera.fit(map->region());
-  source->hold();
-  map->setRegion({map->region().center, {0, map->region().span.longitudeDelta * 2}}, Animated::No);
-  ASSERT_TRUE(source->waitUntilDrawing(1));
-  EXPECT_EQ(colourAt(200, 300), child);
-  source->release();
-  EXPECT_TRUE(waitUntilComplete());
 }
 
 TEST_F(MapViewTest, OverlaysAndAnnotationsAreDrawnAndTaken) {
@@ -204,25 +179,6 @@ TEST_F(MapViewTest, OverlaysAndAnnotationsAreDrawnAndTaken) {
   EXPECT_NE(colourAt(100, 300), QColor(0, 255, 0));
   EXPECT_NE(colourAt(at.x(), at.y()), QColor(Qt::magenta));
   EXPECT_TRUE(map->overlays().empty() && map->annotations().empty());
-}
-
-TEST_F(MapViewTest, ShowsTheUserOnlyWhenAsked) {
-  map->setRegion(regionAround(0, 0, 1), Animated::No);
-  ASSERT_TRUE(waitUntilComplete());
-  map->setUserLocation(Coordinate{0.1, 0.1});
-  const QPoint at = map->viewPoint({0.1, 0.1}).toPoint();
-  const QColor without = colourAt(at.x(), at.y());
-  map->setShowsUserLocation(true);
-  EXPECT_NE(colourAt(at.x(), at.y()), without);
-  map->setUserLocation(std::nullopt);
-  EXPECT_EQ(colourAt(at.x(), at.y()), without);
-}
-
-TEST_F(MapViewTest, CreditsWhatIsInView) {
-  map->setRegion(regionAround(0, 50, 1), Animated::No);
-  EXPECT_EQ(map->attribution(), "01");
-  map->setRegion(regionAround(0, -50, 1), Animated::No);
-  EXPECT_EQ(map->attribution(), "10");
 }
 
 }  // namespace

@@ -37,6 +37,12 @@ struct MapWindow {
   bool waitUntilComplete() {
     return QTest::qWaitFor([this] { return map->isComplete(); });
   }
+  MapCamera camera() const {
+    MapCamera camera;
+    camera.setSize(map->size());
+    camera.fit(map->region());
+    return camera;
+  }
   Coordinate center() const { return map->region().center; }
   QColor colourAt(int x, int y) { return window.grabWindow().pixelColor(x, y); }
 

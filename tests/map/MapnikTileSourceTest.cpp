@@ -7,7 +7,7 @@
 #include "map/RegionTables.h"
 #include "regions/DrawingTable.h"
 #include "regions/RegionWriter.h"
-#include "tests/regions/TemporaryFolder.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace wayloom {
 namespace {
@@ -84,19 +84,6 @@ TEST(MapnikTileSource, DrawsSeaLandAndRoadWhereTheyAre) {
   }
 }
 
-TEST(MapnikTileSource, NeighboursAgreeAlongTheirEdge) {
-  const TemporaryFolder folder;
-  MapnikTileSource source({write(folder.path() / "a.region", addLand, addRoad)});
-  const QImage left = source.draw({8, 127, 124}, 1);
-  const QImage right = source.draw({8, 128, 124}, 1);
-  ASSERT_FALSE(left.isNull());
-  ASSERT_FALSE(right.isNull());
-  for (int y = 0; y < 512; ++y) {
-    // The road runs level and the land is plain, so rows must go on without a step.
-    EXPECT_EQ(left.pixel(511, y), right.pixel(0, y)) << "row " << y;
-  }
-}
-
 TEST(MapnikTileSource, ABrokenRegionTakesNothingFromTheOthers) {
   const TemporaryFolder folder;
   const Region good = write(folder.path() / "good.region", addLand);
@@ -131,9 +118,8 @@ TEST(MapnikTileSource, DrawsOnWithTextThatIsNone) {
         "CREATE VIRTUAL TABLE idx_place_label_geometry USING rtree(pkid, xmin, xmax, ymin, ymax);"
         "INSERT INTO idx_place_label_geometry VALUES (1, 0, 0, 0, 0)"));
   });
-  MapnikTileSource source({odd});
   const TileKey key{0, 0, 0};
-  EXPECT_FALSE(isBlue(colourAt(source.draw(key, 1), key, -8, -8)));
+  EXPECT_FALSE(isBlue(colourAt(MapnikTileSource({odd}).draw(key, 1), key, -8, -8)));
 }
 
 TEST(MapnikTileSource, HasNoTileOutsideTheWorld) {
@@ -159,16 +145,6 @@ TEST(MapnikTileSource, ThreadsDrawTheSameAtTheSameTime) {
   }
   for (std::thread& thread : threads) thread.join();
   for (const QImage& tile : tiles) EXPECT_EQ(tile, expected);
-}
-
-TEST(MapnikTileSource, CreditsThoseWhoseDataIsShown) {
-  Region world = region("world.region");
-  world.info = {"World", "Natural Earth", {}};
-  Region city = region("city.region");
-  city.info = {"City", "Mappers", {11, 57, 12, 58}};
-  const MapnikTileSource source({world, city});
-  EXPECT_EQ(source.attributions(11.5, 57.5, 11.6, 57.6), (QStringList{"Natural Earth", "Mappers"}));
-  EXPECT_EQ(source.attributions(0, 0, 1, 1), QStringList{"Natural Earth"});
 }
 
 TEST(RegionTables, ChoosesTheTableOfTheZoom) {

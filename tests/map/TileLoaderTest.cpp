@@ -68,18 +68,6 @@ TEST(TileLoader, MissingAndFailingTilesAreKnownAndNotDrawnAgain) {
   EXPECT_TRUE(loader.image({{9, 0, 0}, 1}).isNull());
 }
 
-TEST(TileLoader, MapsWithTheSameSourceShareIt) {
-  const auto source = std::make_shared<FakeTileSource>();
-  const auto first = TileLoader::of(source);
-  EXPECT_EQ(TileLoader::of(source), first);
-  EXPECT_NE(TileLoader::of(std::make_shared<FakeTileSource>()), first);
-  const int one = 0, other = 0;
-  first->want(&one, row(9, 0, 2));
-  first->want(&other, row(9, 1, 2));
-  ASSERT_TRUE(waitFor(*first, row(9, 0, 3)));
-  EXPECT_EQ(source->drawn().size(), 3u);
-}
-
 TEST(TileLoader, EndsWhileItsWorkersDraw) {
   const auto source = std::make_shared<FakeTileSource>();
   for (int i = 0; i < 20; ++i) {

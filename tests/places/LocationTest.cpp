@@ -33,40 +33,23 @@ class Listener : public LocationDelegate {
   static std::string senderText(Location* sender) { return sender ? " (sender)" : ""; }
 };
 
-class FakeUserLocationMap : public UserLocationMap {
- public:
-  void setDelegate(UserLocationMapDelegate* to) override { delegate = to; }
-  void addToKeyWindow() override { isInWindow = true; }
-  void removeFromWindow() override { isInWindow = false; }
-  void setShowsUserLocation(bool shows) override { showsUser = shows; }
-
-  UserLocationMapDelegate* delegate = nullptr;
-  bool isInWindow = false;
-  bool showsUser = false;
-};
-
 class LocationTest : public testing::Test {
  protected:
   LocationPlatform platform() {
-    return {[this] { return servicesOn; },
+    return {[this] { return isOn; },
             [this] {
               auto made = std::make_unique<FakePositionSource>();
               source = made.get();
               return made;
             },
-            [this] {
-              auto made = std::make_unique<FakeUserLocationMap>();
-              map = made.get();
-              return made;
-            },
+            {},
             geocoder,
             defaults,
             alerts};
   }
 
-  bool servicesOn = true;
+  bool isOn = true;
   FakePositionSource* source = nullptr;
-  FakeUserLocationMap* map = nullptr;
   FakeGeocoder geocoder;
   FakeDefaults defaults;
   FakeAlerts alerts;
@@ -91,40 +74,23 @@ TEST_F(LocationTest, OneFixPerRequestIsReportedAndRemembered) {
 
 TEST_F(LocationTest, FailuresAreToldWithTheAlertsThatBelongToThem) {
   const std::string denied = "定位失败|请开启定位以保证程序正常运行|确定";
+  const auto update = [](std::optional<PositionFix> fix) {
+    return [=](PositionSourceDelegate& delegate) { delegate.didUpdateToLocation(fix); };
+  };
+  const auto failure = [](PositionError error) {
+    return [=](PositionSourceDelegate& delegate) { delegate.didFailWithError(error); };
+  };
   const struct {
     const char* what;
     std::function<void(PositionSourceDelegate&)> happen;
     const char* told;
     std::vector<std::string> alerts;
   } cases[] = {
-      {"no fix",
-       [](auto& d) { d.didUpdateToLocation(std::nullopt); },
-       "no position: - (sender)",
-       {}},
-      {"invalid fix",
-       [](auto& d) {
-         d.didUpdateToLocation(PositionFix{{1, 2}, -1});
-       },
-       "no position: - (sender)",
-       {}},
-      {"negative zero",
-       [](auto& d) {
-         d.didUpdateToLocation(PositionFix{{1, 2}, -0.0});
-       },
-       "no position: - (sender)",
-       {}},
-      {"denied",
-       [](auto& d) {
-         d.didFailWithError(PositionError{1, "denied"});
-       },
-       "no position: denied (sender)",
-       {denied}},
-      {"other",
-       [](auto& d) {
-         d.didFailWithError(PositionError{2, "network"});
-       },
-       "no position: network (sender)",
-       {}},
+      {"no fix", update(std::nullopt), "no position: - (sender)", {}},
+      {"invalid fix", update(PositionFix{{1, 2}, -1}), "no position: - (sender)", {}},
+      {"negative zero", update(PositionFix{{1, 2}, -0.0}), "no position: - (sender)", {}},
+      {"denied", failure({1, "denied"}), "no position: denied (sender)", {denied}},
+      {"other", failure({2, "network"}), "no position: network (sender)", {}},
   };
   for (const auto& test : cases) {
     listener.told.clear();
@@ -139,7 +105,7 @@ TEST_F(LocationTest, FailuresAreToldWithTheAlertsThatBelongToThem) {
 }
 
 TEST_F(LocationTest, DisabledServicesAlertAndFailWithoutAsking) {
-  servicesOn = false;
+  isOn = false;
   location.sharedInstacneWithDelegate(&listener).startLocation();
   EXPECT_THAT(alerts.shown, testing::ElementsAre("|定位服务未开启|确定"));
   EXPECT_THAT(listener.told, testing::ElementsAre("no position: - (sender)"));
@@ -179,35 +145,6 @@ TEST_F(LocationTest, GeocodingReportsToItsOwnDelegate) {
   location.addressWithCoordinate({57.5, 11}, gone.get());
   gone.reset();
   geocoder.coordinates[2].second(found);
-}
-
-TEST_F(LocationTest, TheOwnAddressIsKept) {
-  const auto own = location.locationWihtDelegate(&listener);
-  own->latitude = 57.5;
-  own->startGeocoder();
-  EXPECT_EQ(geocoder.coordinates[0].first, (Coordinate{57.5, 0}));
-  geocoder.coordinates[0].second({{{{{57.5, 0}, {"Here"}}}}, std::nullopt});
-  EXPECT_EQ(own->address, "Here");
-  EXPECT_THAT(listener.told, testing::ElementsAre("address Here (sender)"));
-  EXPECT_FALSE(location.address()) << "only the shared instance's address is the class's";
-}
-
-TEST_F(LocationTest, TheInvisibleMapFallsBackToThePositionService) {
-  const auto own = location.locationWihtDelegate(&listener);
-  own->tryToUseMapView();
-  EXPECT_TRUE(map->isInWindow && map->showsUser);
-  map->delegate->mapViewDidUpdateUserLocation(PositionFix{{5, 6}, 10});
-  EXPECT_FALSE(map->isInWindow || map->showsUser);
-  EXPECT_THAT(listener.told, testing::ElementsAre("position 5.000000 6.000000 (sender)"));
-  EXPECT_EQ(source, nullptr);
-
-  own->tryToUseMapView();
-  map->delegate->mapViewDidUpdateUserLocation(PositionFix{{5, 6}, -1});
-  EXPECT_TRUE(source->isUpdating);
-  source->isUpdating = false;
-  map->delegate->mapViewDidFailToLocateUserWithError(std::nullopt);
-  EXPECT_TRUE(source->isUpdating);
-  EXPECT_EQ(listener.told.size(), 1U) << "no failure is told on this path";
 }
 
 TEST(ReplaceUnicode, TurnsEscapesIntoCharacters) {

@@ -53,20 +53,6 @@ TEST(SVPlacemark, FillsEveryFieldFromItsComponent) {
   EXPECT_EQ(place.formattedAddress, std::nullopt);
 }
 
-TEST(SVPlacemark, TheLastMatchingComponentWinsEvenWithoutAName) {
-  EXPECT_EQ(withComponents({{{"neighborhood"}, "a"}, {{"sublocality"}, "b"}}).subLocality, "b");
-  EXPECT_EQ(
-      withComponents({{{"sublocality"}, "b"}, {{"administrative_area_level_3"}, "c"}}).subLocality,
-      "c");
-  const SVPlacemark both = withComponents({{{"locality", "postal_code"}, "x"}});
-  EXPECT_EQ(both.locality, "x");
-  EXPECT_EQ(both.postalCode, "x");
-  EXPECT_EQ(parsed(R"({"address_components": [{"types": ["locality"], "long_name": "x"},
-                                              {"types": ["locality"]}]})")
-                .locality,
-            std::nullopt);
-}
-
 TEST(SVPlacemark, NamesItselfByTheMostPrecisePart) {
   using Types = std::vector<const char*>;
   const Types number = {"street_number"}, route = {"route"}, part = {"sublocality"},
@@ -136,27 +122,6 @@ TEST(SVPlacemark, ReadsWhatIsMissingOrMistypedAsNothing) {
   }
   EXPECT_FALSE(parsed(R"({"geometry": {"location": "here"}})").location);
   EXPECT_EQ(parsed(R"({"geometry": {"location": {}}})").location, Coordinate());
-}
-
-TEST(SVPlacemark, DescribesItselfWithAPlaceholderForWhatIsMissing) {
-  EXPECT_EQ(withComponents({{{"route"}, "Main St"}}).description(), "{\n}");
-  SVPlacemark place = withComponents({{{"administrative_area_level_1"}, "Oregon"}});
-  place.formattedAddress = "Oregon, Nowhere";
-  place.coordinate = {44, -120.5};
-  EXPECT_EQ(place.description(),
-            "{\n"
-            "    formattedAddress = Oregon, Nowhere;\n"
-            "    subThoroughfare = (null);\n"
-            "    thoroughfare = (null);\n"
-            "    subLocality = (null);\n"
-            "    locality = (null);\n"
-            "    subAdministrativeArea = (null);\n"
-            "    administrativeArea = Oregon;\n"
-            "    postalCode = (null);\n"
-            "    country = (null);\n"
-            "    ISOcountryCode = (null);\n"
-            "    coordinate = 44.000000, -120.500000;\n"
-            "}");
 }
 
 }  // namespace

@@ -134,12 +134,5 @@ TEST(CommandNotice, RunsTheCommandWithTheNameAndNoShell) {
   EXPECT_EQ(bytesOf(output), std::string("1 ") + kName + "\n");
 }
 
-TEST(SystemNotices, AMissingCommandDisturbsNothing) {
-  const Environment bus("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent/bus");
-  const Environment command("WAYLOOM_NOTICE_COMMAND", "/nonexistent/command");
-  ASSERT_EQ(noticeCommand(), "/nonexistent/command");
-  SystemNotices(noticeCommand()).post(kName);
-}
-
 }  // namespace
 }  // namespace wayloom

@@ -65,32 +65,6 @@ TEST(RunLoop, DropsACancelledTimerAndLetsATimerCancelItself) {
   EXPECT_EQ(witness.use_count(), 1) << "the loop still holds the work of a timer that fired";
 }
 
-TEST(RunLoop, LetsNeitherTimersNorPostsStarveTheOther) {
-  RunLoop loop;
-  int timers = 0;
-  int posts = 0;
-  std::unique_ptr<MainQueue::Timer> timer;
-  std::function<void()> again = [&] {
-    ++timers;
-    timer = loop.schedule(0ms, again);
-  };
-  std::function<void()> repost = [&] {
-    ++posts;
-    loop.post(repost);
-  };
-  again();
-  repost();
-  EXPECT_TRUE(loop.runUntil([&] { return timers > 50 && posts > 50; }, kLimit))
-      << timers << " timers, " << posts << " posts";
-}
-
-TEST(RunLoop, TakesTheLongestDelayWithoutOverflow) {
-  RunLoop loop;
-  bool fired = false;
-  const auto timer = loop.schedule(std::chrono::milliseconds::max(), [&] { fired = true; });
-  EXPECT_FALSE(loop.runUntil([&] { return fired; }, 1ms));
-}
-
 TEST(RunLoop, AHandleMayOutliveItsLoop) {
   std::unique_ptr<MainQueue::Timer> timer;
   auto witness = std::make_shared<int>();

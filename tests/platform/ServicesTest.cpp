@@ -1,29 +1,20 @@
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
 
-#include "platform/PreferredLanguage.h"
 #include "platform/Services.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace wayloom {
 namespace {
 
 class ServicesTest : public testing::Test {
  protected:
-  ServicesTest() {
-    std::string pattern = testing::TempDir() + "servicesXXXXXX";
-    folder = mkdtemp(pattern.data());
-    file = folder / "services.json";
-  }
-  ~ServicesTest() override { std::filesystem::remove_all(folder); }
-
-  Services read(std::string_view text) {
-    std::ofstream(file) << text;
+  Services read(const std::string& text) {
+    writeBytes(file, text);
     return Services::read(file);
   }
 
-  std::filesystem::path folder;
-  std::filesystem::path file;
+  TemporaryFolder folder;
+  const std::filesystem::path file = folder.path() / "services.json";
 };
 
 TEST_F(ServicesTest, NothingIsOnlineUnlessTurnedOn) {
@@ -49,25 +40,17 @@ TEST_F(ServicesTest, NothingIsOnlineUnlessTurnedOn) {
 }
 
 TEST_F(ServicesTest, ADamagedFileTurnsEverythingOffAndSaysWhy) {
-  const std::string good = R"("geocoding": "https://a.example")";
-  const std::string cases[] = {
-      "",
-      "{",
-      "[]",
-      "{\"online\": true, " + good,
-      "{\"online\": \"yes\", " + good + "}",
-      "{\"online\": 1, " + good + "}",
-      "{\"online\": true, " + good + ", \"tiles\": 5}",
-      "{\"online\": true, " + good + ", \"tiles\": \"\"}",
-      "{\"online\": true, " + good + ", \"tiles\": \"file:///etc/passwd\"}",
-      "{\"online\": true, " + good + ", \"tiles\": \"https://\"}",
-      "{\"online\": true, " + good + ", \"tiles\": \"https:///path\"}",
-      "{\"online\": true, " + good + ", \"tiles\": \"https://a.example/?q=\"}",
-      "{\"online\": true, " + good + ", \"tiles\": \"https://user@a.example\"}",
-      "{\"online\": true, " + good + ", \"tiles\": \"https://a.example\\r\\nX: y\"}",
-      "{\"online\": true, " + good + ", \"tiles\": \"\xff\"}",
-      "{\"online\": true, " + good + "}" + std::string(100'000, ' '),
-  };
+  const std::string on = R"({"online": true, "geocoding": "https://a.example")";
+  std::vector<std::string> cases = {"", "{", "[]", on, on + "}" + std::string(100'000, ' ')};
+  for (const char* online : {"\"yes\"", "1"}) {
+    cases.push_back("{\"online\": " + std::string(online) +
+                    ", \"geocoding\": \"https://a.example\"}");
+  }
+  for (const char* tiles : {"5", "\"\"", "\"file:///etc/passwd\"", "\"https://\"",
+                            "\"https:///path\"", "\"\xff\"", "\"https://a.example/?q=\"",
+                            "\"https://user@a.example\"", "\"https://a.example\\r\\nX: y\""}) {
+    cases.push_back(on + ", \"tiles\": " + tiles + "}");
+  }
   for (const std::string& text : cases) {
     const Services services = read(text);
     EXPECT_EQ(services.address("geocoding"), "") << text.substr(0, 200);
@@ -93,23 +76,6 @@ TEST_F(ServicesTest, FindsTheFileInTheUsersConfiguration) {
   }
   unsetenv("XDG_CONFIG_HOME");
   setenv("HOME", home.c_str(), 1);
-}
-
-TEST(PreferredLanguage, IsTheFirstTheEnvironmentNames) {
-  const struct {
-    const char *language, *all, *lang, *expected;
-  } cases[] = {{"", "", "sv_SE.UTF-8", "sv-SE"},  {"zh_Hans:en", "", "sv_SE", "zh-Hans"},
-               {"", "de_DE@euro", "sv", "de-DE"}, {"", "C", "fr", "fr"},
-               {"", "", "C.UTF-8", "en"},         {"", "POSIX", "", "en"}};
-  for (const auto& test : cases) {
-    setenv("LANGUAGE", test.language, 1);
-    setenv("LC_ALL", test.all, 1);
-    unsetenv("LC_MESSAGES");
-    setenv("LANG", test.lang, 1);
-    EXPECT_EQ(preferredLanguage(), test.expected)
-        << test.language << '|' << test.all << '|' << test.lang;
-  }
-  for (const char* variable : {"LANGUAGE", "LC_ALL", "LANG"}) unsetenv(variable);
 }
 
 }  // namespace

@@ -4,7 +4,7 @@
 #include "platform/RunLoop.h"
 #include "regions/RegionWriter.h"
 #include "tests/regions/AsciiRoads.h"
-#include "tests/regions/TemporaryFolder.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace wayloom {
 namespace {

@@ -5,7 +5,7 @@
 
 #include "regions/RegionStore.h"
 #include "regions/RegionWriter.h"
-#include "tests/regions/TemporaryFolder.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace wayloom {
 namespace {
@@ -45,64 +45,48 @@ TEST(RegionStore, FindsARegionAndWhatItSaysOfItself) {
 }
 
 TEST(RegionStore, RefusesByNameWhatItCannotUse) {
-  const std::vector<std::pair<std::function<void(const fs::path&)>, const char*>> cases = {
-      {[](const fs::path& path) {
-         std::ofstream(path) << "not a database, but long enough to be ";
-       },
-       "damaged"},
-      {[](const fs::path& path) { std::ofstream(path) << ""; }, "not a region file"},
-      {[](const fs::path& path) { fs::create_directory(path); }, "not a file"},
-      {[](const fs::path& path) { ::mkfifo(path.c_str(), 0600); }, "not a file"},
-      {[](const fs::path& path) { fs::create_symlink("nowhere", path); }, "missing"},
-      {[](const fs::path& path) {
-         writeFilledRegion(path);
-         fs::resize_file(path, fs::file_size(path) / 2);
-       },
-       "damaged"},
-      {[](const fs::path& path) {
-         writeFilledRegion(path);
-         std::fstream file(path, std::ios::in | std::ios::out | std::ios::binary);
-         file.seekp(100) << std::string(8000, '\xff');
-       },
-       "damaged"},
-      {[](const fs::path& path) {
-         (void)writeRegion(path, "COMMIT; PRAGMA user_version = 1; BEGIN");
-       },
-       "version 1"},
-      {[](const fs::path& path) {
-         (void)writeRegion(path, "COMMIT; PRAGMA application_id = 7; BEGIN");
-       },
-       "not a region file"},
-      {[](const fs::path& path) { (void)writeRegion(path, "DROP TABLE meta"); }, "damaged"},
-      {[](const fs::path& path) { (void)writeRegion(path, "DELETE FROM meta WHERE key = 'name'"); },
-       "no name"},
-      {[](const fs::path& path) {
-         (void)writeRegion(path, "UPDATE meta SET value = hex(zeroblob(9999))");
-       },
-       "too long"},
-      {[](const fs::path& path) {
-         (void)writeRegion(path, "UPDATE meta SET value = 'nan' WHERE key = 'east'");
-       },
-       "bounds"},
-      {[](const fs::path& path) {
-         (void)writeRegion(path, "UPDATE meta SET value = '1e9' WHERE key = 'north'");
-       },
-       "bounds"},
-      {[](const fs::path& path) {
-         (void)writeRegion(path, "UPDATE meta SET value = '9.4x' WHERE key = 'west'");
-       },
-       "bounds"},
+  using Make = std::function<void(const fs::path&)>;
+  const auto sql = [](const char* statements) -> Make {
+    return [=](const fs::path& path) { (void)writeRegion(path, statements); };
   };
-  for (std::size_t number = 0; number < cases.size(); ++number) {
-    const TemporaryFolder folder;
-    const fs::path path = folder.path() / "bad.region";
-    cases[number].first(path);
-    writeFilledRegion(folder.path() / "good.region");
-    const RegionStore store({folder.path()});
+  const auto text = [](const char* bytes) -> Make {
+    return [=](const fs::path& path) { writeBytes(path, bytes); };
+  };
+  const Make folder = [](const fs::path& path) { fs::create_directory(path); };
+  const Make pipe = [](const fs::path& path) { ::mkfifo(path.c_str(), 0600); };
+  const Make link = [](const fs::path& path) { fs::create_symlink("nowhere", path); };
+  const Make overwritten = [](const fs::path& path) {
+    writeFilledRegion(path);
+    std::fstream file(path, std::ios::in | std::ios::out | std::ios::binary);
+    file.seekp(100) << std::string(8000, '\xff');
+  };
+  const std::pair<Make, const char*> cases[] = {
+      {text("not a database, but long enough to be "), "damaged"},
+      {text(""), "not a region file"},
+      {folder, "not a file"},
+      {pipe, "not a file"},
+      {link, "missing"},
+      {overwritten, "damaged"},
+      {sql("COMMIT; PRAGMA user_version = 1; BEGIN"), "version 1"},
+      {sql("COMMIT; PRAGMA application_id = 7; BEGIN"), "not a region file"},
+      {sql("DROP TABLE meta"), "damaged"},
+      {sql("DELETE FROM meta WHERE key = 'name'"), "no name"},
+      {sql("UPDATE meta SET value = hex(zeroblob(9999))"), "too long"},
+      {sql("UPDATE meta SET value = 'nan' WHERE key = 'east'"), "bounds"},
+      {sql("UPDATE meta SET value = '1e9' WHERE key = 'north'"), "bounds"},
+      {sql("UPDATE meta SET value = '9.4x' WHERE key = 'west'"), "bounds"},
+  };
+  int number = 0;
+  for (const auto& [make, reason] : cases) {
+    const TemporaryFolder directory;
+    const fs::path path = directory.path() / "bad.region";
+    make(path);
+    writeFilledRegion(directory.path() / "good.region");
+    const RegionStore store({directory.path()});
     EXPECT_EQ(store.regions().size(), 1u) << "case " << number;
     ASSERT_EQ(store.refused().size(), 1u) << "case " << number;
     EXPECT_EQ(store.refused()[0].path, path);
-    EXPECT_THAT(store.refused()[0].reason, HasSubstr(cases[number].second)) << "case " << number;
+    EXPECT_THAT(store.refused()[0].reason, HasSubstr(reason)) << "case " << number++;
   }
 }
 

@@ -7,7 +7,7 @@
 #include "regions/PlaceIndex.h"
 #include "regions/PlaceWriter.h"
 #include "regions/RegionWriter.h"
-#include "tests/regions/TemporaryFolder.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace wayloom {
 
@@ -58,40 +58,33 @@ class SmallIndex {
   std::optional<PlaceIndex> mIndex;
 };
 
-inline IndexedPlace settlement(std::string name, std::string division, std::string country,
-                               Coordinate coordinate, std::int64_t population) {
-  IndexedPlace indexed;
-  indexed.place = {PlaceKind::kSettlement, std::move(name), "",        std::move(division),
-                   std::move(country),     coordinate,      population};
-  return indexed;
+inline IndexedPlace indexed(Place place, std::vector<Line> lines = {}) {
+  IndexedPlace result;
+  result.place = std::move(place);
+  result.lines = std::move(lines);
+  return result;
 }
 
-inline IndexedPlace street(std::string name, std::string locality, std::string country, Line line) {
-  IndexedPlace indexed;
-  indexed.place = {PlaceKind::kStreet,
-                   std::move(name),
-                   std::move(locality),
-                   "",
-                   std::move(country),
-                   line.front(),
-                   0};
-  indexed.lines = {std::move(line)};
-  return indexed;
+inline IndexedPlace settlement(const std::string& name, const std::string& division,
+                               const std::string& country, Coordinate at, std::int64_t population) {
+  return indexed({PlaceKind::kSettlement, name, "", division, country, at, population});
 }
 
-inline IndexedPlace address(std::string name, std::string locality, Coordinate coordinate) {
-  IndexedPlace indexed;
-  indexed.place = {
-      PlaceKind::kAddress, std::move(name), std::move(locality), "", "", coordinate, 0};
-  return indexed;
+inline IndexedPlace street(const std::string& name, const std::string& locality,
+                           const std::string& country, const Line& line) {
+  return indexed({PlaceKind::kStreet, name, locality, "", country, line.front(), 0}, {line});
 }
 
-inline IndexedPlace country(std::string name, Line outline, std::vector<Line> holes = {}) {
-  IndexedPlace indexed;
-  indexed.place = {PlaceKind::kCountry, std::move(name), "", "", "", outline.front(), 1000000};
-  holes.insert(holes.begin(), std::move(outline));
-  indexed.areas = {std::move(holes)};
-  return indexed;
+inline IndexedPlace address(const std::string& name, const std::string& locality, Coordinate at) {
+  return indexed({PlaceKind::kAddress, name, locality, "", "", at, 0});
+}
+
+inline IndexedPlace country(const std::string& name, const Line& outline,
+                            std::vector<Line> holes = {}) {
+  auto result = indexed({PlaceKind::kCountry, name, "", "", "", outline.front(), 1000000});
+  holes.insert(holes.begin(), outline);
+  result.areas = {std::move(holes)};
+  return result;
 }
 
 }  // namespace wayloom

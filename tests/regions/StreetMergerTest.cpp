@@ -29,14 +29,5 @@ TEST(StreetMerger, JoinsPiecesOfAStreetButNotNamesakesElsewhere) {
   }
 }
 
-TEST(StreetMerger, JoinsAParallelPieceFarFromAnyCorner) {
-  // The short piece lies beside the middle of a straight, cornerless one.
-  const auto streets = mergeStreets({
-      {"Long", {{50, 10}, {50, 10.2}}},
-      {"Long", {{50.001, 10.1}, {50.0011, 10.101}}},
-  });
-  EXPECT_EQ(streets.size(), 1u);
-}
-
 }  // namespace
 }  // namespace wayloom

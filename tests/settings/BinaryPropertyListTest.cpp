@@ -68,26 +68,16 @@ TEST(BinaryPropertyListTest, OtherImplementationsReadOursAndWeReadTheirs) {
   for (int i = 0; i < 300; ++i) {
     many.push_back(Dictionary{{"lat", i * 0.1}, {"lng", -i * 1e-7}});
   }
-  const PropertyList values[] = {true,
-                                 0,
-                                 255,
-                                 65536,
-                                 -1,
-                                 std::numeric_limits<std::int64_t>::min(),
-                                 std::numeric_limits<std::uint64_t>::max(),
-                                 0.1,
-                                 5e-324,
-                                 "",
-                                 "plain",
-                                 "Göteborg & <☕🚗>",
-                                 std::string(1000, 'x'),
-                                 many,
-                                 Array{},
-                                 Dictionary{},
-                                 Dictionary{{"ключ", Array{false, "x"}}, {"a<b", 1}},
-                                 Value(PropertyList::Data{std::vector<std::uint8_t>(300, 7)}),
-                                 Value(PropertyList::Date{789012345}),
-                                 Value(PropertyList::Date{-1e9})};
+  const PropertyList blob = Value(PropertyList::Data{std::vector<std::uint8_t>(300, 7)});
+  const PropertyList now = Value(PropertyList::Date{789012345});
+  const PropertyList past = Value(PropertyList::Date{-1e9});
+  const PropertyList keys = Dictionary{{"ключ", Array{false, "x"}}, {"a<b", 1}};
+  const PropertyList least = std::numeric_limits<std::int64_t>::min();
+  const PropertyList most = std::numeric_limits<std::uint64_t>::max();
+  const PropertyList text = std::string(1000, 'x'), odd = "Göteborg & <☕🚗>";
+  const PropertyList none = Dictionary(), empty = Array();
+  const PropertyList values[] = {true,    0,    255, 65536, -1,    least, most, 0.1,  5e-324, "",
+                                 "plain", text, odd, many,  empty, none,  keys, blob, now,    past};
   for (const PropertyList& value : values) {
     const ParsedPropertyList parsed = parsePropertyList(binaryOfOtherWriter(value));
     ASSERT_TRUE(parsed.value) << parsed.damage << " for " << *serializePropertyList(value).bytes;
@@ -122,36 +112,22 @@ TEST(BinaryPropertyListTest, FormsThatOtherWritersSeldomUse) {
 
 TEST(BinaryPropertyListTest, DamagedObjectsAreRefused) {
   const std::string eight(8, '\xFF');
-  const std::string objects[] = {std::string(1, '\0'),
-                                 "\x0F",
-                                 "\x15",
-                                 "\x13",
-                                 "\x14"s + bigEndian(1, 8) + bigEndian(0, 8),
-                                 "\x14"s + eight + bigEndian(0, 8),
-                                 "\x20",
-                                 "\x23"
-                                 "abc",
-                                 "\x32"
-                                 "abcd",
-                                 "\x4F\x13"s + eight,
-                                 "\x4F\x20",
-                                 "\x4F",
-                                 "\x5F\x13"s + eight,
-                                 "\x6F\x13"
-                                 "\x7F" +
-                                     eight.substr(1),
-                                 "\x51\xFF",
-                                 "\x70",
-                                 "\x88"s + eight + eight,
-                                 "\xA1",
-                                 "\xA1\x00"s,
-                                 "\xA1\x01",
-                                 "\xAF\x13"s + eight,
-                                 "\xD1",
-                                 "\xD1\x00\x00"s,
-                                 "\xDF\x13"s + eight,
-                                 "\xC0",
-                                 "\xE0"};
+  std::vector<std::string> objects = {std::string(1, '\0'),
+                                      "\xA1\x00"s,
+                                      "\xD1\x00\x00"s,
+                                      "\x23zzz",
+                                      "\x32zzzz",
+                                      "\x14"s + bigEndian(1, 8) + bigEndian(0, 8),
+                                      "\x14"s + eight + bigEndian(0, 8),
+                                      "\x88"s + eight + eight};
+  for (const char* const bytes : {"\x0F", "\x15", "\x13", "\x20", "\x4F\x20", "\x4F", "\x51\xFF",
+                                  "\x70", "\xA1", "\xA1\x01", "\xD1", "\xC0", "\xE0"}) {
+    objects.emplace_back(bytes);
+  }
+  for (const char* const counted : {"\x4F\x13", "\x5F\x13", "\x6F\x13", "\xAF\x13", "\xDF\x13"}) {
+    objects.push_back(counted + eight);
+    objects.push_back(std::string(counted) + '\x7F' + eight.substr(1));
+  }
   for (const std::string& object : objects) {
     EXPECT_FALSE(parsePropertyList(binary({.objects = {object}})).value)
         << testing::PrintToString(object);
@@ -162,21 +138,21 @@ TEST(BinaryPropertyListTest, DamagedTablesAreRefused) {
   constexpr std::uint64_t kHuge = std::numeric_limits<std::uint64_t>::max();
   const std::vector<std::string> good{"\xA1\x01", "\x09"};
   ASSERT_TRUE(parsePropertyList(binary({.objects = good})).value);
-  const Parts spoiled[] = {{.objects = good, .offsetBytes = 0},
-                           {.objects = good, .offsetBytes = 9},
-                           {.objects = good, .referenceBytes = 0},
-                           {.objects = good, .referenceBytes = 255},
-                           {.objects = good, .root = 2},
-                           {.objects = good, .root = kHuge},
-                           {.objects = good, .countError = 1},
-                           {.objects = good, .countError = kHuge / 2},
-                           {.objects = good, .tableError = 9},
-                           {.objects = good, .tableError = 0 - kHuge / 3},
-                           {.objects = {}, .offsets = {0}},
-                           {.objects = {}, .offsets = {7}},
-                           {.objects = {}, .offsets = {8}},
-                           {.objects = {}, .offsets = {0xFFFFFFFF}},
-                           {.objects = {}}};
+  std::vector<Parts> spoiled(11, Parts{.objects = good});
+  spoiled[0].offsetBytes = 0;
+  spoiled[1].offsetBytes = 9;
+  spoiled[2].referenceBytes = 0;
+  spoiled[3].referenceBytes = 255;
+  spoiled[4].root = 2;
+  spoiled[5].root = kHuge;
+  spoiled[6].countError = 1;
+  spoiled[7].countError = kHuge / 2;
+  spoiled[8].tableError = 9;
+  spoiled[9].tableError = 0 - kHuge / 3;
+  spoiled[10].objects.clear();
+  for (const std::uint64_t offset : {0u, 7u, 8u, 0xFFFFFFFFu}) {
+    spoiled.push_back({.objects = {}, .offsets = {offset}});
+  }
   for (std::size_t i = 0; i < std::size(spoiled); ++i) {
     EXPECT_FALSE(parsePropertyList(binary(spoiled[i])).value) << "spoiled " << i;
   }

@@ -5,7 +5,7 @@
 
 #include "settings/PropertyListFormat.h"
 #include "settings/TextConversions.h"
-#include "tests/settings/TemporaryFolder.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace wayloom {
 namespace {
@@ -21,7 +21,7 @@ class LocaleTest : public testing::Test {
  protected:
   void SetUp() override {
     const std::string folder = mFolder.path().string();
-    putBytes(mFolder.path() / "definition", kDefinition);
+    writeBytes(mFolder.path() / "definition", kDefinition);
     // It warns, and ends with 1, about the categories that are left at their defaults.
     const std::string command = "localedef -c -i '" + folder + "/definition' -f ANSI_X3.4-1968 '" +
                                 folder + "/" + kName + "' >/dev/null 2>&1";

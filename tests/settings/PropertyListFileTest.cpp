@@ -2,7 +2,7 @@
 
 #include "settings/PropertyListFile.h"
 #include "settings/PropertyListFormat.h"
-#include "tests/settings/TemporaryFolder.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace wayloom {
 namespace {
@@ -40,7 +40,7 @@ TEST_F(PropertyListFileTest, TellsMissingFromDamagedFromLoaded) {
       {"bplist00", "short"},
       {"<plist><array/></plist>", "no dictionary"}};
   for (const auto& [bytes, message] : damages) {
-    putBytes(mPath, bytes);
+    writeBytes(mPath, bytes);
     const PropertyListFile::Contents contents = mFile.read();
     EXPECT_EQ(contents.state, State::Damaged) << bytes;
     EXPECT_THAT(contents.damage, testing::HasSubstr(message)) << bytes;
@@ -58,13 +58,13 @@ TEST_F(PropertyListFileTest, WhatIsNoFileIsDamagedAndDoesNotBlock) {
 }
 
 TEST_F(PropertyListFileTest, FileBeyondTheSizeLimitIsDamagedWithoutBeingParsed) {
-  putBytes(mPath, "<plist>");
+  writeBytes(mPath, "<plist>");
   fs::resize_file(mPath, std::uintmax_t{1} << 40);
   EXPECT_THAT(mFile.read().damage, testing::HasSubstr("too large"));
 }
 
 TEST_F(PropertyListFileTest, DamagedFileIsKeptByTheWriteThatReplacesIt) {
-  putBytes(mPath, kDamaged);
+  writeBytes(mPath, kDamaged);
   EXPECT_EQ(mFile.read().state, State::Damaged);
   EXPECT_EQ(mFolder.entryCount(), 1u) << "reading must not move anything";
   ASSERT_TRUE(mFile.write(mValue));
@@ -74,7 +74,7 @@ TEST_F(PropertyListFileTest, DamagedFileIsKeptByTheWriteThatReplacesIt) {
   ASSERT_TRUE(mFile.write(mValue));
   EXPECT_EQ(mFolder.entryCount(), 2u) << "a sound file needs no keeping";
 
-  putBytes(mPath, "second");
+  writeBytes(mPath, "second");
   ASSERT_TRUE(mFile.write(mValue)) << "written without a read";
   EXPECT_EQ(bytesOf(setAside(1)), kDamaged);
   EXPECT_EQ(bytesOf(setAside(2)), "second");
@@ -88,16 +88,8 @@ TEST_F(PropertyListFileTest, FileOfAnotherRootIsKept) {
   EXPECT_EQ(PropertyListFile(setAside(1), PropertyListFile::Root::Dictionary).read().value, mValue);
 }
 
-TEST_F(PropertyListFileTest, DamageDoneAfterTheReadIsNoticed) {
-  ASSERT_TRUE(mFile.write(mValue));
-  ASSERT_EQ(mFile.read().state, State::Loaded);
-  putBytes(mPath, kDamaged);
-  ASSERT_TRUE(mFile.write(mValue));
-  EXPECT_EQ(bytesOf(setAside(1)), kDamaged);
-}
-
 TEST_F(PropertyListFileTest, RefusedValueChangesNothing) {
-  putBytes(mPath, kDamaged);
+  writeBytes(mPath, kDamaged);
   PropertyList deep = Array{};
   for (std::size_t depth = 0; depth < kMaximumPropertyListDepth; ++depth) {
     deep = Array{deep};
@@ -114,13 +106,13 @@ TEST_F(PropertyListFileTest, RefusedValueChangesNothing) {
 
 TEST_F(PropertyListFileTest, WriteFailsWhenNoNumberIsFree) {
   for (int number = 1; number <= 998; ++number) {
-    putBytes(setAside(number), "kept");
+    writeBytes(setAside(number), "kept");
   }
-  putBytes(mPath, kDamaged);
+  writeBytes(mPath, kDamaged);
   ASSERT_TRUE(mFile.write(mValue));
   EXPECT_EQ(bytesOf(setAside(999)), kDamaged);
 
-  putBytes(mPath, "once more");
+  writeBytes(mPath, "once more");
   const Status result = mFile.write(mValue);
   EXPECT_THAT(result.message(), testing::HasSubstr("remove some"));
   EXPECT_EQ(bytesOf(mPath), "once more");

@@ -1,4 +1,3 @@
-#include <atomic>
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
@@ -6,11 +5,10 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
-#include <thread>
 #include <unistd.h>
 
 #include "settings/ReplaceFile.h"
-#include "tests/settings/TemporaryFolder.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace {
 
@@ -60,7 +58,7 @@ class ReplaceFileTest : public testing::Test {
  protected:
   ReplaceFileTest() {
     gCalls = &mCalls;
-    putBytes(mOld, "old");
+    writeBytes(mOld, "old");
   }
   ~ReplaceFileTest() override { gCalls = nullptr; }
 
@@ -158,26 +156,6 @@ TEST_F(ReplaceFileTest, TargetsThatNoFileCanTake) {
   EXPECT_EQ(mFolder.entryCount(), 2u);
   EXPECT_EQ(bytesOf(mOld), "old");
   EXPECT_FALSE(replaceFile("/proc/wayloom/file.plist", "new")) << "a folder nobody can write to";
-}
-
-TEST_F(ReplaceFileTest, ReaderSeesTheOldOrTheNewFileWhole) {
-  gCalls = nullptr;
-  const std::string contents[] = {std::string(50'000, 'a'), std::string(90'000, 'b')};
-  ASSERT_TRUE(replaceFile(mOld, contents[0]));
-  std::atomic<bool> done = false;
-  std::atomic<int> torn = 0;
-  std::thread reader([&] {
-    while (!done) {
-      const std::string seen = bytesOf(mOld);
-      torn += seen != contents[0] && seen != contents[1] ? 1 : 0;
-    }
-  });
-  for (int i = 0; i < 60; ++i) {
-    EXPECT_TRUE(replaceFile(mOld, contents[i % 2]));
-  }
-  done = true;
-  reader.join();
-  EXPECT_EQ(torn, 0);
 }
 
 }  // namespace

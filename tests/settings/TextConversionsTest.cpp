@@ -12,11 +12,6 @@ namespace {
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
-TEST(TextConversionsTest, FlagsAreZeroOrOne) {
-  EXPECT_EQ(formatFlag(true), "1");
-  EXPECT_EQ(formatFlag(false), "0");
-}
-
 std::string printed(double value) {
   char buffer[400];
   std::snprintf(buffer, sizeof buffer, "%f", value);
@@ -55,62 +50,33 @@ TEST(TextConversionsTest, BooleanReading) {
 }
 
 TEST(TextConversionsTest, IntegerReading) {
-  const std::pair<const char*, std::int32_t> texts[] = {
-      {"", 0},
-      {"7", 7},
-      {" 7", 7},
-      {"\n\t-12x", -12},
-      {"+3", 3},
-      {"007", 7},
-      {"abc", 0},
-      {"1.9", 1},
-      {"1e3", 1},
-      {"0x10", 0},
-      {"--1", 0},
-      {"- 1", 0},
-      {"-", 0},
-      {"1700000000.000000", 1700000000},
-      {"2147483647", 2147483647},
-      {"2147483648", 2147483647},
-      {"-2147483648", std::numeric_limits<std::int32_t>::min()},
-      {"-2147483649", std::numeric_limits<std::int32_t>::min()},
-      {"99999999999999999999999999", 2147483647},
-      {"-99999999999999999999999999", std::numeric_limits<std::int32_t>::min()}};
-  for (const auto& [text, value] : texts) {
-    EXPECT_EQ(intValue(text), value) << text;
+  constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
+  constexpr std::int32_t kLeast = std::numeric_limits<std::int32_t>::min();
+  const std::pair<std::int32_t, std::vector<const char*>> readings[] = {
+      {0, {"", "abc", "0x10", "--1", "- 1", "-"}},
+      {1, {"1.9", "1e3"}},
+      {7, {" 7", "007", "+7"}},
+      {-12, {"\n\t-12x"}},
+      {1700000000, {"1700000000.000000"}},
+      {kMost, {"2147483647", "2147483648", "99999999999999999999999999"}},
+      {kLeast, {"-2147483648", "-2147483649", "-99999999999999999999999999"}}};
+  for (const auto& [value, texts] : readings) {
+    for (const char* const text : texts) EXPECT_EQ(intValue(text), value) << text;
   }
 }
 
 TEST(TextConversionsTest, RealReading) {
-  const std::pair<const char*, double> texts[] = {{"", 0},
-                                                  {"48.858370", 48.85837},
-                                                  {" \t-0.25", -0.25},
-                                                  {"+1.5abc", 1.5},
-                                                  {".5", 0.5},
-                                                  {"5.", 5},
-                                                  {".", 0},
-                                                  {"-.", 0},
-                                                  {"-", 0},
-                                                  {"1e3", 1000},
-                                                  {"1E-3x", 0.001},
-                                                  {"1e", 1},
-                                                  {"1e+", 1},
-                                                  {"1,5", 1},
-                                                  {"nan", 0},
-                                                  {"inf", 0},
-                                                  {"-Infinity", 0},
-                                                  {"0x10", 0},
-                                                  {"--1", 0},
-                                                  {"1e400", kInfinity},
-                                                  {"-1e400", -kInfinity},
-                                                  {"1e-400", 0},
-                                                  {"0e999999", 0},
-                                                  {"0.0000000001e400", kInfinity},
-                                                  {"1e99999999999999999999999", kInfinity},
-                                                  {"1e-99999999999999999999999", 0},
-                                                  {"4.9e-324", 4.9e-324}};
-  for (const auto& [text, value] : texts) {
-    EXPECT_EQ(doubleValue(text), value) << text;
+  // Where the library reads otherwise, or a random text hardly gets.
+  const std::pair<double, std::vector<const char*>> readings[] = {
+      {0, {"nan", "inf", "-Infinity", "0x10", "1e-400", "0e999999", "1e-99999999999999999999999"}},
+      {kInfinity, {"1e400", "0.0000000001e400", "1e99999999999999999999999"}},
+      {-kInfinity, {"-1e400"}},
+      {48.85837, {"48.858370"}},
+      {1, {"1,5", "1abc"}},
+      {-0.25, {" \t-0.25"}},
+      {4.9e-324, {"4.9e-324"}}};
+  for (const auto& [value, texts] : readings) {
+    for (const char* const text : texts) EXPECT_EQ(doubleValue(text), value) << text;
   }
   EXPECT_TRUE(std::signbit(doubleValue("-0.0")));
   EXPECT_EQ(doubleValue(std::string(400, '9')), kInfinity);

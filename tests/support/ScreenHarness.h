@@ -71,13 +71,22 @@ class ScreenHarness {
     return foundItem(view.rootObject(), objectName);
   }
 
-  QPoint centerOf(const char* objectName) const {
-    const QQuickItem* item = find(objectName);
+  static QPoint centerOf(const QQuickItem* item) {
     return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
   }
 
-  void click(const char* objectName) {
-    QTest::mouseClick(&view, Qt::LeftButton, Qt::NoModifier, centerOf(objectName));
+  void click(const char* objectName) { click(find(objectName)); }
+
+  void click(const QQuickItem* item) {
+    QTest::mouseClick(&view, Qt::LeftButton, Qt::NoModifier, centerOf(item));
+  }
+
+  /// A row of the list that fills the screen; null while it is out of sight.
+  QQuickItem* row(int index) const {
+    QQuickItem* item = nullptr;
+    QMetaObject::invokeMethod(find("mainTableView"), "itemAtIndex", Q_RETURN_ARG(QQuickItem*, item),
+                              Q_ARG(int, index));
+    return item;
   }
 
   void type(const QString& text) {
@@ -87,7 +96,7 @@ class ScreenHarness {
 
   /// Drags by `offset` and rests before letting go, so that the map does not run on.
   void drag(const char* objectName, QPoint offset) {
-    const QPoint from = centerOf(objectName);
+    const QPoint from = centerOf(find(objectName));
     QTest::mousePress(&view, Qt::LeftButton, Qt::NoModifier, from);
     constexpr int kSteps = 8;
     for (int step = 1; step <= kSteps; ++step) {

@@ -66,22 +66,6 @@ TEST(GestureRecognizer, TellsTapsPansAndSwipes) {
   }
 }
 
-TEST(GestureRecognizer, CountsTapsOnTheViewOnly) {
-  Gestures gestures;
-  QTest::mouseClick(&gestures.window, Qt::LeftButton, {}, {10, 10});
-  EXPECT_EQ(gestures.seen, "") << "beside the view";
-  QTest::mouseDClick(&gestures.window, Qt::LeftButton, {}, {100, 100});
-  EXPECT_EQ(gestures.seen, "tt");
-}
-
-TEST(GestureRecognizer, FollowsAFinger) {
-  Gestures gestures;
-  const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
-  QTest::touchEvent(&gestures.window, screen.get()).press(0, {100, 100}, &gestures.window);
-  QTest::touchEvent(&gestures.window, screen.get()).release(0, {100, 100}, &gestures.window);
-  EXPECT_EQ(gestures.seen, "t");
-}
-
 TEST(GestureRecognizer, EndsAPanWhoseFingerIsTaken) {
   Gestures gestures;
   QTest::mousePress(&gestures.window, Qt::LeftButton, {}, {100, 100});
@@ -91,31 +75,6 @@ TEST(GestureRecognizer, EndsAPanWhoseFingerIsTaken) {
   EXPECT_EQ(gestures.seen, "BX");
   QTest::mouseRelease(&gestures.window, Qt::LeftButton, {}, {100, 160});
   EXPECT_EQ(gestures.seen, "BX");
-}
-
-TEST(GestureRecognizer, LeavesTheItemItsEvents) {
-  struct Counting : QQuickItem {
-    using QQuickItem::QQuickItem;
-    void mousePressEvent(QMouseEvent*) override { ++presses; }
-    void mouseReleaseEvent(QMouseEvent*) override { ++releases; }
-    int presses = 0;
-    int releases = 0;
-  };
-  Gestures gestures;
-  Counting item(gestures.window.contentItem());
-  setFrame(item, {0, 0, 300, 300});
-  int taps = 0;
-  {
-    QObject shortLived;
-    addTapGestureWithTarget(item, shortLived, [&taps](const auto&) { ++taps; });
-    addTapGestureWithTarget(item, gestures.target, [&taps](const auto&) { ++taps; });
-    QTest::mouseClick(&gestures.window, Qt::LeftButton, {}, {100, 100});
-    EXPECT_EQ(taps, 2);
-  }
-  QTest::mouseClick(&gestures.window, Qt::LeftButton, {}, {100, 100});
-  EXPECT_EQ(taps, 3) << "one target is gone";
-  EXPECT_EQ(item.presses, 2);
-  EXPECT_EQ(item.releases, 2);
 }
 
 }  // namespace

@@ -72,11 +72,6 @@ TEST_F(InfoScreenTest, OnlyTheExactNameOfSimplifiedChineseLeadsToTheShop) {
   }
 }
 
-TEST_F(InfoScreenTest, AMissingVersionShowsAsAMissingObject) {
-  open({}, "en");
-  EXPECT_EQ(title(), "Wayloom (null)");
-}
-
 TEST_F(InfoScreenTest, TheKeyboardReachesEveryButton) {
   open("1", "en");
   screen.find("backButton")->forceActiveFocus();

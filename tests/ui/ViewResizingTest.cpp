@@ -1,4 +1,3 @@
-#include <memory>
 #include <ostream>
 
 #include "ui/ViewFrame.h"
@@ -62,36 +61,6 @@ TEST(ViewResizing, FindsBackFromAParentWithoutSize) {
     parent.setSize({200, 100});
     EXPECT_EQ(frame(item), QRectF(20, 10, 100, 40)) << mask;
   }
-}
-
-TEST(ViewResizing, SharesEquallyWhereNothingHasALength) {
-  EXPECT_EQ(resizedFrame({0, 0, 0, 0}, {0, 0}, {300, 90}, 63), QRectF(100, 30, 100, 30));
-  // The item hangs out on the right.
-  EXPECT_EQ(resizedFrame({50, 0, 100, 10}, {100, 10}, {120, 10}, 1 | 4), QRectF(60, 0, 100, 10));
-}
-
-TEST(ViewResizing, StartsAnewWhereTheItemWasPut) {
-  QQuickItem parent;
-  parent.setSize({200, 100});
-  QQuickItem item(&parent);
-  setFrame(item, {20, 10, 100, 40});
-  frameSetInSuperViewForLeftTop(item);
-  parent.setWidth(300);
-  item.setX(5);
-  parent.setWidth(310);
-  EXPECT_EQ(item.x(), 15);
-
-  auto other = std::make_unique<QQuickItem>();
-  other->setSize({500, 500});
-  item.setParentItem(other.get());
-  EXPECT_EQ(item.x(), 15) << "in another parent";
-  parent.setWidth(1000);
-  EXPECT_EQ(item.x(), 15) << "the former parent changed";
-  other->setWidth(400);
-  EXPECT_EQ(item.x(), -85);
-  other.reset();
-  EXPECT_EQ(item.parentItem(), nullptr);
-  EXPECT_EQ(item.x(), -85);
 }
 
 }  // namespace

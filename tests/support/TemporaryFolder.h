@@ -9,14 +9,12 @@
 
 namespace wayloom {
 
-/// A folder of its own for one test, removed with everything in it.
+/// A folder of its own for one test, gone with everything in it at the end.
 class TemporaryFolder {
  public:
   TemporaryFolder() {
     std::string name = (std::filesystem::temp_directory_path() / "wayloom-test-XXXXXX").string();
-    if (::mkdtemp(name.data()) == nullptr) {
-      throw std::runtime_error("cannot create " + name);
-    }
+    if (::mkdtemp(name.data()) == nullptr) throw std::runtime_error("cannot create " + name);
     mPath = name;
   }
   TemporaryFolder(const TemporaryFolder&) = delete;
@@ -27,7 +25,6 @@ class TemporaryFolder {
   }
 
   const std::filesystem::path& path() const { return mPath; }
-
   std::size_t entryCount() const {
     return std::distance(std::filesystem::directory_iterator(mPath), {});
   }
@@ -36,12 +33,14 @@ class TemporaryFolder {
   std::filesystem::path mPath;
 };
 
+/// A file's bytes; empty when it is missing.
 inline std::string bytesOf(const std::filesystem::path& path) {
   std::ifstream file(path, std::ios::binary);
-  return std::string(std::istreambuf_iterator<char>(file), {});
+  return {std::istreambuf_iterator<char>(file), {}};
 }
 
-inline void putBytes(const std::filesystem::path& path, const std::string& bytes) {
+inline void writeBytes(const std::filesystem::path& path, const std::string& bytes) {
+  std::filesystem::create_directories(path.parent_path());
   std::ofstream(path, std::ios::binary) << bytes;
 }
 

@@ -88,6 +88,20 @@ TEST_F(MapViewGesture, KeysMoveAndZoomInOneBurst) {
   EXPECT_LT(map->region().span.longitudeDelta, before.span.longitudeDelta);
 }
 
+TEST_F(MapViewGesture, HeldKeyIsOneMoveUntilItIsLetGo) {
+  QTest::mouseClick(&window, Qt::LeftButton, {}, kMiddle);
+  QTest::keyPress(&window, Qt::Key_Left);
+  MapView other(window.contentItem());
+  other.setSize({100, 100});
+  bool hasSettled = false;
+  QObject::connect(&other, &MapView::regionDidChange, [&] { hasSettled = true; });
+  wheel({50, 50}, 120);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return hasSettled; })) << "a burst that ended meanwhile";
+  EXPECT_EQ(moves, "w");
+  QTest::keyRelease(&window, Qt::Key_Left);
+  EXPECT_TRUE(waitFor("wd")) << moves;
+}
+
 TEST_F(MapViewGesture, PinchZoomsAboutTheFingersAsOneMove) {
   QPointingDevice* screen = QTest::createTouchDevice();
   const Coordinate left = map->coordinateAtPoint({150, 300});
@@ -105,6 +119,17 @@ TEST_F(MapViewGesture, PinchZoomsAboutTheFingersAsOneMove) {
   QTest::touchEvent(&window, screen).release(1, {300, 310});
   EXPECT_TRUE(waitFor("wd")) << moves;
   EXPECT_EQ(taps, 0);
+}
+
+TEST_F(MapViewGesture, CommandDuringADragEndsItAndTheDragGoesOnAnew) {
+  QTest::mousePress(&window, Qt::LeftButton, {}, kMiddle);
+  QTest::mouseMove(&window, {240, 300});
+  map->setCenterCoordinate({48.85, 2.35}, Animated::No);
+  EXPECT_EQ(moves, "wdwd");
+  EXPECT_NEAR(center().latitude, 48.85, 1e-9);
+  QTest::mouseMove(&window, {280, 300});
+  QTest::mouseRelease(&window, Qt::LeftButton, {}, {280, 300});
+  EXPECT_TRUE(waitFor("wdwdwd")) << moves;
 }
 
 TEST_F(MapViewGesture, PoleStopsTheDragAndTheDateLineDoesNot) {

@@ -133,6 +133,17 @@ TEST(PlaceSearch, TakesAnyText) {
   EXPECT_EQ(index.best("paris\x01\ttexas"), "Paris, Texas, United States");
 }
 
+TEST(PlaceSearch, GivesOnePlaceOnceFromOverlappingRegions) {
+  auto moved = someWorld();
+  for (auto& place : moved) place.place.coordinate.latitude += 0.001;
+  SmallIndex index({someWorld(), moved});
+  const auto found = index->search("paris", std::nullopt);
+  ASSERT_EQ(found.size(), 3u);
+  EXPECT_EQ(found[0].country, "France");
+  EXPECT_EQ(found[1].country, "United States");
+  EXPECT_EQ(found[2].name, "Parisot");
+}
+
 TEST(PlaceSearch, LivesWithAFileWhoseContentIsDamaged) {
   SmallIndex whole(someWorld());
   const auto path = whole.folder().path() / "0.region";

@@ -14,25 +14,6 @@ bool waitFor(const std::function<bool()>& condition) {
   return QTest::qWaitFor(condition);
 }
 
-TEST(ViewFade, HidesAndLeavesTheItemOpaque) {
-  QQuickItem item;
-  std::string atCompletion;
-  fadeHideAnimationDuration(item, 0.05, [&] {
-    atCompletion = item.isVisible() ? "visible" : "hidden";
-    atCompletion += item.opacity() == 1 ? " opaque" : " transparent";
-  });
-  EXPECT_EQ(item.opacity(), 1) << "does not jump";
-  ASSERT_TRUE(waitFor([&] { return item.opacity() < 1; }));
-  EXPECT_TRUE(item.isVisible());
-  ASSERT_TRUE(waitFor([&] { return !atCompletion.empty(); }));
-  EXPECT_EQ(atCompletion, "hidden opaque");
-
-  fadeShowAnimation(item);
-  fadeHideAnimation(item);
-  ASSERT_TRUE(waitFor([&] { return !item.isVisible(); })) << "without a completion";
-  EXPECT_EQ(item.opacity(), 1);
-}
-
 TEST(ViewFade, EndsWhatItInterrupts) {
   const struct {
     std::string fades;

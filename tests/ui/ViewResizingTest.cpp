@@ -48,20 +48,5 @@ TEST(ViewResizing, FollowsTheParentByPreset) {
   }
 }
 
-TEST(ViewResizing, FindsBackFromAParentWithoutSize) {
-  for (unsigned mask = 0; mask < 64; ++mask) {
-    QQuickItem parent;
-    parent.setSize({200, 100});
-    QQuickItem item(&parent);
-    setFrame(item, {20, 10, 100, 40});
-    setAutoresizingMask(item, mask);
-    parent.setSize({0, 0});
-    EXPECT_GE(item.width(), 0) << mask;
-    EXPECT_GE(item.height(), 0) << mask;
-    parent.setSize({200, 100});
-    EXPECT_EQ(frame(item), QRectF(20, 10, 100, 40)) << mask;
-  }
-}
-
 }  // namespace
 }  // namespace wayloom

@@ -1,6 +1,7 @@
 #include "app/StringTables.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QLocale>
 
 namespace wayloom {
 
@@ -27,6 +28,9 @@ StringTables::StringTables(const QStringList& preferredLanguages) {
   install(mEnglish, QStringLiteral("en"));
   const QString table = tableFor(preferredLanguages);
   if (table != QStringLiteral("en")) install(mLanguage, table);
+  // Dates speak the language of the texts around them.
+  const QLocale locale(table);
+  if (QLocale().language() != locale.language()) QLocale::setDefault(locale);
 }
 
 QString StringTables::tableFor(const QStringList& preferredLanguages) {

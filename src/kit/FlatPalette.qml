@@ -10,7 +10,6 @@ QtObject {
     readonly property color silver: "#bdc3c7"
     readonly property color concrete: "#95a5a6"
     readonly property color midnightBlue: "#2c3e50"
-    readonly property color wetAsphalt: "#34495e"
     readonly property color alizarin: "#e74c3c"
 
     // What the colours are for. Screens use these, so that they follow the desktop's appearance: a
@@ -20,6 +19,7 @@ QtObject {
     readonly property color text: dark ? "#e4eaee" : midnightBlue
     readonly property color rowText: dark ? "#d3dae0" : "#555555"
     readonly property color secondaryText: dark ? "#9fb0bf" : "#647482"
+    readonly property color accentText: dark ? turquoise : "#107a65"
     readonly property color field: dark ? "#2c3a48" : "#eef1f3"
     readonly property color separator: dark ? "#3a4a5a" : "#dfe4e7"
     readonly property color current: dark ? "#1d463f" : "#e3f4f1"

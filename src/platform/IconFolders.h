@@ -10,7 +10,7 @@
 
 namespace wayloom {
 
-/// Finds icons by name as the icon theme specification says: in the theme "hicolor", to which every
+/// Finds icons by name as desktops do: in the theme "hicolor", to which every
 /// application installs its own, then in the other themes found, then in the folders without a
 /// theme. A PNG of the right size comes before an SVG, that before other sizes. What was listed
 /// once is remembered. Any thread may call it.

@@ -97,7 +97,7 @@ Rectangle {
             anchors.rightMargin: FlatPalette.spacing
             height: parent.height
             text: panel.controller.tipText
-            color: FlatPalette.greenSea
+            color: FlatPalette.accentText
             font.pixelSize: FlatPalette.bodySize
             verticalAlignment: Text.AlignVCenter
             fontSizeMode: Text.HorizontalFit

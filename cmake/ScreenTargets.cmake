@@ -6,6 +6,7 @@ set(WAYLOOM_QML_OUTPUT "${CMAKE_BINARY_DIR}/qml")
 function(wayloom_qml_module target uri)
   string(REPLACE "." "/" path ${uri})
   qt_add_qml_module(${target} URI ${uri} VERSION 1.0 STATIC
+    DEPENDENCIES QtQuick
     OUTPUT_DIRECTORY "${WAYLOOM_QML_OUTPUT}/${path}" RESOURCE_PREFIX /qt/qml ${ARGN})
   target_link_libraries(${target} PUBLIC Qt6::Quick)
   target_compile_definitions(${target} PUBLIC QT_NO_KEYWORDS)

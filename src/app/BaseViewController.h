@@ -10,7 +10,7 @@ namespace wayloom {
 /// What the screens with a busy indicator and short hints share: one progress overlay, on the
 /// screen's view or on the window, and hints that go by themselves. A BaseView in the layout shows
 /// both. Offsets are points below the middle. Main thread only.
-class BaseViewController : public ModalViewController {
+class BaseViewController : public wayloom::ModalViewController {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("the application makes it")

@@ -7,6 +7,7 @@ namespace wayloom {
 
 /// A screen that is shown over another one until it is dismissed. The presenter owns it while it is
 /// presented. Main thread only.
+/// A class that derives from it names it with its namespace, else QML's tools do not find it.
 class ModalViewController : public QObject {
   Q_OBJECT
   QML_ELEMENT

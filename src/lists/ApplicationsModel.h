@@ -3,6 +3,7 @@
 #include <vector>
 
 #include <QtCore/QAbstractListModel>
+#include <QtQml/qqmlregistration.h>
 
 #include "lists/Whitelist.h"
 #include "platform/HomeScreen.h"
@@ -13,6 +14,7 @@ namespace wayloom {
 /// the home screen's order. Owned by the screen's controller, main thread only.
 class ApplicationsModel : public QAbstractListModel {
   Q_OBJECT
+  QML_ANONYMOUS
 
  public:
   /// Asks the home screen for identifiers and names. The whitelist is loaded already and must

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QAbstractListModel>
+#include <QtQml/qqmlregistration.h>
 
 #include "lists/Favorites.h"
 
@@ -10,6 +11,7 @@ namespace wayloom {
 /// Owned by the screen's controller, main thread only.
 class FavoritesModel : public QAbstractListModel {
   Q_OBJECT
+  QML_ANONYMOUS
 
  public:
   /// Both must outlive the model; the list is loaded already.

@@ -11,7 +11,7 @@ namespace wayloom {
 
 /// The favourites screen: choose one to be there at once, swipe or edit to delete one. It reads the
 /// files when it is made and works on those copies. Made for each presentation; main thread only.
-class FavoritesViewController : public ModalViewController {
+class FavoritesViewController : public wayloom::ModalViewController {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("the application makes it")

@@ -9,7 +9,7 @@ namespace wayloom {
 /// The whitelist screen: every installed application, each with a tick that a touch turns over. It
 /// reads file and applications when it is made and writes the file after each touch. Made for each
 /// presentation; main thread only.
-class WhitelistViewController : public ModalViewController {
+class WhitelistViewController : public wayloom::ModalViewController {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("the application makes it")

@@ -14,7 +14,7 @@ namespace wayloom {
 
 /// The address picker: the place under the pin in the middle of its map is the pick. Presented over
 /// another screen, to which it hands the pick; main thread only.
-class SelectAddressViewController : public BaseViewController, public LocationDelegate {
+class SelectAddressViewController : public wayloom::BaseViewController, public LocationDelegate {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("the application makes it")

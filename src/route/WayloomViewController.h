@@ -19,7 +19,7 @@ namespace wayloom {
 /// The route screen: two places, two times, and the drive between them. While the drive is on, the
 /// map follows it once a second and every choice is locked. Made by the application and alive as
 /// long as it; main thread only.
-class WayloomViewController : public BaseViewController, public LocationDelegate {
+class WayloomViewController : public wayloom::BaseViewController, public LocationDelegate {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("the application makes it")

@@ -11,7 +11,7 @@ namespace wayloom {
 
 /// The information screen: name and version, and the ways to the whitelist, the author and the
 /// maker. Made for each presentation; main thread only.
-class InfoViewController : public ModalViewController {
+class InfoViewController : public wayloom::ModalViewController {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("the application makes it")

@@ -79,9 +79,14 @@ void AppDelegate::comeToTheFront() {
 }
 
 void AppDelegate::didBecomeActive() {
-  // The file decides, not the screen that is shown; the two agree, since every switch of screens
-  // writes the file first.
-  viewWillAppear(mServices.files.readMasterMode());
+  // The file decides, not the screen that is shown. The two agree, since every switch of screens
+  // writes the file first, unless another program has switched the mode meanwhile.
+  const Mode mode = mServices.files.readMasterMode();
+  if (mode != mShown && mModals.count() == 0) {
+    show(mode);
+  } else {
+    viewWillAppear(mode);
+  }
 }
 
 void AppDelegate::changeToLocation() {

@@ -12,9 +12,15 @@ namespace wayloom {
 
 namespace {
 
+[[noreturn]] void refuse(const std::string& why) {
+  std::fprintf(stderr, "wayloom: %s; see 'wayloom --help'\n", why.c_str());
+  std::exit(1);
+}
+
 std::optional<std::filesystem::path> pathOf(const QCommandLineParser& parser,
                                             const QCommandLineOption& option) {
   if (!parser.isSet(option)) return std::nullopt;
+  if (parser.value(option).isEmpty()) refuse("a folder's name is empty");
   return std::filesystem::path(parser.value(option).toStdString());
 }
 
@@ -23,8 +29,7 @@ std::optional<bool> isDark(const QCommandLineParser& parser, const QCommandLineO
   const QString value = parser.value(option);
   if (value == QStringLiteral("dark")) return true;
   if (value == QStringLiteral("light")) return false;
-  std::fprintf(stderr, "wayloom: --appearance is light or dark, not '%s'\n", qPrintable(value));
-  std::exit(1);
+  refuse("--appearance is light or dark, not '" + value.toStdString() + "'");
 }
 
 }  // namespace
@@ -54,13 +59,17 @@ StartOptions StartOptions::read(const QCoreApplication& application) {
   options.root = pathOf(parser, root);
   options.regions = pathOf(parser, regions);
   options.dark = isDark(parser, appearance);
-  if (parser.isSet(tour)) options.tour = parser.value(tour);
+  if (const auto path = pathOf(parser, tour)) options.tour = QString::fromStdString(*path);
+  if (!parser.positionalArguments().isEmpty()) {
+    refuse("'" + parser.positionalArguments().constFirst().toStdString() + "' is no option");
+  }
   return options;
 }
 
 bool StartOptions::areQuestions(int argc, char* argv[]) {
   return std::any_of(argv, argv + argc, [](std::string_view argument) {
-    return argument == "-h" || argument == "--help" || argument == "-v" || argument == "--version";
+    return argument == "-h" || argument == "--help" || argument == "--help-all" ||
+           argument == "-v" || argument == "--version";
   });
 }
 

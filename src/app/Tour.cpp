@@ -51,7 +51,7 @@ bool Tour::run() {
 
 bool Tour::start() {
   const bool drawn = mWindow.waitUntil(
-      "the first map", [this] { return mWindow.find("mv_main")->property("complete").toBool(); });
+      "the first map", [this] { return mWindow.property("mv_main", "complete").toBool(); });
   if (!drawn) return false;
   if (const auto seconds = secondsSinceStart()) {
     std::printf("The first complete map stood %.2f s after the start.\n", *seconds);
@@ -65,8 +65,8 @@ bool Tour::pinPlace() {
   mWindow.type(QStringLiteral("kungsportsavenyn göteborg"));
   mWindow.press(Qt::Key_Return);
   const bool found = mWindow.waitUntil("the searched address", [this] {
-    return !mWindow.find("HUD")->property("shown").toBool() && !mWindow.isShown("spinner") &&
-           !mWindow.find("addressLabel")->property("text").toString().isEmpty();
+    return !mWindow.property("HUD", "shown").toBool() && !mWindow.isShown("spinner") &&
+           !mWindow.property("addressLabel", "text").toString().isEmpty();
   });
   if (!found || !mWindow.waitForMap("mainMapView") || !mWindow.savePicture("search")) return false;
 
@@ -80,7 +80,7 @@ bool Tour::pinPlace() {
 bool Tour::saveFavorite() {
   if (!mWindow.click("addButton")) return false;
   const bool asked = mWindow.waitUntil(
-      "the name panel", [this] { return mWindow.find("alertView")->opacity() == 1.0; });
+      "the name panel", [this] { return mWindow.property("alertView", "opacity").toReal() == 1; });
   if (!asked || !mWindow.savePicture("favourite") || !mWindow.click("okButton")) return false;
   return mWindow.waitUntil("the name panel's end",
                            [this] { return !mWindow.isShown("alertView"); });
@@ -116,16 +116,16 @@ bool Tour::changeToRoute() {
 bool Tour::planDrive() {
   if (!choosePlace("lb_start", QStringLiteral("kungsportsavenyn göteborg"), "picker")) return false;
   if (!choosePlace("lb_end", QStringLiteral("lindholmsallén göteborg"), nullptr)) return false;
-  const bool planned = mWindow.waitUntil(
-      "the path", [this] { return !mWindow.find("HUD")->property("shown").toBool(); });
+  const bool planned =
+      mWindow.waitUntil("the path", [this] { return !mWindow.property("HUD", "shown").toBool(); });
   return planned && mWindow.waitForMap("mv_main") && mWindow.savePicture("path");
 }
 
 bool Tour::choosePlace(const char* label, const QString& address, const char* picture) {
   if (!mWindow.click(label) || !mWindow.waitForScreen("buttonBar")) return false;
   const auto isSettled = [this] {
-    return !mWindow.find("HUD")->property("shown").toBool() && !mWindow.isShown("spinner") &&
-           !mWindow.find("addressLabel")->property("text").toString().isEmpty();
+    return !mWindow.property("HUD", "shown").toBool() && !mWindow.isShown("spinner") &&
+           !mWindow.property("addressLabel", "text").toString().isEmpty();
   };
   if (!mWindow.waitUntil("the device's address", isSettled)) return false;
   if (!mWindow.waitForMap("mainMapView") || !mWindow.click("searchField")) return false;
@@ -138,7 +138,7 @@ bool Tour::choosePlace(const char* label, const QString& address, const char* pi
 }
 
 bool Tour::chooseTimes() {
-  const auto isIn = [this] { return mWindow.find("v_picker")->property("arrival").toReal() == 1; };
+  const auto isIn = [this] { return mWindow.property("v_picker", "arrival").toReal() == 1; };
   const auto isOut = [this] { return !mWindow.isShown("v_picker"); };
   if (!mWindow.click("lb_startTime") || !mWindow.waitUntil("the date picker", isIn)) return false;
   if (!mWindow.savePicture("date") || !mWindow.click("btn_picker")) return false;
@@ -155,15 +155,15 @@ bool Tour::chooseTimes() {
 
 bool Tour::drive() {
   if (!mWindow.click("enableSwitch")) return false;
-  if (!mWindow.find("enableSwitch")->property("checked").toBool()) {
+  if (!mWindow.property("enableSwitch", "checked").toBool()) {
     std::fprintf(stderr, "wayloom: the drive was not turned on\n");
     return false;
   }
   // The map first fits the whole path, planned once more, and then follows the car.
   const auto follows = [this] {
     const auto* map = qobject_cast<MapView*>(mWindow.find("mv_main"));
-    return map->showsUserLocation() && map->region().span.latitudeDelta < 0.05 &&
-           !mWindow.find("HUD")->property("shown").toBool();
+    return map && map->showsUserLocation() && map->region().span.latitudeDelta < 0.05 &&
+           !mWindow.property("HUD", "shown").toBool();
   };
   return mWindow.waitUntil("the drive", follows) && mWindow.waitForMap("mv_main") &&
          mWindow.savePicture("drive");

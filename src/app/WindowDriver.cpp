@@ -29,6 +29,11 @@ bool WindowDriver::isShown(const char* objectName) const {
   return item && item->isVisible();
 }
 
+QVariant WindowDriver::property(const char* objectName, const char* name) const {
+  const QQuickItem* item = find(objectName);
+  return item ? item->property(name) : QVariant();
+}
+
 bool WindowDriver::click(const char* objectName) {
   return click(find(objectName), objectName);
 }

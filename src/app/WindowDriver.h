@@ -4,6 +4,7 @@
 #include <functional>
 
 #include <QtCore/QString>
+#include <QtCore/QVariant>
 #include <QtQuick/QQuickItem>
 #include <QtQuick/QQuickView>
 
@@ -19,6 +20,8 @@ class WindowDriver {
   /// The uppermost item of this name; null when there is none.
   QQuickItem* find(const char* objectName) const;
   bool isShown(const char* objectName) const;
+  /// A property of the uppermost item of this name; invalid when there is no such item.
+  QVariant property(const char* objectName, const char* name) const;
 
   bool click(const char* objectName);
   /// Clicks a row of the uppermost list.

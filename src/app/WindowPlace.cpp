@@ -1,5 +1,7 @@
 #include "app/WindowPlace.h"
 
+#include <chrono>
+
 #include <QtCore/QSettings>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QScreen>
@@ -24,9 +26,21 @@ WindowPlace::WindowPlace(QWindow& window) : mWindow(window) {
   const QRect remembered = QSettings().value(kKey).toRect();
   const QRect place = usable(remembered, window.minimumSize(), screens());
   if (!place.isNull()) window.setGeometry(place);
+
+  mChanged.setSingleShot(true);
+  mChanged.setInterval(std::chrono::seconds(1));
+  QObject::connect(&mChanged, &QTimer::timeout, &window, [this] { store(); });
+  for (const auto changed :
+       {&QWindow::xChanged, &QWindow::yChanged, &QWindow::widthChanged, &QWindow::heightChanged}) {
+    QObject::connect(&window, changed, &mChanged, [this] { mChanged.start(); });
+  }
 }
 
 WindowPlace::~WindowPlace() {
+  store();
+}
+
+void WindowPlace::store() const {
   // A window that fills the screen shall not do so for ever.
   if (mWindow.windowStates() == Qt::WindowNoState) QSettings().setValue(kKey, mWindow.geometry());
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QRect>
+#include <QtCore/QTimer>
 #include <QtGui/QWindow>
 
 namespace wayloom {
@@ -9,7 +10,8 @@ namespace wayloom {
 /// Main thread; the window must outlive it.
 class WindowPlace {
  public:
-  /// Gives the window the size and place it had, if they are known and on a screen.
+  /// Gives the window the size and place it had, if they are known and on a screen. Changes are
+  /// remembered a moment after they were made, and at the end.
   explicit WindowPlace(QWindow& window);
   /// Remembers them.
   ~WindowPlace();
@@ -20,7 +22,10 @@ class WindowPlace {
   static QRect usable(const QRect& remembered, QSize smallest, const QList<QRect>& screens);
 
  private:
+  void store() const;
+
   QWindow& mWindow;
+  QTimer mChanged;
 };
 
 }  // namespace wayloom

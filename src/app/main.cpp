@@ -23,12 +23,20 @@ using namespace wayloom;
 constexpr QColor kDarkWindow(0x20, 0x28, 0x30);
 constexpr QColor kLightWindow(0xef, 0xef, 0xef);
 
-/// A tour starts from nothing, and leaves what the user's own windows remember alone.
+/// A tour starts from nothing, and leaves alone what the user's own files and windows hold.
 int runTour(const StartOptions& options) {
+  const QDir directory(*options.tour);
+  const auto root = options.root.value_or(
+      std::filesystem::path(directory.absoluteFilePath(QStringLiteral("phone")).toStdString()));
+  std::error_code none;
+  if (!std::filesystem::is_empty(root, none) && !none) {
+    std::fprintf(stderr, "wayloom: a tour starts from nothing, but %s holds files already\n",
+                 root.c_str());
+    return 1;
+  }
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
-                     QDir(*options.tour).absoluteFilePath(QStringLiteral("remembered")));
-  AppServices services(
-      {.root = options.root, .regions = options.regions, .configuredPositionOnly = true});
+                     directory.absoluteFilePath(QStringLiteral("remembered")));
+  AppServices services({.root = root, .regions = options.regions, .configuredPositionOnly = true});
   AppDelegate delegate(services);
   if (!delegate.didFinishLaunching()) return 1;
   return Tour(delegate.window(), services.files, *options.tour).run() ? 0 : 1;

@@ -58,6 +58,7 @@ ExitStatus toggleWhitelist(CommandLine& line, const std::string& identifier) {
   if (identifier.empty() || storableIdentifier(identifier) != identifier) {
     return line.wrongUsage("the identifier must be text without control characters; see 'apps'");
   }
+  line.takeTurn();
   Whitelist whitelist = load(line);
   if (const Status written = whitelist.toggle(identifier); !written) {
     return line.fail(written.message());

@@ -1,6 +1,8 @@
 #include "cli/CommandLine.h"
 
+#include <fcntl.h>
 #include <iostream>
+#include <sys/file.h>
 
 #include "cli/TextForms.h"
 #include "places/WebGeocoder.h"
@@ -19,6 +21,15 @@ CommandLine::CommandLine(const Options& options)
     : mOptions(options), mFiles(settingsRoot(options.root)) {}
 
 CommandLine::~CommandLine() = default;
+
+void CommandLine::takeTurn() {
+  const std::filesystem::path folder = mFiles.path(SettingsFile::Master).parent_path();
+  std::error_code ignored;
+  std::filesystem::create_directories(folder, ignored);
+  mTurn.reset(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  // Without a lock the write itself is as whole as ever.
+  if (mTurn.get() >= 0) (void)::flock(mTurn.get(), LOCK_EX);
+}
 
 ChangeNotice& CommandLine::notice() {
   if (!mNotice) mNotice = std::make_unique<SystemNotices>(noticeCommand());

@@ -13,6 +13,7 @@
 #include "platform/RunLoop.h"
 #include "platform/WebRequests.h"
 #include "regions/RegionStore.h"
+#include "settings/Descriptor.h"
 #include "settings/Result.h"
 #include "settings/SettingsFiles.h"
 
@@ -43,6 +44,9 @@ class CommandLine {
   ~CommandLine();
 
   SettingsFiles& files() { return mFiles; }
+  /// Waits until no other wayloomctl changes the files below the root, and then keeps the others
+  /// waiting until this one ends. To be called before reading what is to be changed.
+  void takeTurn();
   ChangeNotice& notice();
   Geocoder& geocoder();
   Directions& directions();
@@ -66,6 +70,7 @@ class CommandLine {
 
   Options mOptions;
   SettingsFiles mFiles;
+  Descriptor mTurn;
   RunLoop mLoop;
   std::unique_ptr<ChangeNotice> mNotice;
   std::unique_ptr<WebRequests> mRequests;

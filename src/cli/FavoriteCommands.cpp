@@ -85,12 +85,14 @@ ExitStatus addFavorite(CommandLine& line, const std::string& name,
     }
     coordinate = fixed.coordinate;
   }
+  line.takeTurn();
   Favorites favorites = load(line);
   const Status added = favorites.add(name, coordinate, kUnnamed);
   return finish(line, added, favorites);
 }
 
 ExitStatus removeFavorite(CommandLine& line, long long number) {
+  line.takeTurn();
   Favorites favorites = load(line);
   if (const auto why = refusal(favorites, number)) return line.fail(*why);
   const Status removed = favorites.removeAt(static_cast<std::size_t>(number) - 1);
@@ -98,6 +100,7 @@ ExitStatus removeFavorite(CommandLine& line, long long number) {
 }
 
 ExitStatus chooseFavorite(CommandLine& line, long long number) {
+  line.takeTurn();
   Favorites favorites = load(line);
   if (const auto why = refusal(favorites, number)) return line.fail(*why);
   // The list opens from the fixed-location screen only, so a drive that is on stands in the way.

@@ -13,6 +13,7 @@ namespace {
 /// The fixed position's operations with the settings as they stand in the file now.
 struct OpenFixedLocation {
   explicit OpenFixedLocation(CommandLine& line) : operations(line.files(), line.notice()) {
+    line.takeTurn();
     state = operations.refresh();
     operations.setCoordinate(state.coordinate);
   }
@@ -64,6 +65,7 @@ ExitStatus turnFixedOff(CommandLine& line) {
 ExitStatus moveFixed(CommandLine& line, const std::string& place) {
   const ResolvedPlace resolved = resolvePlace(line, place);
   if (const auto* status = std::get_if<ExitStatus>(&resolved)) return *status;
+  line.takeTurn();
   FixedLocation fixed(line.files(), line.notice());
   const Status moved = fixed.centerMoved(std::get<GeocodedPlace>(resolved).coordinate);
   if (!fixed.hasSettings()) {

@@ -105,6 +105,7 @@ ExitStatus turnRouteOn(CommandLine& line, const Drive& drive) {
   DirectionsRequest request;
   if (const auto status = resolveBoth(line, drive.from, drive.to, request)) return *status;
 
+  line.takeTurn();
   RouteSimulation simulation(line.files(), clock);
   simulation.refresh();
   if (const char* refusal = simulation.refusalToLeave()) return line.fail(refusal);
@@ -129,6 +130,7 @@ ExitStatus turnRouteOn(CommandLine& line, const Drive& drive) {
 }
 
 ExitStatus turnRouteOff(CommandLine& line) {
+  line.takeTurn();
   const SystemClock clock;
   RouteSimulation simulation(line.files(), clock);
   simulation.refresh();

@@ -97,6 +97,7 @@ ExitStatus showMode(CommandLine& line) {
 }
 
 ExitStatus switchMode(CommandLine& line, Mode mode) {
+  line.takeTurn();
   const Status switched = switchToMode(line.files(), mode);
   return switched ? showMode(line) : line.fail(switched.message());
 }

@@ -195,22 +195,20 @@ void addRegionCommands(CLI::App& app, Typed& typed) {
   region->add_subcommand("list", "Show the region files in use")->callback([&typed] {
     typed.command = wayloom::listRegions;
   });
-  auto* import = region->add_subcommand("import", "Make an OpenStreetMap extract into a region");
-  import->add_option("FILE", typed.text, "A file in .osm.pbf, .osm, .osm.gz or .osm.bz2")
-      ->required();
-  auto* name = import->add_option("--name", typed.name, "Its name; the file's when not given");
-  import->callback([&typed, name] {
+  auto* make = region->add_subcommand("import", "Make an OpenStreetMap extract into a region");
+  make->add_option("FILE", typed.text, "A file in .osm.pbf, .osm, .osm.gz or .osm.bz2")->required();
+  auto* name = make->add_option("--name", typed.name, "Its name; the file's when not given");
+  make->callback([&typed, name] {
     typed.command = [&typed, isGiven = name->count() > 0](CommandLine& line) {
       return wayloom::importRegionFile(line, typed.text,
                                        isGiven ? std::optional(typed.name) : std::nullopt);
-};
-}  // namespace
-);
-auto* remove = region->add_subcommand("remove", "Delete an imported region");
-remove->add_option("NAME", typed.name)->required();
-remove->callback([&typed] {
-  typed.command = [&typed](CommandLine& line) { return wayloom::removeRegion(line, typed.name); };
-});
+    };
+  });
+  auto* remove = region->add_subcommand("remove", "Delete an imported region");
+  remove->add_option("NAME", typed.name)->required();
+  remove->callback([&typed] {
+    typed.command = [&typed](CommandLine& line) { return wayloom::removeRegion(line, typed.name); };
+  });
 }
 
 /// A southern latitude must not be taken for an option: "-33.9,151.2" becomes "#:-33.9,151.2".

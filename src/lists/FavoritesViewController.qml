@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Wayloom.Kit
 import Wayloom.Screens as Screens
 
@@ -40,24 +39,15 @@ FocusScope {
         }
     }
 
-    ListView {
+    FlatListView {
         id: mainTableView
 
         objectName: "mainTableView"
         anchors.fill: parent
         anchors.topMargin: titleBar.height
         bottomMargin: undoBar.shown ? undoBar.height : 0
-        clip: true
-        focus: true
-        activeFocusOnTab: true
-        reuseItems: true
-        currentIndex: -1
-        highlightMoveDuration: 0
-        boundsBehavior: Flickable.StopAtBounds
         model: root.controller.favorites
-        Accessible.role: Accessible.List
         Accessible.name: titleBar.title
-        T.ScrollBar.vertical: FlatScrollBar {}
 
         Keys.onReturnPressed: root.controller.didSelectRow(currentIndex)
         Keys.onEnterPressed: root.controller.didSelectRow(currentIndex)

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Wayloom.Kit
 import Wayloom.Screens as Screens
 
@@ -31,23 +30,14 @@ FocusScope {
         }
     }
 
-    ListView {
+    FlatListView {
         id: mainTableView
 
         objectName: "mainTableView"
         anchors.fill: parent
         anchors.topMargin: titleBar.height
-        clip: true
-        focus: true
-        activeFocusOnTab: true
-        reuseItems: true
-        currentIndex: -1
-        highlightMoveDuration: 0
-        boundsBehavior: Flickable.StopAtBounds
         model: root.controller.appArray
-        Accessible.role: Accessible.List
         Accessible.name: titleBar.title
-        T.ScrollBar.vertical: FlatScrollBar {}
 
         Keys.onSpacePressed: root.controller.didSelectRow(currentIndex)
         Keys.onReturnPressed: root.controller.didSelectRow(currentIndex)

@@ -6,6 +6,17 @@
 
 namespace wayloom {
 
+namespace {
+
+/// Chinese is told by its script, as the phone does, not by a place.
+std::string withScript(const std::string& language) {
+  if (language == "zh" || language == "zh-CN" || language == "zh-SG") return "zh-Hans";
+  if (language == "zh-TW" || language == "zh-HK" || language == "zh-MO") return "zh-Hant";
+  return language;
+}
+
+}  // namespace
+
 std::string preferredLanguage() {
   for (const char* variable : {"LANGUAGE", "LC_ALL", "LC_MESSAGES", "LANG"}) {
     const char* value = std::getenv(variable);
@@ -14,7 +25,7 @@ std::string preferredLanguage() {
     language.resize(std::min(language.find_first_of(":.@"), language.size()));
     if (language.empty() || language == "C" || language == "POSIX") continue;
     std::replace(language.begin(), language.end(), '_', '-');
-    return language;
+    return withScript(language);
   }
   return "en";
 }

@@ -66,7 +66,7 @@ TEST_F(ApplicationCommandsTest, RefusesWhatNoFileKeepsAndNamesDamage) {
   EXPECT_EQ(bytesOf(path.string() + ".damaged-1"), "<plist>");
 }
 
-TEST_F(ApplicationCommandsTest, WritersAtTheSameTimeNeverTearAFile) {
+TEST_F(ApplicationCommandsTest, WritersAtTheSameTimeNeverTearAFileAndShellsLoseNothing) {
   // Every writer has a value of its own for each key it sets: a mixed file would show two of them.
   SettingsFiles files(root.path());
   const std::string name(5000, 'n');
@@ -114,6 +114,7 @@ TEST_F(ApplicationCommandsTest, WritersAtTheSameTimeNeverTearAFile) {
   }
   waiting.join();
   EXPECT_GT(turn, 10) << "the core hardly wrote at all";
+  EXPECT_EQ(files.loadArray(SettingsFile::Favorites)->size(), 16U) << "the shells take turns";
   for (const auto& entry :
        std::filesystem::directory_iterator(files.path(SettingsFile::Whitelist).parent_path())) {
     EXPECT_EQ(entry.path().extension(), ".plist") << "left behind: " << entry.path();

@@ -1,5 +1,6 @@
 #include <cstdlib>
 
+#include "platform/PreferredLanguage.h"
 #include "platform/Services.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -76,6 +77,28 @@ TEST_F(ServicesTest, FindsTheFileInTheUsersConfiguration) {
   }
   unsetenv("XDG_CONFIG_HOME");
   setenv("HOME", home.c_str(), 1);
+}
+
+TEST(PreferredLanguage, IsTheFirstTheEnvironmentNames) {
+  const struct {
+    const char *language, *all, *lang, *expected;
+  } cases[] = {{"", "", "sv_SE.UTF-8", "sv-SE"},
+               {"zh_Hans:en", "", "sv_SE", "zh-Hans"},
+               {"", "zh_CN.UTF-8", "sv_SE", "zh-Hans"},
+               {"", "", "zh_HK", "zh-Hant"},
+               {"", "de_DE@euro", "sv", "de-DE"},
+               {"", "C", "fr", "fr"},
+               {"", "", "C.UTF-8", "en"},
+               {"", "POSIX", "", "en"}};
+  for (const auto& test : cases) {
+    setenv("LANGUAGE", test.language, 1);
+    setenv("LC_ALL", test.all, 1);
+    unsetenv("LC_MESSAGES");
+    setenv("LANG", test.lang, 1);
+    EXPECT_EQ(preferredLanguage(), test.expected)
+        << test.language << '|' << test.all << '|' << test.lang;
+  }
+  for (const char* variable : {"LANGUAGE", "LC_ALL", "LANG"}) unsetenv(variable);
 }
 
 }  // namespace

@@ -106,6 +106,15 @@ ExitStatus importRegionFile(CommandLine& line, const std::string& file,
                             const std::optional<std::string>& givenName) {
   const std::string name = givenName.value_or(extractStem(file));
   const RegionStore& installed = line.regions();
+  const bool hides = std::any_of(
+      installed.regions().begin(), installed.regions().end(), [&](const Region& region) {
+        return region.path.stem() == name && region.path.parent_path() != ownFolder(line);
+      });
+  if (hides) {
+    return line.fail(
+        "the region " + name +
+        " comes with the program and would be hidden: choose another name with --name");
+  }
   const auto region = [&] {
     const InterruptionGuard guard;
     ProgressLine shown;

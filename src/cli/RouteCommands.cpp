@@ -119,7 +119,8 @@ ExitStatus turnRouteOn(CommandLine& line, const Drive& drive) {
   auto points = std::make_shared<RoutePoints>(
       found.error ? RoutePoints() : RoutePoints::planned(found.routes.front().polyline));
   if (const char* refusal = refusalToTurnOn(choices, *points, found.error.has_value())) {
-    return line.fail(found.error ? refusal + (" (" + *found.error + ")") : refusal);
+    const bool isPlan = refusal == kPathPlanningFailure && found.error;
+    return line.fail(isPlan ? refusal + (" (" + *found.error + ")") : refusal);
   }
   choices.startTime = startTimeFrom(choices, simulation.now());
   if (const Status switched = switchToMode(line.files(), Mode::Route); !switched) {

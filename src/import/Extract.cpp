@@ -83,6 +83,7 @@ class Sorter : public osmium::handler::Handler {
   explicit Sorter(ExtractVisitor& visitor) : mVisitor(visitor) {}
 
   void node(const osmium::Node& node) {
+    if (!node.visible()) return;  // An editor's mark for what it deleted.
     if (!node.location().valid()) throw Stop{{named("node", node.id()) + outside}};
     // By then the way has missed it.
     if (mHasWays) throw Stop{{named("node", node.id()) + " stands behind the ways"}};
@@ -95,6 +96,7 @@ class Sorter : public osmium::handler::Handler {
 
   void way(const osmium::Way& way) {
     mHasWays = true;
+    if (!way.visible()) return;
     Line line;
     for (const osmium::NodeRef& node : way.nodes()) {
       if (!node.location().valid()) {

@@ -18,7 +18,7 @@ std::string_view kindOf(const osmium::TagList& tags) {
     std::erase(vehicle, ' ');
     if (isOneOf(vehicle, {"motorcar", "motor_vehicle", "vehicle"})) return {};
   }
-  for (const char* hours : {"day_on", "hour_on", "restriction:conditional"}) {
+  for (const char* hours : {"day_on", "hour_on"}) {
     if (tags.has_key(hours)) return {};
   }
   const char* own = tags.get_value_by_key("restriction:motorcar");

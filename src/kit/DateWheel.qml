@@ -29,7 +29,14 @@ ListView {
     preferredHighlightEnd: (height + rowSize) / 2
     currentIndex: value
     keyNavigationEnabled: false
-    onMovementEnded: turn(currentIndex)
+    // Closed while it runs, the picker has taken what it showed then.
+    onEnabledChanged: if (!enabled) cancelFlick()
+    onMovementEnded: {
+        if (enabled)
+            turn(currentIndex)
+        else
+            currentIndex = Qt.binding(() => wheel.value)
+    }
     Keys.onUpPressed: turn(value - 1)
     Keys.onDownPressed: turn(value + 1)
     Accessible.role: Accessible.SpinBox

@@ -16,6 +16,12 @@ T.Button {
     Keys.onEnterPressed: clicked()
 
     contentItem: Item {
+        Text {
+            anchors.centerIn: parent
+            text: control.text
+            color: FlatPalette.text
+            font.pixelSize: 22
+        }
         Image {
             anchors.centerIn: parent
             source: control.icon.source

@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <string>
 #include <string_view>
 
 #include "regions/CarAccess.h"
@@ -43,10 +44,20 @@ constexpr std::uint8_t kYardKmPerHour = 10;
 constexpr std::uint8_t kFerryKmPerHour = 15;
 constexpr double kKmPerMile = 1.609344;
 
-// Whether the way may be driven in either direction is kept in `use`; false when that changes with
-// the hour.
+/// What the most particular of the keys says that hold for cars.
+std::string_view forCars(const OsmTags& tags, std::string_view before, std::string_view behind) {
+  for (const std::string_view who : {"motorcar", "motor_vehicle", "vehicle"}) {
+    const std::string key = std::string(before).append(who).append(behind);
+    if (const std::string_view value = tagOf(tags, key); !value.empty()) return value;
+  }
+  return {};
+}
+
+// Which directions of the way may be driven is kept in `use`; false when that changes with the
+// hour, or neither may.
 bool readDirections(const OsmTags& tags, RoadUse& use) {
-  const std::string_view oneway = tagOf(tags, "oneway");
+  const std::string_view ownOneway = forCars(tags, "oneway:", "");
+  const std::string_view oneway = ownOneway.empty() ? tagOf(tags, "oneway") : ownOneway;
   if (isOneOf(oneway, {"reversible", "alternating"})) return false;
   const bool isImplied = isOneOf(tagOf(tags, "highway"), {"motorway", "motorway_link"}) ||
                          isOneOf(tagOf(tags, "junction"), {"roundabout", "circular"});
@@ -56,7 +67,9 @@ bool readDirections(const OsmTags& tags, RoadUse& use) {
   } else if (isOneOf(oneway, {"yes", "true", "1"}) || (isImplied && !isTwoWay)) {
     use.backward = false;
   }
-  return true;
+  if (forCars(tags, "", ":forward") == "no") use.forward = false;
+  if (forCars(tags, "", ":backward") == "no") use.backward = false;
+  return use.forward || use.backward;
 }
 
 std::optional<std::uint8_t> postedKmPerHour(std::string_view text) {

@@ -35,12 +35,20 @@ std::string plainNumber(double value) {
   return {buffer.data(), end};
 }
 
-constexpr std::string_view kPattern = ".XXXXXX";
+// A name that nobody else gives to a file: what has it may be removed.
+constexpr std::string_view kMark = ".wayloom-writes-";
+constexpr std::string_view kRandom = "XXXXXX";
 
-// Whether a path is one that makeTemporary() gives.
+std::filesystem::path temporaryPattern(const std::filesystem::path& target) {
+  std::string name = '.' + target.filename().string();
+  return target.parent_path() / name.append(kMark).append(kRandom);
+}
+
 bool isTemporary(const std::filesystem::path& path) {
-  return path.extension().string().size() == kPattern.size() &&
-         path.stem().extension() == kRegionExtension;
+  const std::string name = path.filename().string();
+  const std::size_t tail = kMark.size() + kRandom.size();
+  return name.starts_with('.') && name.size() > tail &&
+         name.compare(name.size() - tail, kMark.size(), kMark) == 0;
 }
 
 // Removes what writers left that were killed: files that no writer holds a lock on.
@@ -48,7 +56,7 @@ void removeLeftovers(const std::filesystem::path& folder) {
   std::error_code error;
   for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
        entry.increment(error)) {
-    if (!isTemporary(entry->path())) continue;
+    if (!isTemporary(entry->path()) || !entry->is_regular_file(error)) continue;
     const Descriptor file(::open(entry->path().c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC));
     if (file.get() >= 0 && ::flock(file.get(), LOCK_EX | LOCK_NB) == 0) {
       ::unlink(entry->path().c_str());
@@ -65,7 +73,7 @@ std::filesystem::path folderOf(const std::filesystem::path& target) {
 // An empty file of an unpredictable name that the store does not take for a region.
 Result<RegionWriter::Temporary> RegionWriter::makeTemporary(const std::filesystem::path& target) {
   removeLeftovers(folderOf(target));
-  std::string pattern = target.string().append(kPattern);
+  std::string pattern = temporaryPattern(target).string();
   auto lock = std::make_unique<Descriptor>(::mkostemp(pattern.data(), O_CLOEXEC));
   if (lock->get() < 0) return systemFailure("cannot create", target);
   ::flock(lock->get(), LOCK_EX);

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <utility>
 
+#include "regions/GroundGeometry.h"
 #include "regions/RouterAnswer.h"
 
 namespace wayloom {
@@ -26,6 +28,23 @@ bool isWithinReach(const RegionBounds& region, Coordinate position) {
 double size(const RegionBounds& bounds) {
   return (bounds.east - bounds.west) * (bounds.north - bounds.south);
 }
+
+/// The routes that begin and end nearest to where they were asked for. Where regions overlap, each
+/// may know roads that the other does not have.
+struct Nearest {
+  std::vector<Route> routes;
+  double metres = std::numeric_limits<double>::infinity();
+
+  void offer(std::vector<Route> offered, Coordinate from, Coordinate to) {
+    // Less tells nothing about which region knows better; the smaller one came first.
+    constexpr double kLeastGainMetres = 1;
+    const std::vector<Coordinate>& line = offered.front().line;
+    const double away = distanceMetres(from, line.front()) + distanceMetres(to, line.back());
+    if (away + kLeastGainMetres > metres) return;
+    routes = std::move(offered);
+    metres = away;
+  }
+};
 
 Result<std::optional<RoadGraph>> readGraph(const std::filesystem::path& path) {
   auto database = openRegion(path);
@@ -60,6 +79,7 @@ Result<std::vector<Route>> Router::plan(Coordinate from, Coordinate to, int alte
   if (!isPosition(from)) return Failure{"the start is not on the globe"};
   if (!isPosition(to)) return Failure{"the end is not on the globe"};
   std::string fault;
+  Nearest best;
   bool hasStart = false;
   bool hasEnd = false;
   for (RegionRoads& roads : mRegions) {
@@ -73,9 +93,13 @@ Result<std::vector<Route>> Router::plan(Coordinate from, Coordinate to, int alte
     hasEnd = hasEnd || reachesEnd;
     if (!reachesStart || !reachesEnd) continue;
     auto routes = routesOn(*roads.graph, from, to, alternates);
-    if (routes) return routes;
-    if (fault.empty()) fault = routes.message();
+    if (routes) {
+      best.offer(std::move(*routes), from, to);
+    } else if (fault.empty()) {
+      fault = routes.message();
+    }
   }
+  if (!best.routes.empty()) return std::move(best.routes);
   if (!fault.empty()) return Failure{fault};
   if (!hasStart) return Failure{"the start lies outside every installed region with roads"};
   if (!hasEnd) return Failure{"the end lies outside every installed region with roads"};

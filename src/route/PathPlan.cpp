@@ -78,8 +78,7 @@ void PathPlan::complete(Coordinate source, Coordinate destination, const Directi
   mMapView->setRegion(mMapView->regionThatFits(regionBetween(source, destination)), Animated::Yes);
 }
 
-// The start marker stands at the end of the path and the end marker at its start. This is how the
-// screen has always looked, and its readers rely on it.
+// On purpose, the start marker stands at the end of the path and the end marker at its start.
 
 void PathPlan::buildStart() {
   mMapView->addAnnotation(marker(mPoints->last(), kStartTag));

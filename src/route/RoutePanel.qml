@@ -117,7 +117,6 @@ Rectangle {
             height: FlatPalette.controlHeight
             raised: false
             text: panel.controller.collapsed ? "⬇️" : "⬆️"
-            icon.source: "qrc:/icons/" + (panel.controller.collapsed ? "down.svg" : "up.svg")
             onClicked: panel.controller.upDown()
             Accessible.name: panel.controller.collapsed ? qsTranslate("Wayloom", "Show the choices")
                                                         : qsTranslate("Wayloom", "Hide the choices")

@@ -59,6 +59,8 @@ T.AbstractButton {
             color: FlatPalette.text
             font.pixelSize: FlatPalette.bodySize
             horizontalAlignment: Text.AlignRight
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 12
             verticalAlignment: Text.AlignVCenter
             elide: Text.ElideRight
             textFormat: Text.PlainText

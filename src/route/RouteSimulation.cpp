@@ -18,10 +18,7 @@ const char* refusalToTurnOn(const RouteChoices& choices, const RoutePoints& poin
   if (!(choices.startTime > 0)) return "Please choose Start Time";
   if (!(choices.endTime > 0)) return "Please choose End Time";
   if (choices.startTime > choices.endTime) return "End Time must later than Start Time";
-  if (points.isEmpty() || isRouteError) {
-    return "Path planning failure, rechoose Start/End please";
-  }
-  return nullptr;
+  return points.isEmpty() || isRouteError ? kPathPlanningFailure : nullptr;
 }
 
 double startTimeFrom(const RouteChoices& choices, std::int32_t now) {

@@ -25,6 +25,8 @@ struct RouteChoices {
   std::string endText;
 };
 
+inline constexpr char kPathPlanningFailure[] = "Path planning failure, rechoose Start/End please";
+
 /// The message that refuses to turn a drive on, the first of several reasons; null when nothing
 /// stands in the way. `isRouteError` says that the last plan failed.
 const char* refusalToTurnOn(const RouteChoices& choices, const RoutePoints& points,

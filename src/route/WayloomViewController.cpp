@@ -35,7 +35,9 @@ WayloomViewController::WayloomViewController(const Services& services, QObject* 
   connect(&mTimer, &QTimer::timeout, this, &WayloomViewController::refreshLocation);
   connect(&mPlan, &PathPlan::started, this, [this] { showHUDView(); });
   connect(&mPlan, &PathPlan::ended, this, [this] { hideHUDView(); });
-  connect(&dp_drive, &DatePicker::valueChanged, this, &WayloomViewController::pickerValueChanged);
+  connect(&dp_drive, &DatePicker::valueChanged, this, [this] {
+    if (mView.pickerShown) pickerValueChanged();
+  });
 }
 
 template <typename Change>

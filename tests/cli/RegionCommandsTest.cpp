@@ -118,8 +118,11 @@ TEST_F(RegionCommandsTest, ASuddenEndLeavesNothingHalf) {
       EXPECT_LE(std::count(stopped.err.begin(), stopped.err.end(), '\n'), 1) << stopped.err;
     }
   }
+  writeBytes(folder() / ".old.region.wayloom-writes-aB3xY9", "half a region");
+  writeBytes(folder() / "town.region.backup", "the user's own");
   ASSERT_EQ(run("region import '" + path("town.osm") + "'").status, 0);
-  EXPECT_EQ(std::distance(fs::directory_iterator(folder()), {}), 1);
+  EXPECT_EQ(bytesOf(folder() / "town.region.backup"), "the user's own");
+  EXPECT_EQ(std::distance(fs::directory_iterator(folder()), {}), 2);
 }
 
 }  // namespace

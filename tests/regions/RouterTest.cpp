@@ -242,6 +242,16 @@ TEST_F(RegionRoads, SayWhyThereIsNoRoute) {
   }
 }
 
+TEST_F(RegionRoads, OfTheRegionThatKnowsTheNearestRoadAreDriven) {
+  const AsciiRoads far({"A---B", "     ", "     ", "     ", "C---D"});
+  write("small", {0.99, 0.99, 1.01, 1.01}, AsciiRoads({"A---B"}).network());
+  write("large", {0.9, 0.9, 1.1, 1.1}, far.network());
+  Router router(RegionStore({mFolder.path()}));
+  const auto routes = router.plan(far.at('C'), far.at('D'), 0);
+  ASSERT_TRUE(routes) << routes.message();
+  EXPECT_EQ(far.passed(routes->front().line), "CD");
+}
+
 TEST_F(RegionRoads, AreRefusedWhenDamagedAndOthersServe) {
   const AsciiRoads roads({"A---B"});
   RoadNetwork damaged = roads.network();

@@ -272,6 +272,35 @@ TEST_F(WayloomScreenTest, AppearingReadsTheFileAgainAndLeavesTheRest) {
   EXPECT_EQ(stored().at("enable"), PropertyList("0"));
 }
 
+TEST_F(WayloomScreenTest, AWheelThatStillRunsChoosesNothingAfterThePickerIsClosed) {
+  open();
+  chooseTime("lb_startTime");
+  QQuickItem* wheel = screen.find("dayWheel");
+  QMetaObject::invokeMethod(wheel, "flick", Q_ARG(qreal, 0), Q_ARG(qreal, -2500));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return wheel->property("contentY").toReal() > 0; }));
+  closePicker();
+  const QString chosen = textOf("lb_startTime");
+  EXPECT_FALSE(wheel->property("moving").toBool());
+  chooseTime("lb_endTime");
+  closePicker();
+  EXPECT_EQ(textOf("lb_startTime"), chosen);
+  EXPECT_EQ(textOf("lb_endTime"), shown(kNow));
+}
+
+TEST_F(WayloomScreenTest, TheOneOverlayMovesBetweenViewAndWindow) {
+  open();
+  controller->showHUDView();
+  const QQuickItem* overlay = screen.find("HUD");
+  EXPECT_NE(overlay->parentItem(), screen.view.contentItem());
+  controller->showHUDViewOnWindowWithTextYOffset("Wait", 30);
+  EXPECT_EQ(overlay->parentItem(), screen.view.contentItem());
+  EXPECT_EQ(screen.find("HUD"), nullptr) << "there is no second one in the view";
+  EXPECT_EQ(overlay->property("labelText"), "Wait");
+  EXPECT_EQ(overlay->property("yOffset"), 30);
+  controller->hideHUDView();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !overlay->isVisible(); }));
+}
+
 TEST_F(WayloomScreenTest, HostileRouteFilesStopNothingAndStayAsTheyAre) {
   const PropertyList::Array huge(3, Dictionary{{"lat", "1e308"}, {"lng", "-1e308"}});
   const Dictionary files[] = {

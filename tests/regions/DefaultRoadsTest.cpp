@@ -1,3 +1,4 @@
+#include <map>
 #include <random>
 #include <set>
 
@@ -8,47 +9,120 @@
 namespace wayloom {
 namespace {
 
-// Routes between random places of Gothenburg follow its roads, in the directions allowed there.
-TEST(DefaultRoads, CarryRoutesThatFollowThemInTheirDirections) {
-  auto database = openRegion(std::filesystem::path(WAYLOOM_REGION_DIR) / "gothenburg.region");
-  ASSERT_TRUE(database) << database.message();
-  auto network = readRoads(*database);
-  ASSERT_TRUE(network) << network.message();
-  const RoadGraph graph(std::move(*network));
-  ASSERT_GT(graph.edges().size(), 9000u);
-  std::set<std::pair<RoadPoint, RoadPoint>> hops;
-  for (std::uint32_t edge = 0; edge < graph.edges().size(); ++edge) {
-    const RoadUse& use = graph.edges()[edge].use;
-    const Line line = graph.line(edge);
-    for (std::size_t index = 1; index < line.size(); ++index) {
-      const RoadPoint a = roadPoint(line[index - 1]);
-      const RoadPoint b = roadPoint(line[index]);
-      if (use.forward) hops.insert({a, b});
-      if (use.backward) hops.insert({b, a});
+using Hop = std::pair<RoadPoint, RoadPoint>;
+
+/// The roads of Gothenburg and what a driver may do there, position by position.
+class DefaultRoads : public testing::Test {
+ protected:
+  void SetUp() override {
+    auto database = openRegion(std::filesystem::path(WAYLOOM_REGION_DIR) / "gothenburg.region");
+    ASSERT_TRUE(database) << database.message();
+    auto network = readRoads(*database);
+    ASSERT_TRUE(network) << network.message();
+    mGraph = std::make_unique<RoadGraph>(std::move(*network));
+    for (std::uint32_t edge = 0; edge < mGraph->edges().size(); ++edge) {
+      const RoadUse& use = mGraph->edges()[edge].use;
+      const Line line = mGraph->line(edge);
+      for (std::size_t index = 1; index < line.size(); ++index) {
+        const RoadPoint a = roadPoint(line[index - 1]);
+        const RoadPoint b = roadPoint(line[index]);
+        if (use.forward) mHops.insert({a, b});
+        if (use.backward) mHops.insert({b, a});
+        if (use.forward != use.backward) mOneWay.insert({{a, b}, {b, a}});
+        if (use.destinationOnly) mResidents.insert({{a, b}, {b, a}});
+      }
     }
   }
-  std::mt19937 random(5);
-  const auto place = [&] {
-    return graph.line(static_cast<std::uint32_t>(random() % graph.edges().size())).front();
-  };
+
+  std::vector<Coordinate> places(int count) const {
+    std::mt19937 random(5);
+    std::vector<Coordinate> places;
+    while (static_cast<int>(places.size()) < count) {
+      const auto edge = static_cast<std::uint32_t>(random() % mGraph->edges().size());
+      places.push_back(mGraph->line(edge).front());
+    }
+    return places;
+  }
+
+  // Whether a route uses a stretch of the set; its first and last hop are parts of one.
+  static bool uses(const std::set<Hop>& hops, const Line& line) {
+    for (std::size_t index = 1; index < line.size(); ++index) {
+      if (hops.contains({roadPoint(line[index - 1]), roadPoint(line[index])})) return true;
+    }
+    return false;
+  }
+
+  std::unique_ptr<RoadGraph> mGraph;
+  std::set<Hop> mHops, mOneWay, mResidents;
+};
+
+TEST_F(DefaultRoads, CarryRoutesThatFollowThemInTheirDirections) {
+  EXPECT_GT(mGraph->edges().size(), 9000u);
   int planned = 0;
-  for (int drive = 0; drive < 200; ++drive) {
-    const Coordinate from = place(), to = place();
-    const auto routes = routesOn(graph, from, to, 2);
+  const auto asked = places(200);
+  for (std::size_t index = 1; index < asked.size(); ++index) {
+    const auto routes = routesOn(*mGraph, asked[index - 1], asked[index], 2);
     if (!routes) continue;
     for (const Route& route : *routes) {
       ++planned;
-      // The first and the last hop are parts of a stretch.
       for (std::size_t hop = 2; hop + 1 < route.line.size(); ++hop) {
         const RoadPoint a = roadPoint(route.line[hop - 1]);
         const RoadPoint b = roadPoint(route.line[hop]);
-        ASSERT_TRUE(hops.contains({a, b}))
-            << "drive " << drive << ": " << a.latitude << ',' << a.longitude << " to " << b.latitude
+        ASSERT_TRUE(mHops.contains({a, b}))
+            << "drive " << index << ": " << a.latitude << ',' << a.longitude << " to " << b.latitude
             << ',' << b.longitude;
       }
     }
   }
   EXPECT_GT(planned, 300);
+}
+
+// The way back takes as long where no one-way street is on either.
+TEST_F(DefaultRoads, TakeAsLongInBothDirectionsWhereAllIsTwoWay) {
+  int compared = 0;
+  // Edges stand in the file by their places on the ground, so these drives are short.
+  std::vector<Coordinate> asked;
+  for (std::uint32_t edge = 0; edge < mGraph->edges().size(); edge += 20) {
+    asked.push_back(mGraph->line(edge).front());
+  }
+  for (std::size_t index = 1; index < asked.size(); ++index) {
+    const auto there = routesOn(*mGraph, asked[index - 1], asked[index], 0);
+    const auto back = routesOn(*mGraph, asked[index], asked[index - 1], 0);
+    if (!there || !back) continue;
+    const Line& line = there->front().line;
+    if (uses(mOneWay, line) || uses(mOneWay, back->front().line)) continue;
+    // Each end may have moved to another road in the other direction.
+    if (line.front() != back->front().line.back()) continue;
+    if (line.back() != back->front().line.front()) continue;
+    ++compared;
+    EXPECT_NEAR(there->front().seconds, back->front().seconds, 0.01) << "drive " << index;
+    EXPECT_NEAR(there->front().metres, back->front().metres, 100) << "drive " << index;
+  }
+  EXPECT_GE(compared, 50);
+}
+
+TEST_F(DefaultRoads, AreNeverQuickerByADetour) {
+  int compared = 0;
+  const auto asked = places(300);
+  for (std::size_t index = 2; index < asked.size(); ++index) {
+    const auto whole = routesOn(*mGraph, asked[index - 2], asked[index], 0);
+    const auto first = routesOn(*mGraph, asked[index - 2], asked[index - 1], 0);
+    const auto second = routesOn(*mGraph, asked[index - 1], asked[index], 0);
+    if (!whole || !first || !second) continue;
+    const Line& line = whole->front().line;
+    if (first->front().line.front() != line.front()) continue;
+    if (second->front().line.back() != line.back()) continue;
+    if (first->front().line.back() != second->front().line.front()) continue;
+    // Residents' streets may be used on a visit but not to go through.
+    if (uses(mResidents, line) || uses(mResidents, first->front().line) ||
+        uses(mResidents, second->front().line)) {
+      continue;
+    }
+    ++compared;
+    EXPECT_LE(whole->front().seconds, first->front().seconds + second->front().seconds + 0.01)
+        << "drive " << index;
+  }
+  EXPECT_GT(compared, 100);
 }
 
 }  // namespace

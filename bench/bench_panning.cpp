@@ -4,16 +4,18 @@
 // renderer, painting every frame. In the same run a loop that does nothing shows what the machine
 // takes from any thread.
 //
-//   bench_panning [SECONDS] [--line] [--picture FILE.png]
+//   bench_panning [SECONDS] [--line] [--writes] [--picture FILE.png]
 
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <optional>
 #include <random>
 #include <sys/resource.h>
 
 #include <QtCore/QAbstractEventDispatcher>
 #include <QtCore/QCommandLineParser>
+#include <QtCore/QTemporaryDir>
 #include <QtCore/QThread>
 #include <QtCore/QTimer>
 #include <QtGui/QGuiApplication>
@@ -23,6 +25,7 @@
 #include "map/MapView.h"
 #include "map/MapnikTileSource.h"
 #include "regions/RegionDirectories.h"
+#include "route/RouteFile.h"
 
 namespace wayloom {
 namespace {
@@ -105,7 +108,26 @@ class Tour {
   int mLegs = 0;
 };
 
-int run(TimedApplication& application, int seconds, bool withLine, const QString& picture) {
+/// Writes a route file of 100,000 points each second, as turning a drive on does.
+class RouteWrites {
+ public:
+  RouteWrites() {
+    mRoute.points = std::make_shared<RoutePoints>(RoutePoints::planned(*longLine()->coordinates));
+    QObject::connect(&mTimer, &QTimer::timeout, &mTimer, [this] { (void)mFile.save(mRoute); });
+    mTimer.start(1s);
+  }
+
+ private:
+  QTemporaryDir mFolder;
+  SettingsFiles mFiles{mFolder.path().toStdString()};
+  WorkQueue mSaves;
+  RouteFile mFile{mFiles, &mSaves};
+  RoutePreferences mRoute;
+  QTimer mTimer;
+};
+
+int run(TimedApplication& application, int seconds, bool withLine, bool withWrites,
+        const QString& picture) {
   QQuickWindow window;
   window.resize(375, 667);
   MapView map(window.contentItem());
@@ -119,6 +141,8 @@ int run(TimedApplication& application, int seconds, bool withLine, const QString
   window.show();
   idleStretches(kFloorMs).print("a loop that does nothing, before");
   application.turns().forget();  // Opening a window is no panning.
+  std::optional<RouteWrites> writes;
+  if (withWrites) writes.emplace();
   Tour tour(map);
   QTimer::singleShot(std::chrono::seconds(seconds), &window, [&] {
     application.turns().print("the main thread's turns while panning");
@@ -142,10 +166,11 @@ int main(int argc, char* argv[]) {
   parser.addHelpOption();
   parser.addPositionalArgument("SECONDS", "How long to pan; 60 if not given.");
   parser.addOption({"line", "Show a line of 100,000 points."});
+  parser.addOption({"writes", "Write a route file of 100,000 points each second."});
   parser.addOption({"picture", "Save the last frame.", "FILE"});
   parser.process(application);
   const QStringList arguments = parser.positionalArguments();
   const int seconds = arguments.isEmpty() ? 60 : arguments.first().toInt();
   return wayloom::run(application, std::max(1, seconds), parser.isSet("line"),
-                      parser.value("picture"));
+                      parser.isSet("writes"), parser.value("picture"));
 }

@@ -102,6 +102,36 @@ TEST_F(ApplicationTest, ComingToTheFrontRefreshesTheScreenOfTheModeOnly) {
   EXPECT_TRUE(window->find("enableSwitch")->property("checked").toBool());
 }
 
+TEST_F(ApplicationTest, AFavouriteIsSwipedAwayAndAnotherChosen) {
+  ASSERT_TRUE(files.writeMasterMode(Mode::FixedLocation));
+  const PropertyList home =
+      Dictionary{{"name", "Home"}, {"latitude", "57.700000"}, {"longitude", "11.900000"}};
+  const PropertyList work =
+      Dictionary{{"name", "Work"}, {"latitude", "57.800000"}, {"longitude", "12.000000"}};
+  ASSERT_TRUE(files.save(SettingsFile::Favorites, PropertyList::Array{home, work}));
+  start();
+  ASSERT_TRUE(window->click("favoritesButton"));
+  ASSERT_TRUE(window->waitForScreen("mainTableView"));
+
+  const QPoint from = window->find("mainTableView")->mapToScene({340, 20}).toPoint();
+  QTest::mousePress(&application->window(), Qt::LeftButton, Qt::NoModifier, from);
+  for (int step = 1; step <= 10; ++step) {
+    QTest::mouseMove(&application->window(), from - QPoint(20 * step, 0), 10);
+  }
+  QTest::mouseRelease(&application->window(), Qt::LeftButton, Qt::NoModifier,
+                      from - QPoint(200, 0));
+  ASSERT_TRUE(
+      window->waitUntil("the delete button", [&] { return window->click("deleteButton"); }));
+  EXPECT_EQ(files.loadArray(SettingsFile::Favorites), PropertyList::Array{work});
+
+  window->press(Qt::Key_Down);
+  window->press(Qt::Key_Return);
+  ASSERT_TRUE(window->waitUntil("the screen below", [&] { return isIn("mainMapView"); }));
+  EXPECT_TRUE(window->property("enableSwitch", "checked").toBool());
+  EXPECT_EQ(textsIn(files, SettingsFile::Location),
+            (Texts{{"enable", "1"}, {"latitude", "57.800000"}, {"longitude", "12.000000"}}));
+}
+
 TEST_F(ApplicationTest, ModalScreensLieOverOneAnotherAndLeaveByKey) {
   start();
   ASSERT_TRUE(window->click("btn_info"));

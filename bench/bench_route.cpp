@@ -1,47 +1,20 @@
-#include <algorithm>
 #include <benchmark/benchmark.h>
 #include <chrono>
-#include <cstdio>
 #include <fcntl.h>
-#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <plist/plist.h>
-#include <stdlib.h>
 #include <string>
 #include <unistd.h>
 #include <vector>
 
+#include "Measuring.h"
 #include "route/RouteFile.h"
 #include "route/RoutePosition.h"
 
 namespace {
 
 using namespace wayloom;
-namespace fs = std::filesystem;
-
-/// A folder of its own, removed when the program ends.
-class Folder {
- public:
-  Folder() : mPath("wayloom-bench-XXXXXX") {
-    if (::mkdtemp(mPath.data()) == nullptr) {
-      std::perror("cannot create a folder here");
-      std::exit(1);
-    }
-  }
-  ~Folder() { fs::remove_all(mPath); }
-  const std::string& path() const { return mPath; }
-
- private:
-  std::string mPath;
-};
-
-void require(bool done, const char* what) {
-  if (!done) {
-    std::perror(what);
-    std::exit(1);
-  }
-}
 
 RoutePreferences routeOf(std::size_t count) {
   std::vector<Coordinate> path(count);
@@ -102,12 +75,6 @@ double millisecondsOf(Action action) {
   action();
   return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - begin)
       .count();
-}
-
-double medianOf(std::vector<double> values) {
-  const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-  std::nth_element(values.begin(), middle, values.end());
-  return *middle;
 }
 
 /// Ours and libplist's by turns, so that the machine's moods fall on both alike.

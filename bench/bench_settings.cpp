@@ -1,15 +1,11 @@
-#include <algorithm>
 #include <benchmark/benchmark.h>
 #include <chrono>
-#include <cstdio>
 #include <fcntl.h>
-#include <filesystem>
-#include <stdlib.h>
 #include <string>
-#include <sys/stat.h>
 #include <unistd.h>
 #include <vector>
 
+#include "Measuring.h"
 #include "settings/PropertyListFormat.h"
 #include "settings/SettingsFiles.h"
 #include "settings/TextConversions.h"
@@ -17,30 +13,6 @@
 namespace {
 
 using namespace wayloom;
-namespace fs = std::filesystem;
-
-/// A folder of its own, removed when the program ends.
-class Folder {
- public:
-  Folder() : mPath("wayloom-bench-XXXXXX") {
-    if (::mkdtemp(mPath.data()) == nullptr) {
-      std::perror("cannot create a folder here");
-      std::exit(1);
-    }
-  }
-  ~Folder() { fs::remove_all(mPath); }
-  const std::string& path() const { return mPath; }
-
- private:
-  std::string mPath;
-};
-
-void require(bool done, const char* what) {
-  if (!done) {
-    std::perror(what);
-    std::exit(1);
-  }
-}
 
 /// What the user's every move of the map does to the file.
 void moveCenter(SettingsFiles& files, double degrees) {
@@ -70,12 +42,6 @@ double microsecondsOf(Action action) {
       .count();
 }
 
-double medianOf(std::vector<double>& values) {
-  const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-  std::nth_element(values.begin(), middle, values.end());
-  return *middle;
-}
-
 /// Both operations by turns, so that the disk's moods fall on both alike.
 void BM_CenterMovedAgainstBareReplacement(benchmark::State& state) {
   const Folder folder;
@@ -99,34 +65,6 @@ void BM_CenterMovedAgainstBareReplacement(benchmark::State& state) {
   state.counters["ratio_of_medians"] = medianOf(moved) / medianOf(bare);
 }
 BENCHMARK(BM_CenterMovedAgainstBareReplacement)->Iterations(1000)->Unit(benchmark::kMicrosecond);
-
-PropertyList routeOf(std::int64_t points) {
-  PropertyList::Array list;
-  for (std::int64_t i = 0; i < points; ++i) {
-    const auto step = static_cast<double>(i);
-    list.push_back(
-        PropertyList::Dictionary{{"lat", 57.7 + step * 1e-5}, {"lng", 11.9 - step / 3e5}});
-  }
-  return PropertyList::Dictionary{{"enable", "1"}, {"points", list}};
-}
-
-void BM_ReadRoute(benchmark::State& state) {
-  const std::string bytes = *serializePropertyList(routeOf(state.range(0))).bytes;
-  for (auto _ : state) {
-    benchmark::DoNotOptimize(parsePropertyList(bytes).value);
-  }
-  state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(bytes.size()));
-}
-BENCHMARK(BM_ReadRoute)->Arg(1000)->Arg(100000)->Unit(benchmark::kMillisecond);
-
-void BM_WriteRoute(benchmark::State& state) {
-  const PropertyList route = routeOf(state.range(0));
-  for (auto _ : state) {
-    benchmark::DoNotOptimize(serializePropertyList(route).bytes);
-  }
-  state.SetItemsProcessed(state.iterations() * state.range(0));
-}
-BENCHMARK(BM_WriteRoute)->Arg(1000)->Arg(100000)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

@@ -4,7 +4,7 @@ install(TARGETS wayloomctl RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
 install(FILES docs/man/wayloomctl.1 DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
 install(FILES packaging/wayloomctl.bash RENAME wayloomctl
   DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions")
-install(FILES packaging/copyright README.md DESTINATION "${CMAKE_INSTALL_DOCDIR}")
+install(FILES packaging/copyright NOTICE README.md DESTINATION "${CMAKE_INSTALL_DOCDIR}")
 
 set(package_depends libcurl4)  # Loaded when the first request is sent, so not found by dpkg-shlibdeps.
 if(WAYLOOM_SCREENS)

@@ -15,9 +15,13 @@ endfunction()
 wayloom_qml_module(wayloom_map Wayloom.Map)
 target_link_libraries(wayloom_map PRIVATE wayloom_options PUBLIC wayloom_regions)
 target_include_directories(wayloom_map PRIVATE "${CMAKE_SOURCE_DIR}/src/map")
+target_precompile_headers(wayloom_map PRIVATE <QtCore/QTimer> <QtGui/QGuiApplication>
+  <QtQml/QQmlEngine> <QtQuick/QQuickItem> <QtQuick/QQuickWindow> <algorithm> <chrono> <cmath>
+  <filesystem> <functional> <map> <memory> <optional> <string> <string_view> <vector>)
 
 wayloom_qml_module(wayloom_screens Wayloom.Screens)
 target_link_libraries(wayloom_screens PRIVATE wayloom_options PUBLIC wayloom_map Qt6::Positioning)
+target_precompile_headers(wayloom_screens REUSE_FROM wayloom_map)
 
 # Layouts and kit: QML only. Each folder adds its own files with wayloom_add_layout.
 set_property(GLOBAL PROPERTY WAYLOOM_LAYOUTS "")
@@ -50,6 +54,8 @@ function(wayloom_finish_screen_targets)
   qt_add_resources(wayloom_kit icons PREFIX /icons BASE "${CMAKE_SOURCE_DIR}/resources/icons"
     FILES ${icons})
   wayloom_qml_module(wayloom_layouts Wayloom.Layouts QML_FILES ${layouts})
+  # Small sources that Qt writes, each with all of its engine's headers.
+  set_target_properties(wayloom_kit wayloom_layouts PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 0)
   target_link_libraries(wayloom PRIVATE wayloom_screens wayloom_mapplugin wayloom_screensplugin
     wayloom_kitplugin wayloom_layoutsplugin)
 endfunction()

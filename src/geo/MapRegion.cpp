@@ -1,4 +1,4 @@
-#include "ui/MapRegion.h"
+#include "geo/MapRegion.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "places/Coordinate.h"
+#include "geo/Coordinate.h"
 
 namespace wayloom {
 

@@ -1,4 +1,4 @@
-#include "ui/MapZoom.h"
+#include "geo/MapZoom.h"
 
 #include <cmath>
 #include <limits>

@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
-#include "places/Coordinate.h"
-#include "ui/MapRegion.h"
+#include "geo/Coordinate.h"
+#include "geo/MapRegion.h"
 
 namespace wayloom {
 

@@ -1,16 +1,18 @@
 #pragma once
 
-#include "regions/GroundGeometry.h"
+#include <vector>
+
+#include "geo/Coordinate.h"
 
 namespace wayloom {
 
-/// A drive on roads.
+/// One way to drive.
 struct Route {
   /// Every bend of every road driven, from the spot on a road nearest to the start to the one
   /// nearest to the end; at least two positions.
-  Line line;
-  double metres = 0;
-  double seconds = 0;
+  std::vector<Coordinate> polyline;
+  double distanceMetres = 0;
+  double expectedSeconds = 0;
 };
 
 }  // namespace wayloom

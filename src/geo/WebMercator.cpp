@@ -1,4 +1,4 @@
-#include "ui/WebMercator.h"
+#include "geo/WebMercator.h"
 
 #include <algorithm>
 #include <cmath>

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <map>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -74,5 +75,12 @@ class PropertyList {
  private:
   Value mValue;
 };
+
+/// What a dictionary holds under a key; null when it holds nothing.
+inline const PropertyList* valueOf(const PropertyList::Dictionary& dictionary,
+                                   std::string_view key) {
+  const auto found = dictionary.find(key);
+  return found == dictionary.end() ? nullptr : &found->second;
+}
 
 }  // namespace wayloom

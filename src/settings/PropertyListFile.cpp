@@ -1,14 +1,10 @@
 #include "settings/PropertyListFile.h"
 
-#include <algorithm>
 #include <cerrno>
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <system_error>
-#include <unistd.h>
 #include <utility>
 
-#include "settings/Descriptor.h"
 #include "settings/PropertyListFormat.h"
 #include "settings/ReplaceFile.h"
 
@@ -16,118 +12,76 @@ namespace wayloom {
 namespace {
 
 namespace fs = std::filesystem;
+using Outcome = FileReading::Outcome;
 
 constexpr int kLastSetAsideNumber = 999;
 
-std::string describe(int error) {
-  return std::generic_category().message(error);
-}
-
-struct FileBytes {
-  std::string bytes;
+bool isTaken(const fs::path& path) {
   struct stat status = {};
-  /// 0, or why the bytes could not be read.
-  int error = 0;
-};
-
-/// Reads a regular file whole. It never waits: a pipe that stands where the file should is refused.
-FileBytes readBytes(const fs::path& path) {
-  FileBytes file;
-  const Descriptor descriptor(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-  if (descriptor.get() < 0 || ::fstat(descriptor.get(), &file.status) != 0) {
-    file.error = errno;
-    return file;
-  }
-  if (!S_ISREG(file.status.st_mode)) {
-    file.error = EINVAL;
-    return file;
-  }
-  // One byte more than may be: enough to know that the file is too large.
-  constexpr std::size_t kMost = kMaximumPropertyListBytes + 1;
-  const auto size = static_cast<std::size_t>(file.status.st_size);
-  file.bytes.resize(std::min(size + 1, kMost));
-  std::size_t length = 0;
-  while (true) {
-    if (length == file.bytes.size()) {
-      if (length == kMost) {
-        break;
-      }
-      file.bytes.resize(std::min(length * 2, kMost));
-    }
-    const ssize_t count =
-        ::read(descriptor.get(), file.bytes.data() + length, file.bytes.size() - length);
-    if (count == 0) {
-      break;
-    }
-    if (count < 0 && errno != EINTR) {
-      file.error = errno;
-      break;
-    }
-    length += count < 0 ? 0 : static_cast<std::size_t>(count);
-  }
-  file.bytes.resize(length);
-  return file;
+  return ::lstat(path.c_str(), &status) == 0;
 }
 
-FileVersion versionFrom(const struct stat& status) {
-  return {status.st_dev, status.st_ino, status.st_size, status.st_mtim.tv_sec,
-          status.st_mtim.tv_nsec};
-}
-
-std::optional<FileVersion> versionAt(const fs::path& path) {
-  struct stat status = {};
-  return ::stat(path.c_str(), &status) == 0 ? std::optional(versionFrom(status)) : std::nullopt;
-}
-
-/// Gives the file at `path` a further name, under which it outlives its replacement.
-Status keepUnderFurtherName(const fs::path& path, fs::path& furtherName) {
+/// Gives the file at `path` a further name, under which it outlives its replacement, and puts that
+/// name on disk.
+Status keepUnderFurtherName(const fs::path& path, fs::path& furtherName, FileSystem& system) {
+  const std::string what = "cannot set aside the damaged";
   for (int number = 1; number <= kLastSetAsideNumber; ++number) {
     furtherName = path;
     furtherName += ".damaged-" + std::to_string(number);
-    if (::link(path.c_str(), furtherName.c_str()) == 0) {
-      return done();
+    if (isTaken(furtherName)) continue;
+    if (system.link(path, furtherName) != 0) {
+      if (errno == EEXIST) continue;
+      // Some file systems have no links, and some files may not get one: it then moves aside.
+      const bool mayMove = errno == EPERM || errno == ENOTSUP || errno == EMLINK;
+      if (!mayMove || system.rename(path, furtherName) != 0) return systemFailure(what, path);
     }
-    if (errno == EEXIST) {
-      continue;
-    }
-    // A file system without links: a copy keeps the bytes as well.
-    std::error_code error;
-    if (!fs::exists(fs::symlink_status(furtherName, error)) &&
-        fs::copy_file(path, furtherName, error)) {
-      return done();
-    }
-    return failed("cannot set aside the damaged " + path.string() + ": " + error.message());
+    return syncFolder(path.parent_path(), system) ? done() : Status(systemFailure(what, path));
   }
-  return failed("cannot set aside the damaged " + path.string() + ": " +
-                std::to_string(kLastSetAsideNumber) + " are kept already, remove some");
+  return failed(what + " " + path.string() + ": " + std::to_string(kLastSetAsideNumber) +
+                " are kept already, remove some");
+}
+
+/// Takes the further name away again from a file that was not replaced after all.
+void takeBack(const fs::path& path, const fs::path& furtherName, FileSystem& system) {
+  if (furtherName.empty() || !isTaken(furtherName)) return;
+  std::error_code error;
+  if (!isTaken(path)) {
+    system.rename(furtherName, path);
+  } else if (fs::equivalent(path, furtherName, error)) {
+    system.unlink(furtherName);
+  }
 }
 
 }  // namespace
 
-PropertyListFile::PropertyListFile(fs::path path, Root root)
-    : mPath(std::move(path)), mRoot(root) {}
+PropertyListFile::PropertyListFile(fs::path path, Root root, FileSystem& system)
+    : mPath(std::move(path)), mRoot(root), mSystem(system) {}
 
 PropertyListFile::Contents PropertyListFile::read() const {
-  mSound.reset();
-  const FileBytes file = readBytes(mPath);
-  if (file.error == ENOENT || file.error == ENOTDIR) {
-    return {};
+  setSound(std::nullopt);
+  FileReading reading = readFile(mPath, kMaximumPropertyListBytes, mSystem);
+  switch (reading.outcome) {
+    case Outcome::Missing:
+      return {};
+    case Outcome::Failed:
+      return {State::Unreadable, {}, std::move(reading.problem)};
+    case Outcome::TooLarge:
+      return damaged("it is too large for a property list");
+    case Outcome::Complete:
+      break;
   }
-  if (file.error != 0) {
-    const bool isNoFile = file.status.st_mode != 0 && !S_ISREG(file.status.st_mode);
-    return {State::Damaged, {}, isNoFile ? "not a regular file" : describe(file.error)};
-  }
-  ParsedPropertyList parsed = parsePropertyList(file.bytes);
-  if (!parsed.value) {
-    return {State::Damaged, {}, std::move(parsed.damage)};
-  }
+  ParsedPropertyList parsed = parsePropertyList(reading.bytes);
+  if (!parsed.value) return damaged(std::move(parsed.damage));
   if (!isRightRoot(*parsed.value)) {
-    return {State::Damaged,
-            {},
-            mRoot == Root::Array ? "the root is no array" : "the root is no dictionary"};
+    return damaged(mRoot == Root::Array ? "the root is no array" : "the root is no dictionary");
   }
-  mSound = versionFrom(file.status);
+  setSound(reading.version);
   return {State::Loaded, std::move(*parsed.value), {}};
+}
+
+PropertyListFile::Contents PropertyListFile::damaged(std::string problem) const {
+  mDamage = Damage{problem, {}};
+  return {State::Damaged, {}, std::move(problem)};
 }
 
 Status PropertyListFile::write(const PropertyList& value) {
@@ -138,22 +92,27 @@ Status PropertyListFile::write(const PropertyList& value) {
   if (!serialized.bytes) {
     return failed("cannot write " + mPath.string() + ": " + serialized.problem);
   }
-  fs::path setAside;
-  if (mustBeSetAside()) {
-    Status kept = keepUnderFurtherName(mPath, setAside);
-    if (!kept) {
-      return kept;
-    }
-  }
-  Status replaced = replaceFile(mPath, *serialized.bytes);
-  mSound = replaced ? versionAt(mPath) : std::nullopt;
-  if (!replaced && !setAside.empty()) {
-    std::error_code error;
-    if (fs::equivalent(mPath, setAside, error)) {
-      fs::remove(setAside, error);
-    }
-  }
-  return replaced;
+  return writeBytes(*serialized.bytes);
+}
+
+Status PropertyListFile::writeBytes(std::string_view bytes) {
+  fs::path furtherName;
+  Status result = setAsideIfDamaged(furtherName);
+  if (result) result = replaceFile(mPath, bytes, mSystem);
+  setSound(result ? versionAt(mPath) : std::nullopt);
+  if (!result) takeBack(mPath, furtherName, mSystem);
+  if (result && mDamage && !furtherName.empty()) mDamage->keptAs = furtherName;
+  return result;
+}
+
+std::optional<FileVersion> PropertyListFile::soundVersion() const {
+  const std::lock_guard lock(mMutex);
+  return mSound;
+}
+
+void PropertyListFile::setSound(const std::optional<FileVersion>& version) const {
+  const std::lock_guard lock(mMutex);
+  mSound = version;
 }
 
 bool PropertyListFile::isRightRoot(const PropertyList& value) const {
@@ -161,11 +120,14 @@ bool PropertyListFile::isRightRoot(const PropertyList& value) const {
                               : value.get<PropertyList::Dictionary>() != nullptr;
 }
 
-bool PropertyListFile::mustBeSetAside() const {
-  if (mSound && mSound == versionAt(mPath)) {
-    return false;
+Status PropertyListFile::setAsideIfDamaged(fs::path& furtherName) const {
+  if (const auto sound = soundVersion(); sound && sound == versionAt(mPath)) return done();
+  const Contents contents = read();
+  if (contents.state == State::Unreadable) {
+    return failed("cannot read " + mPath.string() + ", so it is not replaced: " + contents.problem);
   }
-  return read().state == State::Damaged;
+  return contents.state == State::Damaged ? keepUnderFurtherName(mPath, furtherName, mSystem)
+                                          : done();
 }
 
 }  // namespace wayloom

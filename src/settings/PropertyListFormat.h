@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -42,5 +43,26 @@ struct [[nodiscard]] SerializedPropertyList {
 /// last bit. Dates lose fractions of a second and are held within the years 0 to 9999. An unsigned
 /// number that fits a signed one reads back as signed. Any thread may call it.
 SerializedPropertyList serializePropertyList(const PropertyList& value);
+
+/// A value's XML made beforehand, as it stands within a dictionary at the root: for values that are
+/// large and written often. Immutable.
+struct PreparedEntry {
+  std::string key;
+  std::string bytes;
+  /// How many values it counts as.
+  std::size_t values = 0;
+  /// Why there are no bytes: a limit is exceeded.
+  std::string problem;
+};
+
+PreparedEntry prepareEntry(std::string key, const PropertyList& value);
+/// The same for an array whose `count` values are made one at a time.
+PreparedEntry prepareEntry(std::string key, std::size_t count,
+                           const std::function<PropertyList(std::size_t index)>& valueAt);
+
+/// The same as serializing `entries` with the prepared entry among them, which replaces one of the
+/// same key; costs little more than a copy of its bytes.
+SerializedPropertyList serializeWith(const PreparedEntry& prepared,
+                                     const PropertyList::Dictionary& entries);
 
 }  // namespace wayloom

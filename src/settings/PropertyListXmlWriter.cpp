@@ -2,6 +2,7 @@
 
 #include <set>
 #include <type_traits>
+#include <utility>
 
 #include "settings/PropertyListScalars.h"
 #include "settings/Utf8.h"
@@ -67,11 +68,58 @@ std::string escaped(std::string_view text) {
 
 }  // namespace
 
+template <typename ValueAt>
+void PropertyListXmlWriter::appendArray(std::size_t count, const ValueAt& valueAt,
+                                        std::size_t depth) {
+  if (!isWithinLimits(depth + 1)) {
+    return;
+  }
+  beginLine(depth);
+  mOutput += count == 0 ? "<array/>\n" : "<array>\n";
+  for (std::size_t index = 0; index < count; ++index) {
+    append(valueAt(index), depth + 1);
+    if (!mProblem.empty()) {
+      return;
+    }
+  }
+  if (count > 0) {
+    beginLine(depth);
+    mOutput += "</array>\n";
+  }
+}
+
 SerializedPropertyList PropertyListXmlWriter::write(const PropertyList& value) {
   mOutput = kHeader;
   append(value, 0);
+  return finished();
+}
+
+SerializedPropertyList PropertyListXmlWriter::write(const PropertyList::Dictionary& entries,
+                                                    const PreparedEntry& prepared) {
+  mOutput.reserve(kHeader.size() + prepared.bytes.size() + 4096);
+  mOutput = kHeader;
+  mPrepared = &prepared;
+  appendDictionary(entries, 0);
+  return finished();
+}
+
+PreparedEntry PropertyListXmlWriter::prepare(std::string key, const PropertyList& value) {
+  append(value, 1);
+  return {std::move(key), std::move(mOutput), mValues, std::move(mProblem)};
+}
+
+PreparedEntry PropertyListXmlWriter::prepare(
+    std::string key, std::size_t count,
+    const std::function<PropertyList(std::size_t index)>& valueAt) {
+  appendArray(count, valueAt, 1);
+  return {std::move(key), std::move(mOutput), mValues, std::move(mProblem)};
+}
+
+SerializedPropertyList PropertyListXmlWriter::finished() {
   mOutput += kFooter;
-  if (mProblem.empty() && mOutput.size() > kMaximumPropertyListBytes) {
+  const bool isTooLarge =
+      mValues > kMaximumPropertyListValues || mOutput.size() > kMaximumPropertyListBytes;
+  if (mProblem.empty() && isTooLarge) {
     mProblem = "the value is too large for a property list";
   }
   return mProblem.empty() ? SerializedPropertyList{std::move(mOutput), {}}
@@ -92,7 +140,9 @@ void PropertyListXmlWriter::append(const PropertyList& value, std::size_t depth)
       [&](const auto& held) {
         using Held = std::decay_t<decltype(held)>;
         if constexpr (std::is_same_v<Held, PropertyList::Array>) {
-          appendArray(held, depth);
+          appendArray(
+              held.size(), [&](std::size_t index) -> const PropertyList& { return held[index]; },
+              depth);
           return;
         } else if constexpr (std::is_same_v<Held, PropertyList::Dictionary>) {
           appendDictionary(held, depth);
@@ -123,33 +173,23 @@ void PropertyListXmlWriter::append(const PropertyList& value, std::size_t depth)
       value.value());
 }
 
-void PropertyListXmlWriter::appendArray(const PropertyList::Array& array, std::size_t depth) {
-  if (!isWithinLimits(depth + 1)) {
-    return;
-  }
-  beginLine(depth);
-  mOutput += array.empty() ? "<array/>\n" : "<array>\n";
-  for (const PropertyList& value : array) {
-    append(value, depth + 1);
-    if (!mProblem.empty()) {
-      return;
-    }
-  }
-  if (!array.empty()) {
-    beginLine(depth);
-    mOutput += "</array>\n";
-  }
-}
-
 void PropertyListXmlWriter::appendDictionary(const PropertyList::Dictionary& dictionary,
                                              std::size_t depth) {
   if (!isWithinLimits(depth + 1)) {
     return;
   }
   beginLine(depth);
-  mOutput += dictionary.empty() ? "<dict/>\n" : "<dict>\n";
+  const PreparedEntry* const prepared = depth == 0 ? std::exchange(mPrepared, nullptr) : nullptr;
+  const bool isEmpty = dictionary.empty() && prepared == nullptr;
+  mOutput += isEmpty ? "<dict/>\n" : "<dict>\n";
+  bool isPreparedToCome = prepared != nullptr;
   std::set<std::string> replacedKeys;
   for (const auto& [name, value] : dictionary) {
+    if (isPreparedToCome && prepared->key <= name) {
+      appendPrepared(*prepared);
+      isPreparedToCome = false;
+    }
+    if (prepared != nullptr && name == prepared->key) continue;
     std::string key = cleaned(name);
     if (key != name) {
       // Two keys may differ only in what was replaced; the reader would drop one of them.
@@ -157,18 +197,30 @@ void PropertyListXmlWriter::appendDictionary(const PropertyList::Dictionary& dic
         appendUtf8(key, kReplacementCharacter);
       }
     }
-    beginLine(depth + 1);
-    appendElement("key", escaped(key));
-    mOutput += '\n';
+    appendKey(key, depth + 1);
     append(value, depth + 1);
     if (!mProblem.empty()) {
       return;
     }
   }
-  if (!dictionary.empty()) {
+  if (isPreparedToCome) appendPrepared(*prepared);
+  if (!isEmpty) {
     beginLine(depth);
     mOutput += "</dict>\n";
   }
+}
+
+void PropertyListXmlWriter::appendKey(std::string_view key, std::size_t depth) {
+  beginLine(depth);
+  appendElement("key", escaped(key));
+  mOutput += '\n';
+}
+
+void PropertyListXmlWriter::appendPrepared(const PreparedEntry& prepared) {
+  appendKey(prepared.key, 1);
+  mOutput += prepared.bytes;
+  mValues += prepared.values;
+  mProblem = prepared.problem;
 }
 
 void PropertyListXmlWriter::appendUid(PropertyList::Uid uid, std::size_t depth) {

@@ -1,14 +1,13 @@
 #include "settings/ReplaceFile.h"
 
-#include <cerrno>
 #include <fcntl.h>
 #include <random>
 #include <string>
 #include <sys/stat.h>
-#include <system_error>
 #include <unistd.h>
 
 #include "settings/Descriptor.h"
+#include "settings/ExtendedAttributes.h"
 
 namespace wayloom {
 namespace {
@@ -16,139 +15,117 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr int kNameAttempts = 16;
+constexpr mode_t kNewFileMode = 0644;
+constexpr std::string_view kDigits = "0123456789abcdef";
+constexpr std::size_t kDigitCount = 16;
+constexpr std::string_view kSuffix = ".tmp";
 
-Status systemFailure(const std::string& what, const fs::path& path, int error) {
-  return failed(what + " " + path.string() + ": " + std::generic_category().message(error));
-}
-
-/// Sixteen random digits: a temporary's name must not be guessable, or another process could stand
-/// a file or link of that name in the way.
+/// Random digits: a temporary's name must not be guessable, or another process could stand a file
+/// or link of that name in the way.
 std::string randomDigits() {
   std::random_device source;
   std::string digits;
-  for (int i = 0; i < 16; ++i) {
-    digits += "0123456789abcdef"[source() % 16];
-  }
+  while (digits.size() < kDigitCount) digits += kDigits[source() % kDigits.size()];
   return digits;
+}
+
+fs::path folderOf(const fs::path& path) {
+  return path.has_parent_path() ? path.parent_path() : fs::path(".");
 }
 
 /// The new file's contents, under a name of their own until they take the target's.
 class Temporary {
  public:
-  explicit Temporary(const fs::path& target) : mTarget(target) {}
+  Temporary(const fs::path& target, FileSystem& system) : mTarget(target), mSystem(system) {}
   Temporary(const Temporary&) = delete;
   Temporary& operator=(const Temporary&) = delete;
   ~Temporary() {
-    if (!mPath.empty()) {
-      ::unlink(mPath.c_str());
-    }
+    // After it took the target's name there is nothing of this name to remove.
+    if (!mPath.empty()) mSystem.unlink(mPath);
   }
 
   Status create() {
     for (int attempt = 0; attempt < kNameAttempts; ++attempt) {
       std::string name = mTarget.filename().string();
-      name.append(".").append(randomDigits()).append(".tmp");
+      name.append(".").append(randomDigits()).append(kSuffix);
       fs::path path = mTarget.parent_path() / name;
-      mFile.reset(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, 0644));
+      mFile.reset(uninterrupted([&] {
+        return mSystem.open(path, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW,
+                            S_IRUSR | S_IWUSR);
+      }));
       if (mFile.get() >= 0) {
         mPath = std::move(path);
         return done();
       }
-      if (errno != EEXIST && errno != EINTR) {
-        break;
-      }
+      if (errno != EEXIST) break;
     }
-    return systemFailure("cannot create a file beside", mTarget, errno);
+    return systemFailure("cannot create a file beside", mTarget);
   }
 
-  Status takePermissionsOfTarget() {
+  /// Makes it look to others as the target does, or as a new file shall.
+  Status dress() {
     struct stat old = {};
-    if (::stat(mTarget.c_str(), &old) != 0 || !S_ISREG(old.st_mode)) {
-      return done();
+    const bool isThere = ::lstat(mTarget.c_str(), &old) == 0;
+    if (isThere && S_ISLNK(old.st_mode)) {
+      return failed("cannot replace " + mTarget.string() + ": a symbolic link stands in its place");
     }
-    struct stat fresh = {};
-    ::fstat(mFile.get(), &fresh);
-    if (old.st_uid != fresh.st_uid || old.st_gid != fresh.st_gid) {
-      // Only the superuser may give files away; for others the folder's owner writes, which is
-      // fine.
-      [[maybe_unused]] const int ignored = ::fchown(mFile.get(), old.st_uid, old.st_gid);
-    }
-    const mode_t mode = old.st_mode & 0777;
-    if (mode != (fresh.st_mode & 0777) && ::fchmod(mFile.get(), mode) != 0) {
-      return systemFailure("cannot set the permissions of the new", mTarget, errno);
-    }
-    return done();
+    if (!isThere || !S_ISREG(old.st_mode)) return setMode(kNewFileMode);
+    // Only the superuser may give files away; for others the folder's owner writes, which is fine.
+    [[maybe_unused]] const int ignored = ::fchown(mFile.get(), old.st_uid, old.st_gid);
+    if (Status set = setMode(old.st_mode & 0777); !set) return set;
+    return copyExtendedAttributes(mTarget, mFile.get());
   }
 
   Status write(std::string_view bytes) {
     while (!bytes.empty()) {
-      const ssize_t written = ::write(mFile.get(), bytes.data(), bytes.size());
-      if (written < 0 && errno != EINTR) {
-        return systemFailure("cannot write the new", mTarget, errno);
-      }
-      bytes.remove_prefix(written < 0 ? 0 : static_cast<std::size_t>(written));
+      const ssize_t written =
+          uninterrupted([&] { return mSystem.write(mFile.get(), bytes.data(), bytes.size()); });
+      if (written < 0) return systemFailure("cannot write the new", mTarget);
+      bytes.remove_prefix(static_cast<std::size_t>(written));
     }
-    if (::fsync(mFile.get()) != 0 || mFile.close() != 0) {
-      return systemFailure("cannot put on disk the new", mTarget, errno);
+    if (uninterrupted([&] { return mSystem.sync(mFile.get()); }) != 0 || mFile.close() != 0) {
+      return systemFailure("cannot put on disk the new", mTarget);
     }
     return done();
   }
 
-  Status takeNameOfTarget() {
-    if (::rename(mPath.c_str(), mTarget.c_str()) != 0) {
-      return systemFailure("cannot replace", mTarget, errno);
-    }
-    mPath.clear();
-    return done();
-  }
+  Status takeNameOfTarget() { return putInPlace(mPath, mTarget, mSystem); }
 
  private:
+  Status setMode(mode_t mode) {
+    if (::fchmod(mFile.get(), mode) == 0) return done();
+    return systemFailure("cannot set the permissions of the new", mTarget);
+  }
+
   const fs::path& mTarget;
+  FileSystem& mSystem;
   fs::path mPath;
   Descriptor mFile;
 };
 
-Status syncFolder(const fs::path& target) {
-  const fs::path folder = target.has_parent_path() ? target.parent_path() : fs::path(".");
-  const Descriptor descriptor(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  // Some file systems cannot sync a folder and say EINVAL; there is nothing more to be done there.
-  if (descriptor.get() < 0 || (::fsync(descriptor.get()) != 0 && errno != EINVAL)) {
-    return systemFailure("replaced, but a power cut may undo it: cannot sync the folder of", target,
-                         errno);
-  }
-  return done();
-}
-
-Status createFolderOf(const fs::path& target) {
-  std::error_code error;
-  fs::create_directories(target.parent_path(), error);
-  if (error) {
-    return systemFailure("cannot create the folder of", target, error.value());
-  }
-  return done();
-}
-
 }  // namespace
 
-Status replaceFile(const fs::path& path, std::string_view bytes) {
-  Temporary temporary(path);
-  Status result = temporary.create();
-  if (!result && path.has_parent_path() && ::access(path.parent_path().c_str(), F_OK) != 0) {
-    result = createFolderOf(path);
-    if (result) {
-      result = temporary.create();
-    }
-  }
-  if (result) {
-    result = temporary.takePermissionsOfTarget();
-  }
-  if (result) {
-    result = temporary.write(bytes);
-  }
-  if (result) {
-    result = temporary.takeNameOfTarget();
-  }
-  return result ? syncFolder(path) : result;
+Status putInPlace(const fs::path& finished, const fs::path& path, FileSystem& system) {
+  if (system.rename(finished, path) != 0) return systemFailure("cannot replace", path);
+  if (syncFolder(folderOf(path), system)) return done();
+  return systemFailure("replaced, but a power cut may undo it: cannot sync the folder of", path);
+}
+
+bool isTemporaryFor(std::string_view target, std::string_view name) {
+  if (!name.starts_with(target) || !name.ends_with(kSuffix)) return false;
+  name.remove_prefix(target.size());
+  name.remove_suffix(std::min(name.size(), kSuffix.size()));
+  return name.size() == kDigitCount + 1 && name.front() == '.' &&
+         name.find_first_not_of(kDigits, 1) == std::string_view::npos;
+}
+
+Status replaceFile(const fs::path& path, std::string_view bytes, FileSystem& system) {
+  if (Status made = createFolder(path.parent_path(), system); !made) return made;
+  Temporary temporary(path, system);
+  if (Status created = temporary.create(); !created) return created;
+  if (Status dressed = temporary.dress(); !dressed) return dressed;
+  if (Status written = temporary.write(bytes); !written) return written;
+  return temporary.takeNameOfTarget();
 }
 
 }  // namespace wayloom

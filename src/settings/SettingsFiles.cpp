@@ -10,36 +10,43 @@ namespace {
 
 constexpr const char* kModeKey = "mode";
 
-PropertyListFile fileNamed(const std::filesystem::path& root, const char* name,
-                           PropertyListFile::Root type) {
-  return PropertyListFile(
-      root / "var/mobile/Library/Preferences" / (std::string("com.quorvil.wl.") + name + ".plist"),
-      type);
+std::filesystem::path folderBelow(const std::filesystem::path& root) {
+  return root / "var/mobile/Library/Preferences";
 }
 
 template <typename Root>
-std::optional<Root> load(const PropertyListFile& file) {
+Loaded<Root> load(const PropertyListFile& file) {
   PropertyListFile::Contents contents = file.read();
+  if (contents.state == PropertyListFile::State::Unreadable) {
+    return failed("cannot read " + file.path().string() + ": " + contents.problem);
+  }
   Root* const root = contents.value.get<Root>();
   return root == nullptr ? std::nullopt : std::optional(std::move(*root));
 }
 
+std::array<PropertyListFile, 5> filesIn(const std::filesystem::path& folder, FileSystem& system) {
+  const auto named = [&](const char* name, PropertyListFile::Root type) {
+    return PropertyListFile(folder / (std::string("com.quorvil.wl.") + name + ".plist"), type,
+                            system);
+  };
+  return {named("master", PropertyListFile::Root::Dictionary),
+          named("location", PropertyListFile::Root::Dictionary),
+          named("route", PropertyListFile::Root::Dictionary),
+          named("favorites", PropertyListFile::Root::Array),
+          named("whitelist", PropertyListFile::Root::Dictionary)};
+}
+
 }  // namespace
 
-SettingsFiles::SettingsFiles(const std::filesystem::path& root)
-    : mFiles{fileNamed(root, "master", PropertyListFile::Root::Dictionary),
-             fileNamed(root, "location", PropertyListFile::Root::Dictionary),
-             fileNamed(root, "route", PropertyListFile::Root::Dictionary),
-             fileNamed(root, "favorites", PropertyListFile::Root::Array),
-             fileNamed(root, "whitelist", PropertyListFile::Root::Dictionary)} {}
+SettingsFiles::SettingsFiles(const std::filesystem::path& root, std::chrono::milliseconds patience,
+                             FileSystem& system)
+    : mFiles(filesIn(folderBelow(root), system)), mTurns(folderBelow(root), system, patience) {}
 
-Mode SettingsFiles::readMasterMode() const {
-  const std::optional<PropertyList::Dictionary> master = loadDictionary(SettingsFile::Master);
-  if (!master) {
-    return Mode::Route;
-  }
-  const auto mode = master->find(kModeKey);
-  return mode != master->end() && intValue(&mode->second) != 0 ? Mode::FixedLocation : Mode::Route;
+Result<Mode> SettingsFiles::readMasterMode() const {
+  const auto master = loadDictionary(SettingsFile::Master);
+  if (!master) return master.failure();
+  const bool isFixed = *master && intValue(valueOf(**master, kModeKey)) != 0;
+  return isFixed ? Mode::FixedLocation : Mode::Route;
 }
 
 Status SettingsFiles::writeMasterMode(Mode mode) {
@@ -47,7 +54,7 @@ Status SettingsFiles::writeMasterMode(Mode mode) {
               PropertyList::Dictionary{{kModeKey, formatFlag(mode == Mode::FixedLocation)}});
 }
 
-std::optional<PropertyList::Dictionary> SettingsFiles::loadLocationSettings() const {
+Loaded<PropertyList::Dictionary> SettingsFiles::loadLocationSettings() const {
   return loadDictionary(SettingsFile::Location);
 }
 
@@ -56,23 +63,29 @@ Status SettingsFiles::saveLocationSettings(
   return settings ? save(SettingsFile::Location, *settings) : done();
 }
 
-std::optional<PropertyList::Dictionary> SettingsFiles::loadDictionary(SettingsFile name) const {
+Loaded<PropertyList::Dictionary> SettingsFiles::loadDictionary(SettingsFile name) const {
   return load<PropertyList::Dictionary>(file(name));
 }
 
-std::optional<PropertyList::Array> SettingsFiles::loadArray(SettingsFile name) const {
+Loaded<PropertyList::Array> SettingsFiles::loadArray(SettingsFile name) const {
   return load<PropertyList::Array>(file(name));
 }
 
 Status SettingsFiles::save(SettingsFile name, const PropertyList& value) {
-  return file(name).write(value);
+  const auto turn = takeTurn();
+  return turn ? changeable(name).write(value) : Status(turn.failure());
+}
+
+Status SettingsFiles::saveBytes(SettingsFile name, std::string_view bytes) {
+  const auto turn = takeTurn();
+  return turn ? changeable(name).writeBytes(bytes) : Status(turn.failure());
 }
 
 const PropertyListFile& SettingsFiles::file(SettingsFile name) const {
   return mFiles[static_cast<std::size_t>(name)];
 }
 
-PropertyListFile& SettingsFiles::file(SettingsFile name) {
+PropertyListFile& SettingsFiles::changeable(SettingsFile name) {
   return mFiles[static_cast<std::size_t>(name)];
 }
 

@@ -1,19 +1,19 @@
 #include <cmath>
 
-#include "ui/MapRegion.h"
-#include "ui/WebMercator.h"
+#include "geo/MapRegion.h"
+#include "geo/WebMercator.h"
 
 namespace wayloom {
 namespace {
 
-TEST(WebMercator, KeepsPolesAndHugeValuesOnTheSquare) {
+TEST(WebMercatorTest, KeepsPolesAndHugeValuesOnTheSquare) {
   for (double latitude : {90.0, 89.0, 1e300, kMercatorLatitudeLimit}) {
     EXPECT_NEAR(worldPoint({latitude, 0}).y, 0, 1e-12) << latitude;
     EXPECT_NEAR(worldPoint({-latitude, 0}).y, 1, 1e-12) << latitude;
   }
 }
 
-TEST(WebMercator, WrapsLongitudesAcrossTheAntimeridian) {
+TEST(WebMercatorTest, WrapsLongitudesAcrossTheAntimeridian) {
   const struct {
     double longitude, wrapped;
   } cases[] = {{180, -180}, {-180, -180}, {181, -179}, {-181, 179}, {540, -180}, {11.97, 11.97}};
@@ -22,7 +22,7 @@ TEST(WebMercator, WrapsLongitudesAcrossTheAntimeridian) {
   }
 }
 
-TEST(MapRegion, MeasuresMetresOnTheGround) {
+TEST(MapRegionTest, MeasuresMetresOnTheGround) {
   const MapRegion equator = regionWithDistance({0, 0}, 2000, 2000);
   EXPECT_NEAR(equator.span.latitudeDelta, 2000 / 111195.08, 1e-7);
   EXPECT_NEAR(equator.span.longitudeDelta, equator.span.latitudeDelta, 1e-12);

@@ -1,7 +1,7 @@
 #include <cmath>
 #include <limits>
 
-#include "ui/MapZoom.h"
+#include "geo/MapZoom.h"
 
 namespace wayloom {
 namespace {
@@ -11,7 +11,7 @@ constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
 // Computed with the sine and logarithm of the C library in single precision; double precision
 // differs in all but the first two latitudes.
-TEST(MapZoom, PlacesCoordinatesOnTheGrid) {
+TEST(MapZoomTest, PlacesCoordinatesOnTheGrid) {
   const struct {
     double longitude, x;
   } longitudes[] = {{-180, 0},          {-90, 134217728},    {0, 268435456},   {0.1, 268584587},
@@ -33,7 +33,7 @@ TEST(MapZoom, PlacesCoordinatesOnTheGrid) {
   }
 }
 
-TEST(MapZoom, TakesPolesAndHugeValues) {
+TEST(MapZoomTest, TakesPolesAndHugeValues) {
   EXPECT_EQ(latitudeToPixelSpaceY(90), -kInfinity);
   EXPECT_EQ(latitudeToPixelSpaceY(-90), kInfinity);
   EXPECT_EQ(pixelSpaceYToLatitude(-kInfinity), 90);

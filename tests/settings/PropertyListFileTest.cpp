@@ -28,8 +28,6 @@ class PropertyListFileTest : public testing::Test {
 
 TEST_F(PropertyListFileTest, TellsMissingFromDamagedFromLoaded) {
   EXPECT_EQ(mFile.read().state, State::Missing);
-  EXPECT_EQ(PropertyListFile("/dev/null/file", PropertyListFile::Root::Array).read().state,
-            State::Missing);
   ASSERT_TRUE(mFile.write(mValue));
   EXPECT_EQ(mFile.read().state, State::Loaded);
   EXPECT_EQ(mFile.read().value, mValue);
@@ -43,16 +41,16 @@ TEST_F(PropertyListFileTest, TellsMissingFromDamagedFromLoaded) {
     writeBytes(mPath, bytes);
     const PropertyListFile::Contents contents = mFile.read();
     EXPECT_EQ(contents.state, State::Damaged) << bytes;
-    EXPECT_THAT(contents.damage, testing::HasSubstr(message)) << bytes;
+    EXPECT_THAT(contents.problem, testing::HasSubstr(message)) << bytes;
   }
 }
 
-TEST_F(PropertyListFileTest, WhatIsNoFileIsDamagedAndDoesNotBlock) {
+TEST_F(PropertyListFileTest, WhatIsNoFileIsUnreadableAndDoesNotBlock) {
   ASSERT_EQ(::mkfifo(mPath.c_str(), 0644), 0);
-  EXPECT_THAT(mFile.read().damage, testing::HasSubstr("regular file"));
+  EXPECT_THAT(mFile.read().problem, testing::HasSubstr("regular file"));
   fs::remove(mPath);
   fs::create_directories(mPath / "inner");
-  EXPECT_THAT(mFile.read().damage, testing::HasSubstr("regular file"));
+  EXPECT_THAT(mFile.read().problem, testing::HasSubstr("regular file"));
   EXPECT_FALSE(mFile.write(mValue));
   EXPECT_TRUE(fs::exists(mPath / "inner"));
 }
@@ -60,7 +58,7 @@ TEST_F(PropertyListFileTest, WhatIsNoFileIsDamagedAndDoesNotBlock) {
 TEST_F(PropertyListFileTest, FileBeyondTheSizeLimitIsDamagedWithoutBeingParsed) {
   writeBytes(mPath, "<plist>");
   fs::resize_file(mPath, std::uintmax_t{1} << 40);
-  EXPECT_THAT(mFile.read().damage, testing::HasSubstr("too large"));
+  EXPECT_THAT(mFile.read().problem, testing::HasSubstr("too large"));
 }
 
 TEST_F(PropertyListFileTest, DamagedFileIsKeptByTheWriteThatReplacesIt) {

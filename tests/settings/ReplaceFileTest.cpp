@@ -1,53 +1,13 @@
 #include <cerrno>
 #include <csignal>
-#include <fcntl.h>
 #include <functional>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/syscall.h>
-#include <unistd.h>
+#include <sys/xattr.h>
 
 #include "settings/ReplaceFile.h"
+#include "tests/support/FailingFiles.h"
 #include "tests/support/TemporaryFolder.h"
-
-namespace {
-
-/// What the two calls below saw, and which of them is to fail next.
-struct Calls {
-  std::vector<std::string> order;
-  std::vector<std::string> renamed;
-  std::string failing;
-  int error = 0;
-
-  bool fail(const std::string& call) {
-    order.push_back(call);
-    errno = call == failing ? error : errno;
-    return call == failing;
-  }
-};
-Calls* gCalls = nullptr;
-
-}  // namespace
-
-// They take the place of the system's own in this program, so that a disk can fail on demand.
-extern "C" int fsync(int descriptor) {
-  struct stat status = {};
-  ::fstat(descriptor, &status);
-  if (gCalls != nullptr && gCalls->fail(S_ISDIR(status.st_mode) ? "sync folder" : "sync file")) {
-    return -1;
-  }
-  return static_cast<int>(::syscall(SYS_fsync, descriptor));
-}
-
-extern "C" int rename(const char* from, const char* to) noexcept {
-  if (gCalls != nullptr) {
-    gCalls->renamed.emplace_back(from);
-    if (gCalls->fail("rename")) {
-      return -1;
-    }
-  }
-  return static_cast<int>(::syscall(SYS_renameat2, AT_FDCWD, from, AT_FDCWD, to, 0));
-}
 
 namespace wayloom {
 namespace {
@@ -56,15 +16,11 @@ namespace fs = std::filesystem;
 
 class ReplaceFileTest : public testing::Test {
  protected:
-  ReplaceFileTest() {
-    gCalls = &mCalls;
-    writeBytes(mOld, "old");
-  }
-  ~ReplaceFileTest() override { gCalls = nullptr; }
+  ReplaceFileTest() { writeBytes(mOld, "old"); }
 
   TemporaryFolder mFolder;
   fs::path mOld = mFolder.path() / "file.plist";
-  Calls mCalls;
+  FailingFiles mFiles;
 };
 
 fs::perms permissionsOf(const fs::path& path) {
@@ -72,25 +28,48 @@ fs::perms permissionsOf(const fs::path& path) {
 }
 
 TEST_F(ReplaceFileTest, NewContentsAreOnDiskBeforeTheyTakeTheName) {
-  ASSERT_TRUE(replaceFile(mOld, "new"));
-  ASSERT_TRUE(replaceFile(mOld, ""));
+  std::vector<std::string> order;
+  std::vector<std::string> names;
+  mFiles.before = [&](const std::string& call) {
+    if (call != "open" && call != "write") order.push_back(call);
+    for (const auto& entry : fs::directory_iterator(mFolder.path())) {
+      if (call == "sync file") names.push_back(entry.path().filename().string());
+    }
+  };
+  ASSERT_TRUE(replaceFile(mOld, "new", mFiles));
+  ASSERT_TRUE(replaceFile(mOld, "", mFiles));
   EXPECT_EQ(bytesOf(mOld), "");
-  const std::vector<std::string> once{"sync file", "rename", "sync folder"};
-  EXPECT_EQ(std::vector(mCalls.order.begin(), mCalls.order.begin() + 3), once);
-  ASSERT_EQ(mCalls.renamed.size(), 2u);
-  EXPECT_NE(mCalls.renamed[0], mCalls.renamed[1]) << "a temporary's name can be guessed";
-  EXPECT_EQ(fs::path(mCalls.renamed[0]).parent_path(), mFolder.path());
+  const std::vector<std::string> once{"short write", "sync file", "rename", "sync folder"};
+  EXPECT_EQ(std::vector(order.begin(), order.begin() + 4), once);
+  std::erase(names, "file.plist");
+  ASSERT_EQ(names.size(), 2U) << "temporaries stand beside the file";
+  EXPECT_NE(names[0], names[1]) << "a temporary's name can be guessed";
+  EXPECT_TRUE(isTemporaryFor("file.plist", names[0])) << names[0];
   EXPECT_EQ(mFolder.entryCount(), 1u);
 }
 
-TEST_F(ReplaceFileTest, CreatesMissingFoldersAndAReadableFile) {
-  const fs::path path = mFolder.path() / "var/mobile/file.plist";
-  const mode_t mask = ::umask(022);
-  const Status result = replaceFile(path, "bytes");
-  ::umask(mask);
-  ASSERT_TRUE(result) << result.message();
-  EXPECT_EQ(bytesOf(path), "bytes");
-  EXPECT_EQ(permissionsOf(path), static_cast<fs::perms>(0644));
+TEST_F(ReplaceFileTest, KnowsItsTemporariesByTheirWholeName) {
+  EXPECT_TRUE(isTemporaryFor("a.plist", "a.plist.0123456789abcdef.tmp"));
+  for (const char* name : {"a.plist", "a.plist.tmp", "a.plist.0123456789abcde.tmp",
+                           "a.plist.0123456789abcdeg.tmp", "b.plist.0123456789abcdef.tmp",
+                           "a.plist.0123456789abcdef.tmp~", "a.plist0123456789abcdef.tmp"}) {
+    EXPECT_FALSE(isTemporaryFor("a.plist", name)) << name;
+  }
+}
+
+TEST_F(ReplaceFileTest, CreatesMissingFoldersAndAReadableFileWhateverTheUmask) {
+  for (const mode_t mask : {022, 077, 0777}) {
+    const fs::path top = mFolder.path() / std::to_string(mask);
+    const mode_t before = ::umask(mask);
+    const Status result = replaceFile(top / "mobile/file.plist", "bytes", mFiles);
+    ::umask(before);
+    ASSERT_TRUE(result) << result.message();
+    EXPECT_EQ(bytesOf(top / "mobile/file.plist"), "bytes");
+    EXPECT_EQ(permissionsOf(top / "mobile/file.plist"), static_cast<fs::perms>(0644));
+    EXPECT_EQ(permissionsOf(top), static_cast<fs::perms>(0755));
+    EXPECT_EQ(permissionsOf(top / "mobile"), static_cast<fs::perms>(0755));
+  }
+  EXPECT_EQ(mFiles.calls["sync folder"], 9) << "each new folder's parent, and the file's folder";
 }
 
 TEST_F(ReplaceFileTest, KeepsThePermissionsOfTheFileItReplaces) {
@@ -99,6 +78,25 @@ TEST_F(ReplaceFileTest, KeepsThePermissionsOfTheFileItReplaces) {
     ASSERT_TRUE(replaceFile(mOld, "new"));
     EXPECT_EQ(permissionsOf(mOld), static_cast<fs::perms>(mode)) << std::oct << mode;
   }
+}
+
+TEST_F(ReplaceFileTest, KeepsExtendedAttributes) {
+  if (::setxattr(mOld.c_str(), "user.origin", "atlas", 5, 0) != 0) {
+    GTEST_SKIP() << "this file system has no extended attributes";
+  }
+  ASSERT_TRUE(replaceFile(mOld, "new"));
+  char value[8] = {};
+  ASSERT_EQ(::getxattr(mOld.c_str(), "user.origin", value, sizeof value), 5);
+  EXPECT_STREQ(value, "atlas");
+}
+
+TEST_F(ReplaceFileTest, RefusesASymbolicLinkAndLeavesWhatItLeadsTo) {
+  const fs::path link = mFolder.path() / "link.plist";
+  fs::create_symlink(mOld, link);
+  EXPECT_THAT(replaceFile(link, "new").message(), testing::HasSubstr("symbolic link"));
+  EXPECT_TRUE(fs::is_symlink(link));
+  EXPECT_EQ(bytesOf(mOld), "old");
+  EXPECT_EQ(mFolder.entryCount(), 2u);
 }
 
 /// Runs `action` with files limited to 64 KiB, as on a disk that fills up within a write.
@@ -125,10 +123,11 @@ TEST_F(ReplaceFileTest, FailuresLeaveTheOldFileAndNothingBesideIt) {
   };
   expectFailure("a full disk", EFBIG);
 
-  for (const auto& [call, error] : {std::pair("sync file", EIO), std::pair("rename", EROFS)}) {
-    mCalls.failing = call;
-    mCalls.error = error;
-    const Status result = replaceFile(mOld, "new");
+  for (const auto& [call, error] : {std::pair("sync file", EIO), std::pair("rename", EROFS),
+                                    std::pair("open", EMFILE), std::pair("write", ENOSPC)}) {
+    FailingFiles failing;
+    failing.fault = {call, 1, error};
+    const Status result = replaceFile(mOld, "new", failing);
     EXPECT_FALSE(result) << call;
     EXPECT_THAT(result.message(), testing::HasSubstr(std::generic_category().message(error)));
     EXPECT_EQ(bytesOf(mOld), "old") << call;
@@ -137,13 +136,12 @@ TEST_F(ReplaceFileTest, FailuresLeaveTheOldFileAndNothingBesideIt) {
 }
 
 TEST_F(ReplaceFileTest, FolderThatCannotBeSyncedIsReportedWithTheNewFileInPlace) {
-  mCalls.failing = "sync folder";
-  mCalls.error = EIO;
-  const Status result = replaceFile(mOld, "new");
+  mFiles.fault = {"sync folder", 1, EIO};
+  const Status result = replaceFile(mOld, "new", mFiles);
   EXPECT_THAT(result.message(), testing::HasSubstr("power cut"));
   EXPECT_EQ(bytesOf(mOld), "new");
-  mCalls.error = EINVAL;
-  EXPECT_TRUE(replaceFile(mOld, "newer")) << "a file system that cannot sync folders";
+  mFiles.fault = {"sync folder", 2, EINVAL};
+  EXPECT_TRUE(replaceFile(mOld, "newer", mFiles)) << "a file system that cannot sync folders";
 }
 
 TEST_F(ReplaceFileTest, TargetsThatNoFileCanTake) {
@@ -151,7 +149,7 @@ TEST_F(ReplaceFileTest, TargetsThatNoFileCanTake) {
   for (const char* const name : {"folder", "file.plist/below", "file.plist/far/below"}) {
     const Status result = replaceFile(mFolder.path() / name, "new");
     EXPECT_FALSE(result) << name;
-    EXPECT_THAT(result.message(), testing::HasSubstr(name));
+    EXPECT_THAT(result.message(), testing::HasSubstr(fs::path(name).begin()->string()));
   }
   EXPECT_EQ(mFolder.entryCount(), 2u);
   EXPECT_EQ(bytesOf(mOld), "old");

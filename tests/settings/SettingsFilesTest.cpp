@@ -2,7 +2,7 @@
 #include <iterator>
 
 #include "settings/SettingsFiles.h"
-#include "tests/support/TemporaryFolder.h"
+#include "tests/support/TemporaryRoot.h"
 
 namespace wayloom {
 namespace {
@@ -38,12 +38,12 @@ TEST_F(SettingsFilesTest, EachFileStandsWhereOtherProgramsLookForIt) {
 TEST_F(SettingsFilesTest, SavingNoLocationSettingsWritesNothing) {
   EXPECT_TRUE(mFiles.saveLocationSettings(std::nullopt));
   EXPECT_FALSE(fs::exists(mFolder.path() / "phone"));
-  EXPECT_EQ(mFiles.loadLocationSettings(), std::nullopt);
+  EXPECT_EQ(dictionaryIn(mFiles, SettingsFile::Location), std::nullopt);
 
   const Dictionary settings{{"a", "1"}, {"s", "0.500000"}};
   ASSERT_TRUE(mFiles.saveLocationSettings(settings));
   ASSERT_TRUE(mFiles.saveLocationSettings(std::nullopt));
-  EXPECT_EQ(mFiles.loadLocationSettings(), settings);
+  EXPECT_EQ(dictionaryIn(mFiles, SettingsFile::Location), settings);
 }
 
 }  // namespace

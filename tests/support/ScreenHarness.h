@@ -12,6 +12,7 @@
 #include "kit/ModalPresenter.h"
 #include "map/TileSource.h"
 #include "places/LocationClass.h"
+#include "tests/support/FailingFiles.h"
 #include "tests/support/FakePlatform.h"
 #include "tests/support/RecordedNotice.h"
 #include "tests/support/TemporaryRoot.h"
@@ -36,7 +37,8 @@ class PlainTiles : public TileSource {
 class ScreenHarness {
  public:
   TemporaryRoot root;
-  SettingsFiles files{root.path()};
+  FailingFiles system;
+  SettingsFiles files{root.path(), SettingsFiles::kPatience, system};
   RecordedNotice notice{files};
   FakeGeocoder geocoder;
   FakeDefaults defaults;
@@ -104,6 +106,14 @@ class ScreenHarness {
     }
     QTest::mouseMove(&view, from + offset, 300);
     QTest::mouseRelease(&view, Qt::LeftButton, Qt::NoModifier, from + offset);
+  }
+
+  /// Turns the mouse wheel over a point of an item, by as many notches.
+  void wheel(const char* objectName, QPointF at, int notches) {
+    const QPointF point = find(objectName)->mapToScene(at);
+    QWheelEvent event(point, point, {}, {0, notches * QWheelEvent::DefaultDeltasPerStep},
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&view, &event);
   }
 
   std::map<std::string, std::string> stored(SettingsFile name) const {

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <utility>
 
-#include "ui/WebMercator.h"
+#include "geo/WebMercator.h"
 
 namespace wayloom {
 
@@ -99,28 +99,6 @@ double lengthOf(const MapPath& path) {
   double length = 0;
   for (std::size_t i = 1; i < path.size(); ++i) length += distanceBetween(path[i - 1], path[i]);
   return length;
-}
-
-MapPoint pointAlong(const MapPath& path, double distance) {
-  for (std::size_t i = 1; i < path.size(); ++i) {
-    const double step = distanceBetween(path[i - 1], path[i]);
-    if (distance <= step && step > 0) {
-      return between(path[i - 1], path[i], std::max(distance, 0.0) / step);
-    }
-    distance -= step;
-  }
-  return path.back();
-}
-
-MapPath partOf(const MapPath& path, double from, double to) {
-  MapPath part = {pointAlong(path, from)};
-  double passed = 0;
-  for (std::size_t i = 1; i + 1 < path.size(); ++i) {
-    passed += distanceBetween(path[i - 1], path[i]);
-    if (passed > from && passed < to) part.push_back(path[i]);
-  }
-  part.push_back(pointAlong(path, to));
-  return part;
 }
 
 MapPath simplified(const MapPath& path, double tolerance) {

@@ -17,12 +17,6 @@ double signedArea(const MapPath& ring);
 
 double lengthOf(const MapPath& path);
 
-/// The point `distance` metres along the path, brought into it.
-MapPoint pointAlong(const MapPath& path, double distance);
-
-/// The part of the path between two distances along it.
-MapPath partOf(const MapPath& path, double from, double to);
-
 /// The path without the points that lie within `tolerance` metres of what remains. The ends stay.
 MapPath simplified(const MapPath& path, double tolerance);
 

@@ -7,6 +7,8 @@
 #include <sstream>
 
 #include "drawing/LabelGrid.h"
+#include "drawing/MeasuredPath.h"
+#include "drawing/PointGrid.h"
 #include "regions/DrawingTable.h"
 
 namespace wayloom {
@@ -18,24 +20,37 @@ using Labels = std::vector<StreetLabel>;
 constexpr double kRepeatPixels = 420;
 constexpr double kStepPixels = 40;
 constexpr double kEndPixels = 6;
+// Where points stand further apart than on any road, a few of them would take millions of names.
+constexpr double kMostMetresBetweenPoints = 20000;
 
 // All stretches that carry one text, the most important kind of street among them.
 struct Carrier {
   std::string text;
   Street::Kind kind = Street::Kind::kPath;
-  std::vector<MapPath> paths;
+  std::vector<MeasuredPath> paths;
   double length = 0;
 };
 
-std::vector<Carrier> carriers(const std::map<std::string, Carrier>& byText) {
+// The stretches as they come, before those that meet are joined.
+struct Stretches {
+  Street::Kind kind = Street::Kind::kPath;
+  std::vector<MapPath> paths;
+};
+using StretchesByText = std::map<std::string, Stretches>;
+
+std::vector<Carrier> carriers(const StretchesByText& byText) {
   std::vector<Carrier> result;
-  for (const auto& [text, unjoined] : byText) {
-    Carrier carrier = unjoined;
-    carrier.text = text;
-    carrier.paths = joined(unjoined.paths);
+  for (const auto& [text, stretches] : byText) {
+    Carrier carrier{text, stretches.kind, {}, 0};
+    for (MapPath& path : joined(stretches.paths)) {
+      const double gaps = static_cast<double>(path.size()) - 1;
+      MeasuredPath measured(std::move(path));
+      if (measured.length() > gaps * kMostMetresBetweenPoints) continue;
+      carrier.length += measured.length();
+      carrier.paths.push_back(std::move(measured));
+    }
     std::sort(carrier.paths.begin(), carrier.paths.end(),
-              [](const auto& a, const auto& b) { return lengthOf(a) > lengthOf(b); });
-    for (const MapPath& path : carrier.paths) carrier.length += lengthOf(path);
+              [](const auto& a, const auto& b) { return a.length() > b.length(); });
     result.push_back(std::move(carrier));
   }
   std::stable_sort(result.begin(), result.end(), [](const Carrier& a, const Carrier& b) {
@@ -44,10 +59,10 @@ std::vector<Carrier> carriers(const std::map<std::string, Carrier>& byText) {
   return result;
 }
 
-void carry(std::map<std::string, Carrier>& byText, const std::string& text, const Street& street) {
-  Carrier& carrier = byText[text];
-  carrier.kind = std::max(carrier.kind, street.kind);
-  carrier.paths.push_back(street.paths.front());
+void carry(StretchesByText& byText, const std::string& text, const Street& street) {
+  Stretches& stretches = byText[text];
+  stretches.kind = std::max(stretches.kind, street.kind);
+  stretches.paths.push_back(street.paths.front());
 }
 
 int firstZoomOf(Street::Kind kind) {
@@ -78,13 +93,13 @@ bool isReadable(const MapPath& path) {
 }
 
 // The boxes of a text along a path, in pixels: squares of the text's height, one after the other.
-std::vector<MapBox> boxesAlong(const MapPath& path, double pixel, double size) {
+std::vector<MapBox> boxesAlong(const MeasuredPath& path, double pixel, double size) {
   const double half = size * 0.75;
-  const double length = lengthOf(path);
+  const double length = path.length();
   const int count = std::max(1, static_cast<int>(std::ceil(length / pixel / half)));
   std::vector<MapBox> boxes;
   for (int i = 0; i <= count; ++i) {
-    const MapPoint p = pointAlong(path, length * i / count);
+    const MapPoint p = path.at(length * i / count);
     boxes.push_back(
         {p.x / pixel - half, p.y / pixel - half, p.x / pixel + half, p.y / pixel + half});
   }
@@ -94,7 +109,8 @@ std::vector<MapBox> boxesAlong(const MapPath& path, double pixel, double size) {
 // One zoom's labels in the making.
 class Sheet {
  public:
-  Sheet(int zoom, const std::vector<PlaceLabel>& places) : mPixel(metresPerPixel(zoom)) {
+  Sheet(int zoom, const std::vector<PlaceLabel>& places)
+      : mPixel(metresPerPixel(zoom)), mTexts(kRepeatPixels * mPixel) {
     for (const PlaceLabel& place : places) {
       if (place.firstZoom <= zoom && zoom <= place.lastZoom) mGrid.take(labelBox(place, zoom));
     }
@@ -104,61 +120,61 @@ class Sheet {
   const Labels& labels() const { return mLabels; }
 
   // Adds the label unless it touches another or the same text stands nearby.
-  bool add(StreetLabel label) {
-    const auto boxes = boxesAlong(label.path, mPixel, label.size);
-    const MapPoint middle = pointAlong(label.path, lengthOf(label.path) / 2);
-    for (const MapPoint& other : mPlaces[label.text]) {
-      const double apart = std::hypot(other.x - middle.x, other.y - middle.y);
-      if (apart < kRepeatPixels * mPixel) return false;
-    }
+  void add(StreetLabel label) {
+    const MeasuredPath path(label.path);
+    const MapPoint middle = path.at(path.length() / 2);
+    const auto isSame = [&](const std::string& text, double) { return text == label.text; };
+    if (mTexts.anyNear(middle, isSame)) return;
+    const auto boxes = boxesAlong(path, mPixel, label.size);
     if (!std::all_of(boxes.begin(), boxes.end(),
                      [this](const MapBox& box) { return mGrid.isFree(box); })) {
-      return false;
+      return;
     }
-    reserve(label);
-    mPlaces[label.text].push_back(middle);
+    for (const MapBox& box : boxes) mGrid.take(box);
+    mTexts.add(middle, label.text);
     mLabels.push_back(std::move(label));
-    return true;
   }
 
   void reserve(const StreetLabel& label) {
-    for (const MapBox& box : boxesAlong(label.path, mPixel, label.size)) mGrid.take(box);
+    const MeasuredPath path(label.path);
+    for (const MapBox& box : boxesAlong(path, mPixel, label.size)) mGrid.take(box);
   }
 
  private:
   double mPixel;
   LabelGrid mGrid;
-  std::map<std::string, std::vector<MapPoint>> mPlaces;
+  PointGrid<std::string> mTexts;
   Labels mLabels;
 };
 
-std::optional<StreetLabel> labelAt(const Carrier& carrier, const MapPath& path, double middle,
-                                   int zoom) {
+std::optional<StreetLabel> labelAt(const std::string& text, Street::Kind kind,
+                                   const MeasuredPath& path, double middle, int zoom) {
   const double pixel = metresPerPixel(zoom);
-  const double size = textSize(carrier.kind, zoom);
-  const double half = (textWidth(carrier.text) * size / 2 + kEndPixels) * pixel;
-  if (middle < half || middle > lengthOf(path) - half) return {};
+  const double size = textSize(kind, zoom);
+  const double half = (textWidth(text) * size / 2 + kEndPixels) * pixel;
+  if (middle < half || middle > path.length() - half) return {};
   // Bends of less than a pixel or two only make the letters dance.
-  MapPath stretch = simplified(partOf(path, middle - half, middle + half), 2 * pixel);
+  MapPath stretch = simplified(path.part(middle - half, middle + half), 2 * pixel);
   if (!isReadable(stretch)) return {};
-  return StreetLabel{carrier.text, carrier.kind, size, smoothed(stretch, 2)};
+  return StreetLabel{text, kind, size, smoothed(stretch, 2)};
 }
 
-void addAlong(const Carrier& carrier, const MapPath& path, int zoom, Sheet& sheet) {
-  const double length = lengthOf(path);
+void addAlong(const Carrier& carrier, const MeasuredPath& path, int zoom, Sheet& sheet) {
+  const double length = path.length();
   const double step = kStepPixels * metresPerPixel(zoom);
   // From the middle outwards: a name reads best halfway along its street.
   for (double offset = 0; offset < length / 2; offset += step) {
     for (const double middle : {length / 2 - offset, length / 2 + offset}) {
-      if (auto label = labelAt(carrier, path, middle, zoom)) sheet.add(std::move(*label));
+      auto label = labelAt(carrier.text, carrier.kind, path, middle, zoom);
+      if (label) sheet.add(std::move(*label));
     }
   }
 }
 
 // A label of the zoom before, at the size of this one: the text takes half the street it took.
 std::optional<StreetLabel> shrunk(const StreetLabel& label, int zoom) {
-  Carrier carrier{label.text, label.kind, {label.path}};
-  return labelAt(carrier, label.path, lengthOf(label.path) / 2, zoom);
+  const MeasuredPath path(label.path);
+  return labelAt(label.text, label.kind, path, path.length() / 2, zoom);
 }
 
 // The numbers of a road, all written the same way: "E6;E 20" gives "E 6" and "E 20".
@@ -197,7 +213,7 @@ Status writeSheets(Database& database, const std::string& name, int firstZoom,
 
 std::vector<Labels> selectStreetLabels(const std::vector<Street>& streets,
                                        const std::vector<PlaceLabel>& places) {
-  std::map<std::string, Carrier> byText;
+  StretchesByText byText;
   for (const Street& street : streets) {
     if (!street.name.empty() && !street.isArea) carry(byText, street.name, street);
   }
@@ -212,7 +228,7 @@ std::vector<Labels> selectStreetLabels(const std::vector<Street>& streets,
     }
     for (const Carrier& carrier : ordered) {
       if (zoom < firstZoomOf(carrier.kind)) continue;
-      for (const MapPath& path : carrier.paths) addAlong(carrier, path, zoom, sheet);
+      for (const MeasuredPath& path : carrier.paths) addAlong(carrier, path, zoom, sheet);
     }
     sheets.push_back(sheet.labels());
   }
@@ -222,7 +238,7 @@ std::vector<Labels> selectStreetLabels(const std::vector<Street>& streets,
 std::vector<Labels> selectShields(const std::vector<Street>& streets,
                                   const std::vector<Labels>& names,
                                   const std::vector<PlaceLabel>& places) {
-  std::map<std::string, Carrier> byText;
+  StretchesByText byText;
   for (const Street& street : streets) {
     // Slip roads carry the numbers of where they lead, small roads numbers no sign shows.
     if (street.isLink || street.isArea || street.kind < Street::Kind::kPrimary) continue;
@@ -240,10 +256,10 @@ std::vector<Labels> selectShields(const std::vector<Street>& streets,
     for (const Carrier& carrier : ordered) {
       constexpr double kSize = 9.5;
       const double half = textWidth(carrier.text) * kSize / 2 * sheet.pixel();
-      for (const MapPath& path : carrier.paths) {
-        const double length = lengthOf(path);
+      for (const MeasuredPath& path : carrier.paths) {
+        const double length = path.length();
         for (double at = length / 2; at < length; at += kStepPixels * sheet.pixel()) {
-          const MapPoint p = pointAlong(path, at);
+          const MapPoint p = path.at(at);
           sheet.add({carrier.text, carrier.kind, kSize, {{p.x - half, p.y}, {p.x + half, p.y}}});
         }
       }
@@ -257,6 +273,7 @@ Status writeStreetLabels(Database& database, const std::vector<Street>& streets,
                          const std::vector<PlaceLabel>& allPlaces) {
   // Only those near the streets can be in their way.
   std::vector<MapPath> lines;
+  lines.reserve(streets.size());
   for (const Street& street : streets) lines.push_back(street.paths.front());
   const MapBox box = boundsOf({DrawingShape::Kind::kLine, lines});
   const double margin = 256 * metresPerPixel(kFirstShieldZoom);

@@ -6,10 +6,10 @@
 
 namespace wayloom {
 
-std::int32_t Clock::wholeSecondsSince1970() const {
+std::int32_t wholeSeconds(double secondsSince1970) {
   using Limits = std::numeric_limits<std::int32_t>;
   return static_cast<std::int32_t>(
-      std::clamp<double>(secondsSince1970(), Limits::min(), Limits::max()));
+      std::clamp<double>(secondsSince1970, Limits::min(), Limits::max()));
 }
 
 double SystemClock::secondsSince1970() const {

@@ -5,7 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "places/Coordinate.h"
+#include "geo/Coordinate.h"
+#include "geo/Route.h"
 
 namespace wayloom {
 
@@ -16,18 +17,10 @@ struct DirectionsRequest {
   bool requestsAlternateRoutes = false;
 };
 
-/// One way to drive.
-struct DirectionsRoute {
-  /// Every bend of every road driven, in the order of driving; at least two positions.
-  std::vector<Coordinate> polyline;
-  double distanceMetres = 0;
-  double expectedSeconds = 0;
-};
-
 /// What a directions service answers: routes, the best first, or an error text. Without an error
 /// there is at least one route.
 struct DirectionsAnswer {
-  std::vector<DirectionsRoute> routes;
+  std::vector<Route> routes;
   std::optional<std::string> error;
 };
 

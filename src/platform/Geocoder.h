@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "places/Coordinate.h"
+#include "geo/Coordinate.h"
 
 namespace wayloom {
 
@@ -23,7 +23,8 @@ struct GeocoderAnswer {
   std::optional<std::string> error;
 };
 
-/// The first line of the first place, if there was no error and there is one.
+/// The first line of a place, or of the first place of an answer without an error, if there is one.
+std::optional<std::string> firstFormattedLine(const GeocodedPlace& place);
 std::optional<std::string> firstFormattedLine(const GeocoderAnswer& answer);
 
 /// Turns addresses into places and back. Completions run on the main thread, later; they do not

@@ -1,4 +1,4 @@
-#include "platform/Services.h"
+#include "platform/OnlineServices.h"
 
 #include <cstdlib>
 #include <fstream>
@@ -42,7 +42,7 @@ bool isBaseAddress(std::string_view address) {
 
 }  // namespace
 
-std::filesystem::path Services::defaultFile() {
+std::filesystem::path OnlineServices::defaultFile() {
   const auto folder = [](const char* variable) {
     const char* value = std::getenv(variable);
     std::filesystem::path path = value ? value : "";
@@ -57,7 +57,7 @@ std::filesystem::path Services::defaultFile() {
   return configuration / "wayloom" / "services.json";
 }
 
-Services Services::read(const std::filesystem::path& file) {
+OnlineServices OnlineServices::read(const std::filesystem::path& file) {
   std::error_code failure;
   const auto status = std::filesystem::status(file, failure);
   if (status.type() == std::filesystem::file_type::not_found) return {};
@@ -65,7 +65,7 @@ Services Services::read(const std::filesystem::path& file) {
   if (!text) return damaged(file, "it cannot be read or is too large");
   const auto document = nlohmann::json::parse(*text, nullptr, /*allow_exceptions=*/false);
   if (!document.is_object()) return damaged(file, "it is not a JSON object");
-  Services services;
+  OnlineServices services;
   bool online = false;
   for (const auto& [key, value] : document.items()) {
     if (key == "online") {
@@ -74,23 +74,25 @@ Services Services::read(const std::filesystem::path& file) {
     } else {
       std::string address = value.is_string() ? value.get<std::string>() : "";
       if (!isBaseAddress(address)) {
-        return damaged(file, "\"" + key + "\" must be an address such as \"https://example.org\"");
+        const std::string quoted = nlohmann::json(key).dump(-1, ' ', /*ensure_ascii=*/true);
+        return damaged(file, quoted + " must be an address such as \"https://example.org\"");
       }
       while (address.ends_with('/')) address.pop_back();
       services.mAddresses.emplace(key, std::move(address));
     }
   }
-  return online ? services : Services();
+  return online ? services : OnlineServices();
 }
 
-const std::string& Services::address(std::string_view service) const {
+const std::string& OnlineServices::address(std::string_view service) const {
   static const std::string off;
   const auto found = mAddresses.find(service);
   return found == mAddresses.end() ? off : found->second;
 }
 
-Services Services::damaged(const std::filesystem::path& file, const std::string& reason) {
-  Services services;
+OnlineServices OnlineServices::damaged(const std::filesystem::path& file,
+                                       const std::string& reason) {
+  OnlineServices services;
   services.mError = "Online services stay off because of " + file.string() + ": " + reason + ".";
   return services;
 }

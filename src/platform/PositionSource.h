@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-#include "places/Coordinate.h"
+#include "geo/Coordinate.h"
 
 namespace wayloom {
 

@@ -58,11 +58,6 @@ Statement& Statement::bind(int parameter, std::span<const std::byte> bytes) {
   return *this;
 }
 
-Statement& Statement::bindNull(int parameter) {
-  keep(sqlite3_bind_null(mStatement.get(), parameter));
-  return *this;
-}
-
 Result<bool> Statement::step() {
   if (mBindFault != SQLITE_OK) {
     const int fault = std::exchange(mBindFault, SQLITE_OK);

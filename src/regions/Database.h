@@ -28,7 +28,6 @@ class Statement {
   /// Text and bytes are copied.
   Statement& bind(int parameter, std::string_view text);
   Statement& bind(int parameter, std::span<const std::byte> bytes);
-  Statement& bindNull(int parameter);
 
   /// Runs to the next row: true when there is one, false at the end.
   Result<bool> step();

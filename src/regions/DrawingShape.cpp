@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <cstring>
 
-#include "ui/WebMercator.h"
+#include "geo/WebMercator.h"
 
 namespace wayloom {
 

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "places/Coordinate.h"
+#include "geo/Coordinate.h"
 
 namespace wayloom {
 

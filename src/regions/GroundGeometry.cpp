@@ -4,7 +4,7 @@
 #include <cmath>
 #include <numbers>
 
-#include "ui/WebMercator.h"
+#include "geo/WebMercator.h"
 
 namespace wayloom {
 

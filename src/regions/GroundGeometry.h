@@ -4,7 +4,7 @@
 #include <span>
 #include <vector>
 
-#include "places/Coordinate.h"
+#include "geo/Coordinate.h"
 #include "regions/RegionFile.h"
 
 namespace wayloom {

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "ui/WebMercator.h"
+#include "geo/WebMercator.h"
 
 namespace wayloom {
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "places/Coordinate.h"
+#include "geo/Coordinate.h"
 
 namespace wayloom {
 

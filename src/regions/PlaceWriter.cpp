@@ -4,9 +4,9 @@
 #include <cmath>
 #include <set>
 
+#include "geo/WebMercator.h"
 #include "regions/PlaceGrid.h"
 #include "regions/ShapeBlob.h"
-#include "ui/WebMercator.h"
 
 namespace wayloom {
 

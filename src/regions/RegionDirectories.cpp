@@ -18,16 +18,22 @@ std::optional<std::filesystem::path> environmentPath(const char* name) {
 
 }  // namespace
 
+std::optional<std::filesystem::path> ownRegionDirectory(
+    const std::optional<std::filesystem::path>& chosen) {
+  if (chosen) return chosen;
+  if (auto named = environmentPath("WAYLOOM_REGIONS")) return named;
+  if (const auto data = environmentPath("XDG_DATA_HOME"); data && data->is_absolute()) {
+    return *data / kFolder;
+  }
+  const auto home = environmentPath("HOME");
+  return home ? std::optional(*home / ".local/share" / kFolder) : std::nullopt;
+}
+
 std::vector<std::filesystem::path> regionDirectories(
     const std::optional<std::filesystem::path>& chosen) {
-  if (chosen) return {*chosen};
-  if (const auto named = environmentPath("WAYLOOM_REGIONS")) return {*named};
   std::vector<std::filesystem::path> directories;
-  if (const auto data = environmentPath("XDG_DATA_HOME"); data && data->is_absolute()) {
-    directories.push_back(*data / kFolder);
-  } else if (const auto home = environmentPath("HOME")) {
-    directories.push_back(*home / ".local/share" / kFolder);
-  }
+  if (const auto own = ownRegionDirectory(chosen)) directories.push_back(*own);
+  if (chosen || environmentPath("WAYLOOM_REGIONS")) return directories;
   std::error_code error;
   const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
   if (!error) directories.push_back(program.parent_path().parent_path() / "share" / kFolder);

@@ -1,11 +1,10 @@
 #include "regions/RegionPlaces.h"
 
-#include <cmath>
 #include <utility>
 
+#include "geo/WebMercator.h"
 #include "regions/RegionStore.h"
 #include "regions/ShapeBlob.h"
-#include "ui/WebMercator.h"
 
 namespace wayloom {
 
@@ -28,10 +27,7 @@ std::optional<PlaceRow> readRow(const Statement& statement) {
                      std::string(statement.text(4)), std::string(statement.text(5)),
                      std::string(statement.text(6)),
                      Coordinate{statement.real(7), statement.real(8)}, statement.integer(9)}};
-  const Coordinate& position = row.place.coordinate;
-  if (!(std::abs(position.latitude) <= 90 && std::abs(position.longitude) <= 180)) {
-    return std::nullopt;
-  }
+  if (!isOnGlobe(row.place.coordinate)) return std::nullopt;
   return row;
 }
 

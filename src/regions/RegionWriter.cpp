@@ -1,33 +1,20 @@
 #include "regions/RegionWriter.h"
 
 #include <array>
-#include <cerrno>
 #include <charconv>
 #include <cstdlib>
 #include <fcntl.h>
 #include <string>
 #include <sys/file.h>
 #include <sys/stat.h>
-#include <system_error>
 #include <unistd.h>
 #include <utility>
+
+#include "settings/ReplaceFile.h"
 
 namespace wayloom {
 
 namespace {
-
-Failure systemFailure(const std::string& action, const std::filesystem::path& path) {
-  return {action + " " + path.string() + ": " + std::generic_category().message(errno)};
-}
-
-// Makes sure that what was written survives a loss of power.
-bool syncPath(const std::filesystem::path& path, int flags) {
-  const int descriptor = ::open(path.c_str(), flags | O_CLOEXEC);
-  if (descriptor < 0) return false;
-  const bool synced = ::fsync(descriptor) == 0;
-  ::close(descriptor);
-  return synced;
-}
 
 std::string plainNumber(double value) {
   std::array<char, 32> buffer;
@@ -142,14 +129,9 @@ Status RegionWriter::commit() {
   // The tables' statistics spare every reader a bad plan.
   if (auto status = mDatabase.execute("ANALYZE; COMMIT"); !status) return status;
   if (auto status = mDatabase.close(); !status) return status;
-  if (!syncPath(mTemporary.path, O_RDWR)) return systemFailure("cannot write", mTarget);
-  if (::rename(mTemporary.path.c_str(), mTarget.c_str()) != 0) {
-    return systemFailure("cannot replace", mTarget);
-  }
-  mTemporary.path.clear();
-  if (!syncPath(folderOf(mTarget), O_RDONLY | O_DIRECTORY))
-    return systemFailure("cannot write", mTarget);
-  return done();
+  const Descriptor file(::open(mTemporary.path.c_str(), O_RDWR | O_CLOEXEC));
+  if (file.get() < 0 || ::fsync(file.get()) != 0) return systemFailure("cannot write", mTarget);
+  return putInPlace(mTemporary.path, mTarget);
 }
 
 }  // namespace wayloom

@@ -41,7 +41,7 @@ class RegionWriter {
   Status writeHead(const RegionInfo& info);
 
   std::filesystem::path mTarget;
-  /// Its path is empty once the file is no longer ours to remove.
+  /// Its path is empty in a writer that was moved from.
   Temporary mTemporary;
   Database mDatabase;
 };

@@ -17,6 +17,9 @@ struct PointHash {
   }
 };
 
+// More than meet anywhere. Where thousands did, the turns from each to each would take gigabytes.
+constexpr std::size_t kMostRoadsAtATurn = 64;
+
 using Points = std::vector<RoadPoint>;
 using Numbers = std::unordered_map<RoadPoint, std::uint32_t, PointHash>;
 
@@ -129,7 +132,7 @@ class Network {
 
   void forbid(const RoadRules::Turn& turn) {
     const auto via = mJunctions.find(roadPoint(turn.via));
-    if (via == mJunctions.end()) return;
+    if (via == mJunctions.end() || mEdgesAt[via->second].size() > kMostRoadsAtATurn) return;
     const auto from = edgesOf(turn.fromWay, via->second);
     const auto to = edgesOf(turn.toWay, via->second);
     if (from.size() != 1 || to.size() != 1) return;

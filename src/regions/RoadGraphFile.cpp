@@ -81,9 +81,7 @@ Result<std::vector<RoadPoint>> decodePoints(std::span<const std::byte> bytes) {
     const auto longitude = static_cast<std::int32_t>(take(bytes));
     const auto latitude = static_cast<std::int32_t>(take(bytes));
     const Coordinate coordinate = coordinateOf({longitude, latitude});
-    if (!(std::abs(coordinate.latitude) <= 90 && std::abs(coordinate.longitude) <= 180)) {
-      return failed("a position of a road is off the globe");
-    }
+    if (!isOnGlobe(coordinate)) return failed("a position of a road is off the globe");
     points.push_back({longitude, latitude});
   }
   return points;

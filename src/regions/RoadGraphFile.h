@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "places/Coordinate.h"
+#include "geo/Coordinate.h"
 #include "regions/CarProfile.h"
 #include "regions/Database.h"
 

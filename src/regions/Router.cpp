@@ -1,7 +1,6 @@
 #include "regions/Router.h"
 
 #include <algorithm>
-#include <cmath>
 #include <limits>
 #include <utility>
 
@@ -11,10 +10,6 @@
 namespace wayloom {
 
 namespace {
-
-bool isPosition(Coordinate position) {
-  return std::abs(position.latitude) <= 90 && std::abs(position.longitude) <= 180;
-}
 
 // Whether a road of the region may be near enough to the position.
 bool isWithinReach(const RegionBounds& region, Coordinate position) {
@@ -38,7 +33,7 @@ struct Nearest {
   void offer(std::vector<Route> offered, Coordinate from, Coordinate to) {
     // Less tells nothing about which region knows better; the smaller one came first.
     constexpr double kLeastGainMetres = 1;
-    const std::vector<Coordinate>& line = offered.front().line;
+    const std::vector<Coordinate>& line = offered.front().polyline;
     const double away = distanceMetres(from, line.front()) + distanceMetres(to, line.back());
     if (away + kLeastGainMetres > metres) return;
     routes = std::move(offered);
@@ -76,8 +71,8 @@ void Router::read(RegionRoads& roads) {
 }
 
 Result<std::vector<Route>> Router::plan(Coordinate from, Coordinate to, int alternates) {
-  if (!isPosition(from)) return Failure{"the start is not on the globe"};
-  if (!isPosition(to)) return Failure{"the end is not on the globe"};
+  if (!isOnGlobe(from)) return Failure{"the start is not on the globe"};
+  if (!isOnGlobe(to)) return Failure{"the end is not on the globe"};
   std::string fault;
   Nearest best;
   bool hasStart = false;

@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
+#include "geo/Route.h"
 #include "regions/RegionStore.h"
 #include "regions/RoadGraph.h"
-#include "regions/Route.h"
 
 namespace wayloom {
 

@@ -113,16 +113,16 @@ double drivenMetres(const RoadGraph& graph, const RoadPath& path, std::size_t st
 
 Route routeOf(const RoadGraph& graph, const RoadPath& path) {
   Route route;
-  append(route.line, path.from.coordinate);
+  append(route.polyline, path.from.coordinate);
   for (std::size_t step = 0; step < path.steps.size(); ++step) {
-    appendStep(graph, path, step, route.line);
+    appendStep(graph, path, step, route.polyline);
     const std::uint32_t edge = path.steps[step].edge;
     const double metres = drivenMetres(graph, path, step);
-    route.metres += metres;
-    if (metres > 0) route.seconds += metres / graph.metres(edge) * graph.seconds(edge);
+    route.distanceMetres += metres;
+    if (metres > 0) route.expectedSeconds += metres / graph.metres(edge) * graph.seconds(edge);
   }
-  append(route.line, path.to.coordinate);
-  if (route.line.size() == 1) route.line.push_back(route.line.front());
+  append(route.polyline, path.to.coordinate);
+  if (route.polyline.size() == 1) route.polyline.push_back(route.polyline.front());
   return route;
 }
 
@@ -161,7 +161,7 @@ Result<std::vector<Route>> routesOn(const RoadGraph& graph, Coordinate from, Coo
     path = search.find();
     if (!path) break;
     Route route = routeOf(graph, *path);
-    if (route.seconds > kSlowestAlternate * routes.front().seconds) continue;
+    if (route.expectedSeconds > kSlowestAlternate * routes.front().expectedSeconds) continue;
     if (sharedPart(graph, *path, used) > kMostShared) continue;
     routes.push_back(std::move(route));
     use();

@@ -2,8 +2,8 @@
 
 #include <vector>
 
+#include "geo/Route.h"
 #include "regions/RoadGraph.h"
-#include "regions/Route.h"
 #include "settings/Result.h"
 
 namespace wayloom {

@@ -12,9 +12,13 @@ namespace {
 // Wider than a square or a park that interrupts a street, narrower than the way to the next town.
 constexpr double kGapMetres = 300;
 
-bool mayBeNear(const RegionBounds& bounds, const RegionBounds& reach) {
-  return bounds.west <= reach.east && bounds.east >= reach.west && bounds.south <= reach.north &&
-         bounds.north >= reach.south;
+// The box around a line and what may be near it.
+RegionBounds reachOf(const Line& line) {
+  const RegionBounds bounds = boundsOf(line);
+  const RegionBounds corner = boundsAround({bounds.north, bounds.east}, kGapMetres).front();
+  const double width = corner.east - corner.west;
+  const double height = corner.north - corner.south;
+  return {bounds.west - width, bounds.south - height, bounds.east + width, bounds.north + height};
 }
 
 bool areNear(const Line& a, const Line& b) {
@@ -60,16 +64,17 @@ Coordinate middleOf(const std::vector<Line>& lines) {
 
 void mergeNamesakes(const std::string& name, std::vector<Line> lines,
                     std::vector<MergedStreet>& streets) {
+  // From west to east, so that each is held only against those that begin within its reach.
+  std::sort(lines.begin(), lines.end(),
+            [](const Line& a, const Line& b) { return boundsOf(a).west < boundsOf(b).west; });
+  std::vector<RegionBounds> bounds;
+  for (const Line& line : lines) bounds.push_back(boundsOf(line));
   Parts parts(lines.size());
   for (std::size_t a = 0; a < lines.size(); ++a) {
-    RegionBounds reach = boundsOf(lines[a]);
-    const RegionBounds corner = boundsAround({reach.north, reach.east}, kGapMetres).front();
-    const double width = corner.east - corner.west;
-    const double height = corner.north - corner.south;
-    reach = {reach.west - width, reach.south - height, reach.east + width, reach.north + height};
-    for (std::size_t b = a + 1; b < lines.size(); ++b) {
-      if (parts.of(a) == parts.of(b) || !mayBeNear(boundsOf(lines[b]), reach)) continue;
-      if (areNear(lines[a], lines[b])) parts.join(a, b);
+    const RegionBounds reach = reachOf(lines[a]);
+    for (std::size_t b = a + 1; b < lines.size() && bounds[b].west <= reach.east; ++b) {
+      if (bounds[b].south > reach.north || bounds[b].north < reach.south) continue;
+      if (parts.of(a) != parts.of(b) && areNear(lines[a], lines[b])) parts.join(a, b);
     }
   }
   std::map<std::size_t, MergedStreet> merged;

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <utility>
+
+#include "platform/MainQueue.h"
+#include "settings/WorkQueue.h"
+
+namespace wayloom {
+
+/// Answers questions about regions one after the other on a thread of its own. Made, asked and
+/// destroyed on the main thread, where the completions run; questions still open on destruction are
+/// dropped, after the one that is being answered. To be an owner's last member, so that it ends
+/// before what the questions use.
+class RegionQuestions {
+ public:
+  /// `mainQueue` must outlive this object.
+  explicit RegionQuestions(MainQueue& mainQueue) : mMainQueue(mainQueue) {}
+
+  /// Runs work on the thread, before the questions that come later.
+  void prepare(std::function<void()> work) { mWorker.post(std::move(work)); }
+
+  /// `question` runs on the thread; `completion`, which may be empty, later with its answer.
+  template <typename Question, typename Completion>
+  void ask(Question question, Completion completion) {
+    mWorker.post([&mainQueue = mMainQueue, alive = std::weak_ptr(mAlive),
+                  question = std::move(question), completion = std::move(completion)]() mutable {
+      if (alive.expired()) return;
+      mainQueue.post([alive, completion = std::move(completion), answer = question()] {
+        if (!alive.expired() && completion) completion(answer);
+      });
+    });
+  }
+
+ private:
+  MainQueue& mMainQueue;
+  WorkQueue mWorker;
+  /// Last, so that it is gone before the worker finishes what was posted, and answers on their way
+  /// know that nobody waits for them.
+  std::shared_ptr<const bool> mAlive = std::make_shared<const bool>(true);
+};
+
+}  // namespace wayloom

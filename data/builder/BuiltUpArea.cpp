@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "Contour.h"
+#include "drawing/MeasuredPath.h"
 
 namespace wayloom {
 
@@ -18,12 +19,13 @@ constexpr double kSmallestRingCells = 220;
 // One pass of a running mean along rows (step 1) or columns (step = columns).
 void blurLine(float* line, int count, int step, std::vector<float>& copy) {
   copy.resize(static_cast<std::size_t>(count));
-  for (int i = 0; i < count; ++i) copy[static_cast<std::size_t>(i)] = line[i * step];
+  for (int i = 0; i < count; ++i)
+    copy[static_cast<std::size_t>(i)] = line[std::ptrdiff_t{i} * step];
   float sum = 0;
   for (int i = -kBlurCells; i < count; ++i) {
     if (i + kBlurCells < count) sum += copy[static_cast<std::size_t>(i + kBlurCells)];
     if (i > kBlurCells) sum -= copy[static_cast<std::size_t>(i - kBlurCells - 1)];
-    if (i >= 0) line[i * step] = sum / (2 * kBlurCells + 1);
+    if (i >= 0) line[std::ptrdiff_t{i} * step] = sum / (2 * kBlurCells + 1);
   }
 }
 
@@ -37,10 +39,9 @@ void blur(HeightGrid& grid) {
   }
 }
 
-void markStreet(HeightGrid& grid, const MapPath& street, const MapPoint& origin, double cell) {
-  const double length = lengthOf(street);
-  for (double at = 0; at <= length; at += cell / 2) {
-    const MapPoint p = pointAlong(street, at);
+void markStreet(HeightGrid& grid, const MeasuredPath& street, const MapPoint& origin, double cell) {
+  for (double at = 0; at <= street.length(); at += cell / 2) {
+    const MapPoint p = street.at(at);
     grid.at(static_cast<int>((p.x - origin.x) / cell), static_cast<int>((p.y - origin.y) / cell)) =
         1;
   }
@@ -55,7 +56,9 @@ std::vector<MapPolygon> builtUpArea(const std::vector<MapPath>& streets, double 
   grid.columns = static_cast<int>((box.xmax - origin.x) / cellMetres) + kMarginCells;
   grid.rows = static_cast<int>((box.ymax - origin.y) / cellMetres) + kMarginCells;
   grid.heights.resize(static_cast<std::size_t>(grid.columns) * static_cast<std::size_t>(grid.rows));
-  for (const MapPath& street : streets) markStreet(grid, street, origin, cellMetres);
+  for (const MapPath& street : streets) {
+    markStreet(grid, MeasuredPath(street), origin, cellMetres);
+  }
   blur(grid);
 
   // Outlines run counter-clockwise, holes clockwise; a piece of even-odd area needs no nesting.

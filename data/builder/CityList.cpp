@@ -1,7 +1,7 @@
 #include "CityList.h"
 
-#include <cmath>
 #include <protozero/pbf_reader.hpp>
+#include <stdexcept>
 
 namespace wayloom {
 
@@ -65,9 +65,7 @@ City readCity(protozero::pbf_reader message, Position& position) {
   }
   city.coordinate = {static_cast<double>(position.latitude) / kUnitsPerDegree,
                      static_cast<double>(position.longitude) / kUnitsPerDegree};
-  if (!(std::abs(city.coordinate.latitude) <= 90 && std::abs(city.coordinate.longitude) <= 180)) {
-    throw std::range_error("position out of range");
-  }
+  if (!isOnGlobe(city.coordinate)) throw std::range_error("position out of range");
   return city;
 }
 

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "places/Coordinate.h"
+#include "geo/Coordinate.h"
 
 namespace wayloom {
 

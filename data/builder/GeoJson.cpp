@@ -1,7 +1,7 @@
 #include "GeoJson.h"
 
-#include <cmath>
 #include <nlohmann/json.hpp>
+#include <stdexcept>
 
 namespace wayloom {
 
@@ -13,9 +13,7 @@ std::vector<Coordinate> readPath(const json& positions) {
   std::vector<Coordinate> path;
   for (const json& position : positions) {
     const Coordinate point{position.at(1), position.at(0)};
-    if (!(std::abs(point.latitude) <= 90 && std::abs(point.longitude) <= 180)) {
-      throw std::domain_error("position out of range");
-    }
+    if (!isOnGlobe(point)) throw std::domain_error("position out of range");
     path.push_back(point);
   }
   return path;

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "places/Coordinate.h"
+#include "geo/Coordinate.h"
 
 namespace wayloom {
 

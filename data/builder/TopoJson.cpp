@@ -40,11 +40,16 @@ std::vector<std::vector<Coordinate>> readArcs(const json& topology) {
 }
 
 Topology::Polygon readPolygon(const json& rings, std::size_t arcCount) {
-  auto polygon = rings.get<Topology::Polygon>();
-  for (const Topology::Ring& ring : polygon) {
-    for (const int arc : ring) {
-      const auto index = static_cast<std::size_t>(arc < 0 ? ~arc : arc);
-      if (index >= arcCount) throw std::domain_error("no such arc");
+  Topology::Polygon polygon;
+  for (const auto& ring : rings.get<std::vector<std::vector<json>>>()) {
+    Topology::Ring& arcs = polygon.emplace_back();
+    for (const json& arc : ring) {
+      if (!arc.is_number_integer()) throw std::domain_error("an arc's number is no integer");
+      const auto number = arc.get<std::int64_t>();
+      if (static_cast<std::size_t>(number < 0 ? ~number : number) >= arcCount) {
+        throw std::domain_error("no such arc");
+      }
+      arcs.push_back(static_cast<int>(number));
     }
   }
   return polygon;

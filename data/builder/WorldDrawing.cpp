@@ -10,8 +10,8 @@
 #include "ReadFile.h"
 #include "WorldOutlines.h"
 #include "drawing/PlaceLabels.h"
+#include "geo/WebMercator.h"
 #include "regions/DrawingTable.h"
-#include "ui/WebMercator.h"
 
 namespace wayloom {
 

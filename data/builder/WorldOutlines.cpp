@@ -4,7 +4,7 @@
 #include <cmath>
 #include <set>
 
-#include "ui/WebMercator.h"
+#include "geo/WebMercator.h"
 
 namespace wayloom {
 

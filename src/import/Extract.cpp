@@ -3,7 +3,7 @@
 #include <array>
 #include <cmath>
 #include <exception>
-#include <osmium/area/assembler.hpp>
+#include <limits>
 #include <osmium/area/multipolygon_manager.hpp>
 #include <osmium/handler.hpp>
 #include <osmium/handler/node_locations_for_ways.hpp>
@@ -16,6 +16,8 @@
 #include <osmium/visitor.hpp>
 #include <system_error>
 
+#include "import/AreaAssembler.h"
+#include "import/ExtractCheck.h"
 #include "import/TurnRelations.h"
 #include "settings/Utf8.h"
 
@@ -44,7 +46,7 @@ constexpr std::size_t kLongestTagBytes = 4 * kLongestTagCharacters;
 
 using Locations = osmium::index::map::FlexMem<osmium::unsigned_object_id_type, osmium::Location>;
 using LocationHandler = osmium::handler::NodeLocationsForWays<Locations, Locations>;
-using AreaManager = osmium::area::MultipolygonManager<osmium::area::Assembler>;
+using AreaManager = osmium::area::MultipolygonManager<AreaAssembler>;
 
 const Form* formOf(const std::filesystem::path& path) {
   const std::string name = path.filename().string();
@@ -133,7 +135,8 @@ class Sorter : public osmium::handler::Handler {
 
   ExtractVisitor& mVisitor;
   bool mHasWays = false;
-  RegionBounds mBounds = {INFINITY, INFINITY, -INFINITY, -INFINITY};
+  static constexpr double kInfinity = std::numeric_limits<double>::infinity();
+  RegionBounds mBounds = {kInfinity, kInfinity, -kInfinity, -kInfinity};
 };
 
 osmium::TagsFilter areaFilter() {
@@ -154,9 +157,17 @@ class Reading {
       // With a folder in front, no name stands for standard input or a web address.
       : mFile(std::filesystem::absolute(path).string(), form.format), mProgress(progress) {}
 
+  void check() const {
+    const auto goOn = [this](double share) { return mProgress("Checking", share); };
+    const bool isPbf = mFile.format() == osmium::io::file_format::pbf;
+    const Status status = isPbf ? checkPbf(mFile, goOn) : checkXml(mFile, goOn);
+    if (!status) throw Stop{status.failure()};
+  }
+
   template <typename... Handlers>
   void pass(std::string_view step, osmium::osm_entity_bits::type what, Handlers&... handlers) {
-    osmium::io::Reader reader(mFile, what);
+    // Who changed what and when is of no use here, and one thing less that may be damaged.
+    osmium::io::Reader reader(mFile, what, osmium::io::read_meta::no);
     while (auto buffer = reader.read()) {
       osmium::apply(buffer, handlers...);
       const double size = std::max(1.0, static_cast<double>(reader.file_size()));
@@ -177,6 +188,7 @@ RegionBounds readAll(Reading& reading, ExtractVisitor& visitor) {
   config.create_empty_areas = false;
   AreaManager areas(config, areaFilter());
   TurnRelations turns;
+  reading.check();
   reading.pass("Reading relations", osmium::osm_entity_bits::relation, areas, turns);
   areas.prepare_for_lookup();
 

@@ -4,6 +4,8 @@
 #include <array>
 #include <cmath>
 
+#include "drawing/PointGrid.h"
+
 namespace wayloom {
 
 namespace {
@@ -31,10 +33,6 @@ constexpr std::array kKinds = {Kind{"city", 3e5, 12, 8, true},
                                Kind{"farm", 20, 10, 15, false},
                                Kind{"locality", 10, 10, 15, false}};
 
-double apart(const PlaceLabel& a, const PlaceLabel& b) {
-  return std::hypot(a.point.x - b.point.x, a.point.y - b.point.y);
-}
-
 }  // namespace
 
 void PlaceNames::addPoint(const OsmTags& tags, Coordinate position) {
@@ -49,14 +47,14 @@ void PlaceNames::addPoint(const OsmTags& tags, Coordinate position) {
 }
 
 std::vector<PlaceLabel> PlaceNames::select(const std::vector<PlaceLabel>& shown) {
+  PointGrid<std::string_view> names(kNamesakeMetres);
+  for (const PlaceLabel& label : shown) names.add(label.point, label.name);
   std::vector<PlaceLabel> candidates;
   for (const Name& name : mNames) {
-    const bool isShown = std::any_of(shown.begin(), shown.end(), [&](const PlaceLabel& other) {
-      const double metres = apart(name.label, other);
-      return (metres < kNamesakeMetres && other.name == name.label.name) ||
-             (metres < kSamePlaceMetres && name.isSettlement);
-    });
-    if (!isShown) candidates.push_back(name.label);
+    const auto isSame = [&](std::string_view other, double metres) {
+      return other == name.label.name || (metres < kSamePlaceMetres && name.isSettlement);
+    };
+    if (!names.anyNear(name.label.point, isSame)) candidates.push_back(name.label);
   }
   return selectPlaceLabels(std::move(candidates), kLastZoom, shown);
 }

@@ -9,14 +9,13 @@
 #include "import/ExtractRoads.h"
 #include "import/LandDrawing.h"
 #include "import/PlaceNames.h"
+#include "regions/OwnRegions.h"
 #include "regions/RegionWriter.h"
-#include "settings/Utf8.h"
 
 namespace wayloom {
 
 namespace {
 
-constexpr std::size_t kLongestNameBytes = 120;
 constexpr char kAttribution[] = "© OpenStreetMap contributors";
 
 DrawingShape shapeOf(DrawingShape::Kind kind, const std::vector<Line>& lines) {
@@ -136,30 +135,16 @@ Result<Region> build(const std::filesystem::path& extract, const std::filesystem
 
 }  // namespace
 
-Status checkRegionName(const std::string& name) {
-  if (name.empty()) return failed("a region needs a name");
-  if (name.size() > kLongestNameBytes) return failed("the region's name is too long");
-  if (name.front() == '.') return failed("a region's name cannot begin with a dot");
-  for (std::size_t at = 0; at < name.size();) {
-    const Utf8Step step = utf8Step(name, at);
-    if (!step.valid || step.character < ' ' || step.character == 0x7f || step.character == '/') {
-      return failed("a region's name cannot hold slashes or control characters");
-    }
-    at += step.length;
-  }
-  return done();
-}
-
 Result<Region> importRegion(const std::filesystem::path& extract,
                             const std::filesystem::path& folder, const std::string& name,
                             const RegionStore& installed, const WorkProgress& progress) {
   if (extractStem(extract).empty()) {
     return failed("its name ends in none of .osm.pbf, .osm, .osm.gz and .osm.bz2");
   }
-  if (auto status = checkRegionName(name); !status) return status.failure();
+  const auto target = newRegionPath(folder, name, installed);
+  if (!target) return target.failure();
   try {
-    const auto target = folder / (name + kRegionExtension);
-    return build(extract, target, name, installed.without(target), progress);
+    return build(extract, *target, name, installed.without(*target), progress);
   } catch (const std::exception& fault) {
     return failed(fault.what());
   }

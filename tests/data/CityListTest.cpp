@@ -17,7 +17,7 @@ std::string message(const std::string& name, std::int64_t longitudeStep, std::in
   return static_cast<char>(body.size()) + body;
 }
 
-TEST(CityList, AddsUpTheStepsBetweenPlaces) {
+TEST(CityListTest, AddsUpTheStepsBetweenPlaces) {
   const auto cities = readCityList(message("Göteborg", 1196679, 5770716, 572799) +
                                    message("Lima", -8900000, -6975000, 1));
   ASSERT_TRUE(cities);
@@ -29,7 +29,7 @@ TEST(CityList, AddsUpTheStepsBetweenPlaces) {
   EXPECT_NEAR(cities->back().coordinate.latitude, -12.04284, 1e-9);
 }
 
-TEST(CityList, RefusesCutAndImpossibleData) {
+TEST(CityListTest, RefusesCutAndImpossibleData) {
   const std::string whole = message("Somewhere", 100, 100, 5);
   for (std::size_t length = 1; length < whole.size(); ++length) {
     EXPECT_FALSE(readCityList(whole.substr(0, length))) << "cut at " << length;

@@ -12,7 +12,7 @@ std::string topology(const std::string& arcs, const std::string& geometry) {
          "]}}}";
 }
 
-TEST(TopoJson, JoinsArcsForwardsAndBackwards) {
+TEST(TopoJsonTest, JoinsArcsForwardsAndBackwards) {
   const auto read = readTopoJson(
       topology("[[[0,0],[4,0],[0,4]],[[0,0],[0,4],[4,0]]]",
                R"({"type":"Polygon","id":7,"properties":{"name":"Box"},"arcs":[[0,-2]]})"),
@@ -26,7 +26,7 @@ TEST(TopoJson, JoinsArcsForwardsAndBackwards) {
                           Coordinate{21, 10}, Coordinate{20, 10}));
 }
 
-TEST(TopoJson, RefusesWhatIsDamaged) {
+TEST(TopoJsonTest, RefusesWhatIsDamaged) {
   const std::string arcs = "[[[0,0],[1,0],[0,1]]]";
   const std::string polygon = R"({"type":"Polygon","arcs":[[0]]})";
   ASSERT_TRUE(readTopoJson(topology(arcs, polygon), "land"));
@@ -53,7 +53,7 @@ TEST(TopoJson, RefusesWhatIsDamaged) {
   }
 }
 
-TEST(GeoJson, RefusesPositionsOffTheGlobe) {
+TEST(GeoJsonTest, RefusesPositionsOffTheGlobe) {
   for (const char* position : {"[181,0]", "[0,91]", "[0]", "\"x\"", "[null,1]"}) {
     const std::string text =
         R"({"type":"FeatureCollection","features":[{"geometry":{"type":"LineString","coordinates":[)" +

@@ -1,7 +1,7 @@
 #include <cmath>
 
 #include "WorldOutlines.h"
-#include "ui/WebMercator.h"
+#include "geo/WebMercator.h"
 
 namespace wayloom {
 namespace {
@@ -33,7 +33,7 @@ bool covers(const std::vector<MapPolygon>& polygons, Coordinate place) {
   return inside;
 }
 
-TEST(WorldOutlines, LandAcrossTheAntimeridianShowsOnBothSides) {
+TEST(WorldOutlinesTest, LandAcrossTheAntimeridianShowsOnBothSides) {
   const auto topology = oneRing({{60, 170}, {70, 170}, {70, -170}, {60, -170}, {60, 170}});
   const auto polygons = mapPolygons(topology, topology.areas[0]);
   for (const double longitude : {171.0, 179.9, -179.9, -171.0}) {
@@ -44,7 +44,7 @@ TEST(WorldOutlines, LandAcrossTheAntimeridianShowsOnBothSides) {
   }
 }
 
-TEST(WorldOutlines, LandAroundThePoleReachesTheMapsEdge) {
+TEST(WorldOutlinesTest, LandAroundThePoleReachesTheMapsEdge) {
   std::vector<Coordinate> ring;
   for (int longitude = -180; longitude <= 180; longitude += 30) {
     ring.push_back({-70, static_cast<double>(longitude)});
@@ -58,7 +58,7 @@ TEST(WorldOutlines, LandAroundThePoleReachesTheMapsEdge) {
   }
 }
 
-TEST(WorldOutlines, TheSeamIsNoCoast) {
+TEST(WorldOutlinesTest, TheSeamIsNoCoast) {
   const auto topology =
       oneRing({{60, 170}, {70, 170}, {70, 180}, {65, -180}, {60, 180}, {60, 170}});
   for (const MapPath& line : mapLines(topology, ArcUse::kCoast)) {

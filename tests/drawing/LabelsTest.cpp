@@ -1,7 +1,9 @@
+#include <ctime>
 #include <random>
 
 #include "drawing/MapGeometry.h"
 #include "drawing/PlaceLabels.h"
+#include "drawing/StreetLabels.h"
 
 namespace wayloom {
 namespace {
@@ -29,7 +31,7 @@ std::vector<PlaceLabel> crowd(unsigned seed) {
   return labels;
 }
 
-TEST(PlaceLabels, NeverTouchAtAnyZoom) {
+TEST(PlaceLabelsTest, NeverTouchAtAnyZoom) {
   for (unsigned seed = 1; seed <= 5; ++seed) {
     const auto shown = selectPlaceLabels(crowd(seed), 12);
     ASSERT_FALSE(shown.empty());
@@ -46,6 +48,42 @@ TEST(PlaceLabels, NeverTouchAtAnyZoom) {
       }
     }
   }
+}
+
+// Streets of one name, 200 metres long, in rows so far apart.
+std::vector<Street> namesakes(int rows, int columns, double metresApart) {
+  std::vector<Street> streets;
+  for (int i = 0; i < rows * columns; ++i) {
+    const MapPoint west{i % columns * 200.0, i / columns * metresApart};
+    streets.push_back({Street::Kind::kPrimary, false, false, 0, "Ringweg", "A 1", {{west}}});
+    streets.back().paths.front().push_back({west.x + 200, west.y});
+  }
+  return streets;
+}
+
+double secondsToLabel(const std::vector<Street>& streets) {
+  const std::clock_t begin = std::clock();
+  const auto names = selectStreetLabels(streets, {});
+  EXPECT_FALSE(names.back().empty());
+  (void)selectShields(streets, names, {});
+  return static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
+}
+
+TEST(StreetLabelsTest, TakeTimeInProportionToTheStreets) {
+  // What looks at each pair of labels, or at the whole road for each, takes sixteen times as long.
+  EXPECT_LT(secondsToLabel(namesakes(3000, 4, 400)),
+            8 * secondsToLabel(namesakes(750, 4, 400)) + 0.2);
+  EXPECT_LT(secondsToLabel(namesakes(1, 12000, 0)),
+            8 * secondsToLabel(namesakes(1, 3000, 0)) + 0.2);
+}
+
+TEST(StreetLabelsTest, LeaveOutLinesAroundTheWorld) {
+  const MapPath line = {{-2e7, 2e7}, {0, 2e7}, {2e7, -2e7}, {-1e7, 1e7}, {-2e7, 2e7}};
+  const std::vector<Street> streets = {
+      {Street::Kind::kPrimary, false, false, 0, "Ringweg", "A 1", {line}}};
+  const auto names = selectStreetLabels(streets, {});
+  EXPECT_TRUE(names.back().empty());
+  EXPECT_TRUE(selectShields(streets, names, {}).back().empty());
 }
 
 }  // namespace

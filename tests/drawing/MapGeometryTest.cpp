@@ -23,7 +23,7 @@ double areaOf(const std::vector<MapPolygon>& polygons) {
   return area;
 }
 
-TEST(MapGeometry, PiecesCoverWhatWasCut) {
+TEST(MapGeometryTest, PiecesCoverWhatWasCut) {
   MapPath hole = circle({10, 20}, 40, 500);
   std::reverse(hole.begin(), hole.end());
   const MapPolygon ring = {circle({0, 0}, 100, 3000), hole};
@@ -40,7 +40,7 @@ TEST(MapGeometry, PiecesCoverWhatWasCut) {
   }
 }
 
-TEST(MapGeometry, SimplifyingStaysWithinTheTolerance) {
+TEST(MapGeometryTest, SimplifyingStaysWithinTheTolerance) {
   const MapPath ring = circle({0, 0}, 100, 2000);
   const MapPath rough = simplified(ring, 1);
   EXPECT_LT(rough.size(), 60U);
@@ -49,7 +49,7 @@ TEST(MapGeometry, SimplifyingStaysWithinTheTolerance) {
   EXPECT_NEAR(signedArea(rough), signedArea(ring), 2 * std::numbers::pi * 100);
 }
 
-TEST(MapGeometry, LabelsStandInsideTheirArea) {
+TEST(MapGeometryTest, LabelsStandInsideTheirArea) {
   // A crescent: its centre lies outside.
   MapPolygon crescent = {circle({0, 0}, 100, 200)};
   crescent.push_back(circle({30, 0}, 75, 200));

@@ -23,7 +23,7 @@ Coordinate at(int row, int column) {
 
 const WorkProgress kGoOn = [](std::string_view, double) { return true; };
 
-class RegionImport : public testing::Test {
+class RegionImportTest : public testing::Test {
  protected:
   Result<Region> import(const std::string& name = "small", const WorkProgress& progress = kGoOn) {
     return importRegion(mExtract, mFolder.path(), name, store(), progress);
@@ -78,7 +78,7 @@ OsmText oneOfEach() {
   return text;
 }
 
-TEST_F(RegionImport, MakesMapPlacesAndRoads) {
+TEST_F(RegionImportTest, MakesMapPlacesAndRoads) {
   ASSERT_EQ(import(oneOfEach()).message(), "");
   EXPECT_THAT(files(), ElementsAre("small.region"));
   EXPECT_EQ(count("building"), 1);
@@ -107,24 +107,24 @@ TEST_F(RegionImport, MakesMapPlacesAndRoads) {
   EXPECT_EQ(addressLines(*index->placeAt(at(1, 1))).front(), "Ringweg 5, Dorf");
 }
 
-TEST_F(RegionImport, RoadsKeepTheirRules) {
+TEST_F(RegionImportTest, RoadsKeepTheirRules) {
   ASSERT_EQ(import(oneOfEach()).message(), "");
   Router router(store());
   const auto seconds = [&](Coordinate from, Coordinate to) {
     const auto routes = router.plan(from, to);
-    return routes ? routes->front().seconds : -1;
+    return routes ? routes->front().expectedSeconds : -1;
   };
   // The left turn is forbidden, so the way there leads round the block; the way back does not.
   EXPECT_GT(seconds(at(0, 1), at(2, 2)), 1.5 * seconds(at(2, 2), at(0, 1)));
   // The bollard stands between, so one drives back to the village.
   const auto blocked = router.plan(at(2, 0), {47.0035, 9.0015});
   ASSERT_TRUE(blocked) << blocked.message();
-  EXPECT_GT(blocked->front().metres, 500);
+  EXPECT_GT(blocked->front().distanceMetres, 500);
   // 150 metres of water in ten minutes.
   EXPECT_NEAR(seconds(at(0, 4), at(0, 6)), 600, 100);
 }
 
-TEST_F(RegionImport, TakesDivisionAndCountryFromWhatIsInstalled) {
+TEST_F(RegionImportTest, TakesDivisionAndCountryFromWhatIsInstalled) {
   SmallIndex world({settlement("Anderswo", "Kanton", "Land", {47.1, 9.1}, 50000)});
   oneOfEach().write(mExtract);
   ASSERT_TRUE(importRegion(mExtract, mFolder.path(), "small", world.store(), kGoOn));
@@ -134,7 +134,7 @@ TEST_F(RegionImport, TakesDivisionAndCountryFromWhatIsInstalled) {
   EXPECT_THAT(addressLines(found.front()), ElementsAre("Ringweg 5, Dorf", "Kanton, Land"));
 }
 
-TEST_F(RegionImport, RefusesBadExtractsInOneLine) {
+TEST_F(RegionImportTest, RefusesBadExtractsInOneLine) {
   const std::string good = oneOfEach().str();
   const std::string head = "<?xml version='1.0'?><osm version='0.6'>";
   const auto node = [&](const std::string& position) {
@@ -162,6 +162,9 @@ TEST_F(RegionImport, RefusesBadExtractsInOneLine) {
       {"a.osm", node("lat='97' lon='9'"), "node 1 lies outside the world"},
       {"a.osm", node("lat='47' lon='-181'"), "node 1 lies outside the world"},
       {"a.osm", node("lat='nan' lon='9'"), "damaged"},
+      {"a.osm", node("lat='47' lon='438.4967296'"), "a position lies outside the world"},
+      {"a.osm", node("lat='47' lon='1e99'"), "a position lies outside the world"},
+      {"a.osm", "<!DOCTYPE osm [<!ENTITY a 'b'>]>" + good, "it declares entities"},
       {"a.osm", node(""), "node 1 lies outside the world"},
       {"a.osm", OsmText().node(1).way(7, {1, 2}, {{"highway", "road"}}).str(),
        "way 7 uses node 2, which the file does not hold"},
@@ -186,7 +189,7 @@ TEST_F(RegionImport, RefusesBadExtractsInOneLine) {
   EXPECT_THAT(import().message(), HasSubstr("not a file"));
 }
 
-TEST_F(RegionImport, LivesWithAbsurdTags) {
+TEST_F(RegionImportTest, LivesWithAbsurdTags) {
   const std::string tall(300, 'x');
   OsmText text;
   text.node(0, {{"place", "city"}, {"name", tall}, {"population", "99999999999999999999"}})
@@ -212,7 +215,7 @@ TEST_F(RegionImport, LivesWithAbsurdTags) {
   EXPECT_TRUE(router.plan(at(0, 0), at(0, 4)));
 }
 
-TEST_F(RegionImport, RefusesNamesThatAreNoFileNames) {
+TEST_F(RegionImportTest, RefusesNamesThatAreNoFileNames) {
   oneOfEach().write(mExtract);
   for (const std::string& name :
        {std::string(), std::string("a/b"), std::string(".."), std::string(".hidden"),
@@ -223,7 +226,7 @@ TEST_F(RegionImport, RefusesNamesThatAreNoFileNames) {
   EXPECT_TRUE(import("Zürich & Umgebung"));
 }
 
-TEST_F(RegionImport, LeavesNothingWhenItIsStoppedAndKeepsWhatWasThere) {
+TEST_F(RegionImportTest, LeavesNothingWhenItIsStoppedAndKeepsWhatWasThere) {
   OsmText().node(1, {{"place", "town"}, {"name", "Alt"}}).write(mExtract);
   ASSERT_TRUE(import());
   oneOfEach().write(mExtract);
@@ -241,7 +244,7 @@ TEST_F(RegionImport, LeavesNothingWhenItIsStoppedAndKeepsWhatWasThere) {
 }
 
 // A process that was killed can clean up nothing.
-TEST_F(RegionImport, RemovesWhatAKilledImportLeftButNotWhatAnotherWrites) {
+TEST_F(RegionImportTest, RemovesWhatAKilledImportLeftButNotWhatAnotherWrites) {
   const RegionInfo info{"x", "", {}};
   const auto working = RegionWriter::create(mFolder.path() / "b.region", info);
   ASSERT_TRUE(working);

@@ -79,7 +79,7 @@ int hear(sd_bus_message* message, void* heard, sd_bus_error* /*error*/) {
   return 0;
 }
 
-TEST(DBusNotice, ReachesAListenerOnTheSessionBus) {
+TEST(DBusNoticeTest, ReachesAListenerOnTheSessionBus) {
   const PrivateBus bus;
   ASSERT_FALSE(bus.address.empty()) << "dbus-daemon did not start";
   const Environment environment("DBUS_SESSION_BUS_ADDRESS", bus.address);
@@ -102,7 +102,7 @@ TEST(DBusNotice, ReachesAListenerOnTheSessionBus) {
   EXPECT_EQ(heard[0].path, "/com/quorvil/wayloom");
 }
 
-TEST(DBusNotice, ABusThatIsNotThereOrGoneHoldsNothingUp) {
+TEST(DBusNoticeTest, ABusThatIsNotThereOrGoneHoldsNothingUp) {
   const auto start = std::chrono::steady_clock::now();
   {
     const Environment environment("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent/bus");
@@ -119,7 +119,7 @@ TEST(DBusNotice, ABusThatIsNotThereOrGoneHoldsNothingUp) {
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
 }
 
-TEST(CommandNotice, RunsTheCommandWithTheNameAndNoShell) {
+TEST(CommandNoticeTest, RunsTheCommandWithTheNameAndNoShell) {
   const TemporaryRoot root;
   const auto script = root.path() / "on notice; exit";
   const auto output = root.path() / "heard";

@@ -12,7 +12,7 @@ namespace {
 using namespace std::chrono_literals;
 constexpr auto kLimit = 30s;
 
-TEST(RunLoop, RunsWhatManyThreadsPostInEachThreadsOrder) {
+TEST(RunLoopTest, RunsWhatManyThreadsPostInEachThreadsOrder) {
   constexpr int kThreads = 4;
   constexpr int kEach = 500;
   RunLoop loop;
@@ -38,7 +38,7 @@ TEST(RunLoop, RunsWhatManyThreadsPostInEachThreadsOrder) {
   }
 }
 
-TEST(RunLoop, FiresTimersByDelayAndOnlyOnce) {
+TEST(RunLoopTest, FiresTimersByDelayAndOnlyOnce) {
   RunLoop loop;
   std::vector<char> fired;
   const auto late = loop.schedule(20ms, [&] { fired.push_back('c'); });
@@ -49,7 +49,7 @@ TEST(RunLoop, FiresTimersByDelayAndOnlyOnce) {
   EXPECT_THAT(fired, testing::ElementsAre('a', 'b', 'c', 'd'));
 }
 
-TEST(RunLoop, DropsACancelledTimerAndLetsATimerCancelItself) {
+TEST(RunLoopTest, DropsACancelledTimerAndLetsATimerCancelItself) {
   RunLoop loop;
   int fired = 0;
   auto cancelled = loop.schedule(1ms, [&] { fired += 100; });
@@ -65,7 +65,7 @@ TEST(RunLoop, DropsACancelledTimerAndLetsATimerCancelItself) {
   EXPECT_EQ(witness.use_count(), 1) << "the loop still holds the work of a timer that fired";
 }
 
-TEST(RunLoop, AHandleMayOutliveItsLoop) {
+TEST(RunLoopTest, AHandleMayOutliveItsLoop) {
   std::unique_ptr<MainQueue::Timer> timer;
   auto witness = std::make_shared<int>();
   {

@@ -3,7 +3,7 @@
 namespace wayloom {
 namespace {
 
-TEST(CarProfile, ReadsTheTagsOfAWay) {
+TEST(CarProfileTest, ReadsTheTagsOfAWay) {
   using Tags = std::map<std::string, std::string>;
   const std::pair<Tags, std::optional<RoadUse>> cases[] = {
       {{{"highway", "residential"}}, RoadUse{true, true, false, 30}},

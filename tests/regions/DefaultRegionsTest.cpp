@@ -6,9 +6,9 @@
 namespace wayloom {
 namespace {
 
-class DefaultRegions : public testing::Test {
+class DefaultRegionsTest : public testing::Test {
  protected:
-  DefaultRegions() : mStore({WAYLOOM_REGION_DIR}) {
+  DefaultRegionsTest() : mStore({WAYLOOM_REGION_DIR}) {
     auto index = PlaceIndex::open(mStore);
     if (index) mIndex.emplace(std::move(*index));
   }
@@ -22,7 +22,7 @@ class DefaultRegions : public testing::Test {
   std::optional<PlaceIndex> mIndex;
 };
 
-TEST_F(DefaultRegions, FindWhatPeopleLookFor) {
+TEST_F(DefaultRegionsTest, FindWhatPeopleLookFor) {
   const struct {
     const char* text;
     const char* line;
@@ -46,7 +46,7 @@ TEST_F(DefaultRegions, FindWhatPeopleLookFor) {
   }
 }
 
-TEST_F(DefaultRegions, SayWhatIsHere) {
+TEST_F(DefaultRegionsTest, SayWhatIsHere) {
   const struct {
     Coordinate position;
     const char* line;

@@ -12,7 +12,7 @@ namespace {
 using Hop = std::pair<RoadPoint, RoadPoint>;
 
 /// The roads of Gothenburg and what a driver may do there, position by position.
-class DefaultRoads : public testing::Test {
+class DefaultRoadsTest : public testing::Test {
  protected:
   void SetUp() override {
     auto database = openRegion(std::filesystem::path(WAYLOOM_REGION_DIR) / "gothenburg.region");
@@ -56,7 +56,7 @@ class DefaultRoads : public testing::Test {
   std::set<Hop> mHops, mOneWay, mResidents;
 };
 
-TEST_F(DefaultRoads, CarryRoutesThatFollowThemInTheirDirections) {
+TEST_F(DefaultRoadsTest, CarryRoutesThatFollowThemInTheirDirections) {
   EXPECT_GT(mGraph->edges().size(), 9000u);
   int planned = 0;
   const auto asked = places(200);
@@ -65,9 +65,9 @@ TEST_F(DefaultRoads, CarryRoutesThatFollowThemInTheirDirections) {
     if (!routes) continue;
     for (const Route& route : *routes) {
       ++planned;
-      for (std::size_t hop = 2; hop + 1 < route.line.size(); ++hop) {
-        const RoadPoint a = roadPoint(route.line[hop - 1]);
-        const RoadPoint b = roadPoint(route.line[hop]);
+      for (std::size_t hop = 2; hop + 1 < route.polyline.size(); ++hop) {
+        const RoadPoint a = roadPoint(route.polyline[hop - 1]);
+        const RoadPoint b = roadPoint(route.polyline[hop]);
         ASSERT_TRUE(mHops.contains({a, b}))
             << "drive " << index << ": " << a.latitude << ',' << a.longitude << " to " << b.latitude
             << ',' << b.longitude;
@@ -78,7 +78,7 @@ TEST_F(DefaultRoads, CarryRoutesThatFollowThemInTheirDirections) {
 }
 
 // The way back takes as long where no one-way street is on either.
-TEST_F(DefaultRoads, TakeAsLongInBothDirectionsWhereAllIsTwoWay) {
+TEST_F(DefaultRoadsTest, TakeAsLongInBothDirectionsWhereAllIsTwoWay) {
   int compared = 0;
   // Edges stand in the file by their places on the ground, so these drives are short.
   std::vector<Coordinate> asked;
@@ -89,19 +89,21 @@ TEST_F(DefaultRoads, TakeAsLongInBothDirectionsWhereAllIsTwoWay) {
     const auto there = routesOn(*mGraph, asked[index - 1], asked[index], 0);
     const auto back = routesOn(*mGraph, asked[index], asked[index - 1], 0);
     if (!there || !back) continue;
-    const Line& line = there->front().line;
-    if (uses(mOneWay, line) || uses(mOneWay, back->front().line)) continue;
+    const Line& line = there->front().polyline;
+    if (uses(mOneWay, line) || uses(mOneWay, back->front().polyline)) continue;
     // Each end may have moved to another road in the other direction.
-    if (line.front() != back->front().line.back()) continue;
-    if (line.back() != back->front().line.front()) continue;
+    if (line.front() != back->front().polyline.back()) continue;
+    if (line.back() != back->front().polyline.front()) continue;
     ++compared;
-    EXPECT_NEAR(there->front().seconds, back->front().seconds, 0.01) << "drive " << index;
-    EXPECT_NEAR(there->front().metres, back->front().metres, 100) << "drive " << index;
+    EXPECT_NEAR(there->front().expectedSeconds, back->front().expectedSeconds, 0.01)
+        << "drive " << index;
+    EXPECT_NEAR(there->front().distanceMetres, back->front().distanceMetres, 100)
+        << "drive " << index;
   }
   EXPECT_GE(compared, 50);
 }
 
-TEST_F(DefaultRoads, AreNeverQuickerByADetour) {
+TEST_F(DefaultRoadsTest, AreNeverQuickerByADetour) {
   int compared = 0;
   const auto asked = places(300);
   for (std::size_t index = 2; index < asked.size(); ++index) {
@@ -109,17 +111,18 @@ TEST_F(DefaultRoads, AreNeverQuickerByADetour) {
     const auto first = routesOn(*mGraph, asked[index - 2], asked[index - 1], 0);
     const auto second = routesOn(*mGraph, asked[index - 1], asked[index], 0);
     if (!whole || !first || !second) continue;
-    const Line& line = whole->front().line;
-    if (first->front().line.front() != line.front()) continue;
-    if (second->front().line.back() != line.back()) continue;
-    if (first->front().line.back() != second->front().line.front()) continue;
+    const Line& line = whole->front().polyline;
+    if (first->front().polyline.front() != line.front()) continue;
+    if (second->front().polyline.back() != line.back()) continue;
+    if (first->front().polyline.back() != second->front().polyline.front()) continue;
     // Residents' streets may be used on a visit but not to go through.
-    if (uses(mResidents, line) || uses(mResidents, first->front().line) ||
-        uses(mResidents, second->front().line)) {
+    if (uses(mResidents, line) || uses(mResidents, first->front().polyline) ||
+        uses(mResidents, second->front().polyline)) {
       continue;
     }
     ++compared;
-    EXPECT_LE(whole->front().seconds, first->front().seconds + second->front().seconds + 0.01)
+    EXPECT_LE(whole->front().expectedSeconds,
+              first->front().expectedSeconds + second->front().expectedSeconds + 0.01)
         << "drive " << index;
   }
   EXPECT_GT(compared, 100);

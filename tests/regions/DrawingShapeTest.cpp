@@ -16,7 +16,7 @@ std::vector<DrawingShape> shapes() {
            {{{0, 0}, {9, 0}, {9, 9}, {0, 0}}, {{1, 1}, {2, 1}, {2, 2}, {1, 2}, {1, 1}}}}};
 }
 
-TEST(DrawingShape, ComesBackAsItWas) {
+TEST(DrawingShapeTest, ComesBackAsItWas) {
   for (const DrawingShape& shape : shapes()) {
     const auto back = decodeShape(encodeShape(shape));
     ASSERT_TRUE(back) << static_cast<int>(shape.kind);
@@ -24,7 +24,7 @@ TEST(DrawingShape, ComesBackAsItWas) {
   }
 }
 
-TEST(DrawingShape, IsRefusedWhenCutOrLengthened) {
+TEST(DrawingShapeTest, IsRefusedWhenCutOrLengthened) {
   for (const DrawingShape& shape : shapes()) {
     const std::string bytes = encodeShape(shape);
     for (std::size_t length = 0; length < bytes.size(); ++length) {
@@ -34,14 +34,14 @@ TEST(DrawingShape, IsRefusedWhenCutOrLengthened) {
   }
 }
 
-TEST(DrawingShape, IsRefusedWithCoordinatesThatAreNone) {
+TEST(DrawingShapeTest, IsRefusedWithCoordinatesThatAreNone) {
   for (const double value : {std::nan(""), std::numeric_limits<double>::infinity(), 1e10, -1e300}) {
     EXPECT_FALSE(decodeShape(encodeShape({Kind::kPoint, {{{value, 0}}}}))) << value;
     EXPECT_FALSE(decodeShape(encodeShape({Kind::kLine, {{{0, 0}, {0, value}}}}))) << value;
   }
 }
 
-TEST(DrawingShape, SurvivesEveryDamagedByte) {
+TEST(DrawingShapeTest, SurvivesEveryDamagedByte) {
   std::mt19937 random(1);
   for (const DrawingShape& shape : shapes()) {
     const std::string bytes = encodeShape(shape);

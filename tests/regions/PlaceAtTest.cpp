@@ -8,7 +8,7 @@ namespace {
 
 constexpr double kMetresPerDegree = 111195.08;
 
-TEST(PlaceAt, PrefersHouseThenStreetThenSettlement) {
+TEST(PlaceAtTest, PrefersHouseThenStreetThenSettlement) {
   // The long street has no corner anywhere near the places that are asked about.
   SmallIndex index({
       settlement("Ort", "Land", "Staat", {50, 10}, 5000),
@@ -36,7 +36,7 @@ TEST(PlaceAt, PrefersHouseThenStreetThenSettlement) {
   EXPECT_NEAR(place->coordinate.longitude, 10.05, 1e-6);
 }
 
-TEST(PlaceAt, WeighsDistanceAgainstPopulation) {
+TEST(PlaceAtTest, WeighsDistanceAgainstPopulation) {
   const auto east = [](double kilometres) { return kilometres * 1000 / kMetresPerDegree; };
   SmallIndex index({
       settlement("City", "", "A", {0, 0}, 1000000),
@@ -58,7 +58,7 @@ TEST(PlaceAt, WeighsDistanceAgainstPopulation) {
   }
 }
 
-TEST(PlaceAt, KnowsCountriesAtTheEndsOfTheMap) {
+TEST(PlaceAtTest, KnowsCountriesAtTheEndsOfTheMap) {
   Line antarctica;
   for (int longitude = -180; longitude < 180; longitude += 10) {
     antarctica.push_back({-70, static_cast<double>(longitude)});
@@ -84,7 +84,7 @@ TEST(PlaceAt, KnowsCountriesAtTheEndsOfTheMap) {
   }
 }
 
-TEST(PlaceAt, CrossesTheAntimeridianAndThePole) {
+TEST(PlaceAtTest, CrossesTheAntimeridianAndThePole) {
   SmallIndex index({
       settlement("West", "", "", {-17, 179.99}, 100),
       settlement("Polar", "", "", {89.95, 120}, 10),
@@ -98,7 +98,7 @@ TEST(PlaceAt, CrossesTheAntimeridianAndThePole) {
   EXPECT_EQ(index.at({20.0005, 0}), "-");
 }
 
-TEST(GroundGeometry, BoundsHoldEverythingAround) {
+TEST(GroundGeometryTest, BoundsHoldEverythingAround) {
   for (const double latitude : {-90.0, -89.95, -45.0, 0.0, 60.0, 89.99, 90.0}) {
     for (const double longitude : {-180.0, -179.99, 0.0, 179.99, 180.0}) {
       for (const double radius : {10.0, 300000.0}) {
@@ -119,7 +119,7 @@ TEST(GroundGeometry, BoundsHoldEverythingAround) {
   }
 }
 
-TEST(ShapeBlob, ComesBackToACentimetreAndRefusesRubbish) {
+TEST(ShapeBlobTest, ComesBackToACentimetreAndRefusesRubbish) {
   const std::vector<Line> shape = {{{90, -180}, {-90, 191.5}, {57.7072345, 11.9668123}}, {{0, 0}}};
   const auto bytes = encodeShape(shape);
   const auto back = decodeShape(bytes);

@@ -35,7 +35,7 @@ std::vector<IndexedPlace> someWorld() {
   return places;
 }
 
-TEST(PlaceSearch, FindsWhatAPersonMeans) {
+TEST(PlaceSearchTest, FindsWhatAPersonMeans) {
   SmallIndex index(someWorld());
   const std::pair<const char*, std::vector<const char*>> cases[] = {
       {"Paris, Île-de-France, France", {"Paris", "  pArIs "}},
@@ -64,7 +64,7 @@ TEST(PlaceSearch, FindsWhatAPersonMeans) {
   }
 }
 
-TEST(PlaceSearch, PrefersWhatIsNear) {
+TEST(PlaceSearchTest, PrefersWhatIsNear) {
   SmallIndex index(someWorld());
   const struct {
     const char* text;
@@ -89,7 +89,7 @@ TEST(PlaceSearch, PrefersWhatIsNear) {
 }
 
 // More namesakes than are ever looked at, so that the near one is not among the first.
-TEST(PlaceSearch, FindsTheNearOneAmongThousands) {
+TEST(PlaceSearchTest, FindsTheNearOneAmongThousands) {
   std::vector<IndexedPlace> places;
   for (int number = 0; number < 3000; ++number) {
     const double latitude = -60 + number * 0.04;
@@ -101,7 +101,7 @@ TEST(PlaceSearch, FindsTheNearOneAmongThousands) {
   EXPECT_EQ(index.best("hauptstraße", Coordinate{-60 + 2900 * 0.04, 10}), "Hauptstraße, Ort 2900");
 }
 
-TEST(PlaceSearch, TakesAnyText) {
+TEST(PlaceSearchTest, TakesAnyText) {
   SmallIndex index(someWorld());
   const std::string hostile[] = {
       "\"",
@@ -133,7 +133,7 @@ TEST(PlaceSearch, TakesAnyText) {
   EXPECT_EQ(index.best("paris\x01\ttexas"), "Paris, Texas, United States");
 }
 
-TEST(PlaceSearch, GivesOnePlaceOnceFromOverlappingRegions) {
+TEST(PlaceSearchTest, GivesOnePlaceOnceFromOverlappingRegions) {
   auto moved = someWorld();
   for (auto& place : moved) place.place.coordinate.latitude += 0.001;
   SmallIndex index({someWorld(), moved});
@@ -144,7 +144,7 @@ TEST(PlaceSearch, GivesOnePlaceOnceFromOverlappingRegions) {
   EXPECT_EQ(found[2].name, "Parisot");
 }
 
-TEST(PlaceSearch, LivesWithAFileWhoseContentIsDamaged) {
+TEST(PlaceSearchTest, LivesWithAFileWhoseContentIsDamaged) {
   SmallIndex whole(someWorld());
   const auto path = whole.folder().path() / "0.region";
   const auto size = std::filesystem::file_size(path);

@@ -1,7 +1,7 @@
 #include <memory>
 
-#include "platform/RegionDirections.h"
 #include "platform/RunLoop.h"
+#include "regions/RegionDirections.h"
 #include "regions/RegionWriter.h"
 #include "tests/regions/AsciiRoads.h"
 #include "tests/support/TemporaryFolder.h"
@@ -11,7 +11,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-class DirectionsOnRegions : public testing::Test {
+class DirectionsOnRegionsTest : public testing::Test {
  protected:
   void SetUp() override {
     auto writer = RegionWriter::create(mFolder.path() / "a.region", {"a", "", {0, 0, 2, 2}});
@@ -24,7 +24,7 @@ class DirectionsOnRegions : public testing::Test {
   RunLoop mLoop;
 };
 
-TEST_F(DirectionsOnRegions, AnswerInOrderOnTheMainThread) {
+TEST_F(DirectionsOnRegionsTest, AnswerInOrderOnTheMainThread) {
   RegionDirections directions(store(), mLoop);
   std::vector<DirectionsAnswer> answers;
   const auto keep = [&](const DirectionsAnswer& answer) {
@@ -49,7 +49,7 @@ TEST_F(DirectionsOnRegions, AnswerInOrderOnTheMainThread) {
 }
 
 // Destroyed at any moment: while a question waits, is being answered, or its answer is on the way.
-TEST_F(DirectionsOnRegions, CompleteNothingAfterTheirEnd) {
+TEST_F(DirectionsOnRegionsTest, CompleteNothingAfterTheirEnd) {
   for (int round = 0; round < 30; ++round) {
     auto directions = std::make_unique<RegionDirections>(store(), mLoop);
     bool isOver = false;

@@ -32,7 +32,7 @@ void writeFilledRegion(const fs::path& path) {
   ASSERT_TRUE(status) << status.failure().message;
 }
 
-TEST(RegionStore, FindsARegionAndWhatItSaysOfItself) {
+TEST(RegionStoreTest, FindsARegionAndWhatItSaysOfItself) {
   // Characters that mean something in a file address must not lead to another file.
   const TemporaryFolder folder;
   const fs::path path = folder.path() / "a b%20?mode=rwc#ü.region";
@@ -44,7 +44,7 @@ TEST(RegionStore, FindsARegionAndWhatItSaysOfItself) {
   EXPECT_TRUE(store.refused().empty());
 }
 
-TEST(RegionStore, RefusesByNameWhatItCannotUse) {
+TEST(RegionStoreTest, RefusesByNameWhatItCannotUse) {
   using Make = std::function<void(const fs::path&)>;
   const auto sql = [](const char* statements) -> Make {
     return [=](const fs::path& path) { (void)writeRegion(path, statements); };
@@ -90,7 +90,7 @@ TEST(RegionStore, RefusesByNameWhatItCannotUse) {
   }
 }
 
-TEST(RegionStore, SurvivesAFileCutAnywhere) {
+TEST(RegionStoreTest, SurvivesAFileCutAnywhere) {
   const TemporaryFolder folder;
   const fs::path whole = folder.path() / "whole";
   const fs::path path = folder.path() / "cut.region";
@@ -105,7 +105,7 @@ TEST(RegionStore, SurvivesAFileCutAnywhere) {
   }
 }
 
-TEST(RegionStore, PrefersTheFileOfTheFirstDirectory) {
+TEST(RegionStoreTest, PrefersTheFileOfTheFirstDirectory) {
   const TemporaryFolder own;
   const TemporaryFolder installed;
   for (const auto* folder : {&own, &installed}) writeFilledRegion(folder->path() / "same.region");
@@ -116,7 +116,7 @@ TEST(RegionStore, PrefersTheFileOfTheFirstDirectory) {
   EXPECT_EQ(store.regions()[1].path, installed.path() / "other.region");
 }
 
-TEST(RegionWriter, LeavesTheOldFileAndNothingElseWhenItIsNotCommitted) {
+TEST(RegionWriterTest, LeavesTheOldFileAndNothingElseWhenItIsNotCommitted) {
   const TemporaryFolder folder;
   const fs::path path = folder.path() / "kept.region";
   writeFilledRegion(path);
@@ -136,7 +136,7 @@ TEST(RegionWriter, LeavesTheOldFileAndNothingElseWhenItIsNotCommitted) {
   EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), {}), 1);
 }
 
-TEST(RegionWriter, RefusesWhatItsReaderWouldRefuse) {
+TEST(RegionWriterTest, RefusesWhatItsReaderWouldRefuse) {
   const TemporaryFolder folder;
   const std::vector<std::pair<std::string, RegionInfo>> cases = {
       {"name.db", kAlps},

@@ -1,5 +1,6 @@
 #include <random>
 
+#include "regions/RoadGraphBuilder.h"
 #include "regions/RoadGraphFile.h"
 #include "regions/RouterAnswer.h"
 #include "tests/regions/AsciiRoads.h"
@@ -21,7 +22,7 @@ const RoadNetwork kNetwork = {
     {{5, 6}, {-7, -8}, {9, 10}},
     {{0, 1, 1}, {2, 0, 0}}};
 
-TEST(RoadGraphFile, KeepsEveryField) {
+TEST(RoadGraphFileTest, KeepsEveryField) {
   for (const RoadNetwork& network : {kNetwork, RoadNetwork{}}) {
     Database database = databaseWith(network);
     const auto read = readRoads(database);
@@ -30,7 +31,7 @@ TEST(RoadGraphFile, KeepsEveryField) {
   }
 }
 
-TEST(RoadGraphFile, RefusesWhatLeadsNowhere) {
+TEST(RoadGraphFileTest, RefusesWhatLeadsNowhere) {
   const std::pair<const char*, const char*> cases[] = {
       {"UPDATE road_network SET data = x'00112233445566' WHERE part = 'bends'", "cut short"},
       {"UPDATE road_network SET data = x'0011223344' WHERE part = 'edges'", "cut short"},
@@ -53,8 +54,18 @@ TEST(RoadGraphFile, RefusesWhatLeadsNowhere) {
   }
 }
 
+TEST(RoadGraphFile, HoldsNoTurnsFromEachOfHundredsOfRoadsToEach) {
+  std::vector<RoadWay> ways;
+  RoadRules rules;
+  for (std::size_t way = 0; way < 300; ++way) {
+    ways.push_back({{{47, 9}, {47.001, 9 + 0.001 * static_cast<double>(way)}}, {true, true}});
+    rules.turns.push_back({way, (way + 1) % 300, {47, 9}, /*isOnly=*/true});
+  }
+  EXPECT_LT(roadNetwork(ways, rules).turns.size(), 300U);
+}
+
 // Whatever stands in the file, it is refused or drivable; the sanitizers watch.
-TEST(RoadGraphFile, SurvivesAnyBytes) {
+TEST(RoadGraphFileTest, SurvivesAnyBytes) {
   const AsciiRoads roads({"A->-B-C", "|   | |", "D---E-F"});
   std::mt19937 random(11);
   int refused = 0;
@@ -76,14 +87,14 @@ TEST(RoadGraphFile, SurvivesAnyBytes) {
     const RoadGraph graph(std::move(*network));
     for (const char letter : {'A', 'B', 'F'}) {
       const auto routes = routesOn(graph, roads.at('D'), roads.at(letter), 2);
-      EXPECT_TRUE(!routes || routes->front().line.size() >= 2) << "round " << round;
+      EXPECT_TRUE(!routes || routes->front().polyline.size() >= 2) << "round " << round;
     }
   }
   EXPECT_GT(refused, 100);
   EXPECT_LT(refused, 599);
 }
 
-TEST(RoadGraphBuilder, JoinsWaysOnlyWhereTheyShareAPosition) {
+TEST(RoadGraphBuilderTest, JoinsWaysOnlyWhereTheyShareAPosition) {
   const Line street{{1, 1}, {1, 1.001}, {1, 1.002}};
   const struct {
     Line other;

@@ -20,7 +20,7 @@ const Rows kResidents = {"A-B===C-D", "  |   |  ", "  E---F  "};
 const Rows kCourt = {"A-B=====C", "  |     |", "  |     |", "  E--X--F"};
 const Rows kTrap = {"A---B->-C", "|   |    ", "D---E    "};
 
-TEST(Router, DrivesAsDrawn) {
+TEST(RouterTest, DrivesAsDrawn) {
   const struct {
     Rows rows;
     char from, to;
@@ -38,7 +38,7 @@ TEST(Router, DrivesAsDrawn) {
     const RoadGraph graph(roads.network());
     const auto routes = routesOn(graph, roads.at(test.from), roads.at(test.to), 0);
     ASSERT_TRUE(routes) << test.passed << ": " << routes.message();
-    const std::string passed = roads.passed(routes->front().line);
+    const std::string passed = roads.passed(routes->front().polyline);
     EXPECT_EQ(passed, test.passed);
   }
 }
@@ -46,7 +46,7 @@ TEST(Router, DrivesAsDrawn) {
 const Rows kCross = {"    D    ", "    |    ", "A---B---C", "    |    ", "    E----F"};
 const Rows kGrid = {"A---B---C", "|   |   |", "D---E---F", "|   |   |", "G---H---I"};
 
-TEST(Router, MakesOnlyTurnsThatAreAllowed) {
+TEST(RouterTest, MakesOnlyTurnsThatAreAllowed) {
   const struct {
     Rows rows;
     std::vector<std::string> forbidden, only;
@@ -74,11 +74,11 @@ TEST(Router, MakesOnlyTurnsThatAreAllowed) {
     const RoadGraph graph(roads.network(test.forbidden, test.only));
     const auto routes = routesOn(graph, roads.at(test.from), roads.at(test.to), 0);
     ASSERT_TRUE(routes) << test.passed << ": " << routes.message();
-    EXPECT_EQ(roads.passed(routes->front().line), test.passed);
+    EXPECT_EQ(roads.passed(routes->front().polyline), test.passed);
   }
 }
 
-TEST(Router, GoesNoFurtherWhereNoTurnIsAllowed) {
+TEST(RouterTest, GoesNoFurtherWhereNoTurnIsAllowed) {
   // So far apart that neither end moves to the other road.
   const AsciiRoads roads({"A-----------B-----------C"});
   const RoadGraph graph(roads.network({"ABC", "ABA", "CBC"}));
@@ -86,10 +86,10 @@ TEST(Router, GoesNoFurtherWhereNoTurnIsAllowed) {
   EXPECT_EQ(there.message(), "no road leads from the start to the end");
   const auto back = routesOn(graph, cell(23, 0), cell(1, 0), 0);
   ASSERT_TRUE(back) << back.message();
-  EXPECT_EQ(roads.passed(back->front().line), "B");
+  EXPECT_EQ(roads.passed(back->front().polyline), "B");
 }
 
-TEST(Router, StopsAtBarriersAndTakesFerries) {
+TEST(RouterTest, StopsAtBarriersAndTakesFerries) {
   const struct {
     Rows rows;
     Coordinate from, to;
@@ -111,14 +111,14 @@ TEST(Router, StopsAtBarriersAndTakesFerries) {
     const RoadGraph graph(roads.network());
     const auto routes = routesOn(graph, test.from, test.to, 0);
     ASSERT_TRUE(routes) << test.passed << ": " << routes.message();
-    EXPECT_EQ(roads.passed(routes->front().line), test.passed);
+    EXPECT_EQ(roads.passed(routes->front().polyline), test.passed);
   }
 }
 
 const Rows kStreet = {"A-----B"};
 const Rows kIslet = {"A---B", "     ", "  X-Y"};
 
-TEST(Router, MovesBothEndsToTheNearestRoadThatLeadsThere) {
+TEST(RouterTest, MovesBothEndsToTheNearestRoadThatLeadsThere) {
   const struct {
     Rows rows;
     Coordinate from, to, first, last;
@@ -147,20 +147,20 @@ TEST(Router, MovesBothEndsToTheNearestRoadThatLeadsThere) {
     const auto routes = routesOn(graph, test.from, test.to, 0);
     ASSERT_TRUE(routes) << "case " << number << ": " << routes.message();
     const Route& route = routes->front();
-    EXPECT_LT(distanceMetres(route.line.front(), test.first), 0.1) << "case " << number;
-    EXPECT_LT(distanceMetres(route.line.back(), test.last), 0.1) << "case " << number;
-    EXPECT_EQ(roads.passed(route.line), test.passed) << "case " << number;
+    EXPECT_LT(distanceMetres(route.polyline.front(), test.first), 0.1) << "case " << number;
+    EXPECT_LT(distanceMetres(route.polyline.back(), test.last), 0.1) << "case " << number;
+    EXPECT_EQ(roads.passed(route.polyline), test.passed) << "case " << number;
     double metres = 0;
-    for (std::size_t index = 1; index < route.line.size(); ++index) {
-      metres += distanceMetres(route.line[index - 1], route.line[index]);
+    for (std::size_t index = 1; index < route.polyline.size(); ++index) {
+      metres += distanceMetres(route.polyline[index - 1], route.polyline[index]);
     }
-    EXPECT_NEAR(route.metres, metres, 0.01) << "case " << number;
-    EXPECT_NEAR(route.seconds, metres / (50 / 3.6), 0.01) << "case " << number;
+    EXPECT_NEAR(route.distanceMetres, metres, 0.01) << "case " << number;
+    EXPECT_NEAR(route.expectedSeconds, metres / (50 / 3.6), 0.01) << "case " << number;
     ++number;
   }
 }
 
-TEST(Router, FindsTheQuickestOfAllWays) {
+TEST(RouterTest, FindsTheQuickestOfAllWays) {
   std::mt19937 random(3);
   for (int round = 0; round < 40; ++round) {
     std::vector<RoadWay> ways;
@@ -191,19 +191,20 @@ TEST(Router, FindsTheQuickestOfAllWays) {
     for (std::size_t a = 0; a < count; ++a) {
       for (std::size_t b = 0; b < count; ++b) {
         const auto routes = routesOn(graph, places[a], places[b], 0);
-        if (!routes || a == b || distanceMetres(routes->front().line.front(), places[a]) > 0.01 ||
-            distanceMetres(routes->front().line.back(), places[b]) > 0.01) {
+        if (!routes || a == b ||
+            distanceMetres(routes->front().polyline.front(), places[a]) > 0.01 ||
+            distanceMetres(routes->front().polyline.back(), places[b]) > 0.01) {
           EXPECT_TRUE(a == b || seconds[a][b] == INFINITY) << round << ": " << a << " to " << b;
           continue;
         }
-        EXPECT_NEAR(routes->front().seconds, seconds[a][b], 0.01)
+        EXPECT_NEAR(routes->front().expectedSeconds, seconds[a][b], 0.01)
             << round << ": " << a << " to " << b;
       }
     }
   }
 }
 
-class RegionRoads : public testing::Test {
+class RegionRoadsTest : public testing::Test {
  protected:
   void write(const std::string& name, const RegionBounds& bounds, const RoadNetwork& network) {
     auto writer = RegionWriter::create(mFolder.path() / (name + ".region"), {name, "", bounds});
@@ -214,7 +215,7 @@ class RegionRoads : public testing::Test {
   TemporaryFolder mFolder;
 };
 
-TEST_F(RegionRoads, SayWhyThereIsNoRoute) {
+TEST_F(RegionRoadsTest, SayWhyThereIsNoRoute) {
   const AsciiRoads roads({"A---B", "|   |", "C---D"});
   std::vector<RoadWay> far = roads.ways();
   far.push_back({{{1.2, 1.2}, {1.21, 1.21}}, {}});
@@ -242,17 +243,17 @@ TEST_F(RegionRoads, SayWhyThereIsNoRoute) {
   }
 }
 
-TEST_F(RegionRoads, OfTheRegionThatKnowsTheNearestRoadAreDriven) {
+TEST_F(RegionRoadsTest, OfTheRegionThatKnowsTheNearestRoadAreDriven) {
   const AsciiRoads far({"A---B", "     ", "     ", "     ", "C---D"});
   write("small", {0.99, 0.99, 1.01, 1.01}, AsciiRoads({"A---B"}).network());
   write("large", {0.9, 0.9, 1.1, 1.1}, far.network());
   Router router(RegionStore({mFolder.path()}));
   const auto routes = router.plan(far.at('C'), far.at('D'), 0);
   ASSERT_TRUE(routes) << routes.message();
-  EXPECT_EQ(far.passed(routes->front().line), "CD");
+  EXPECT_EQ(far.passed(routes->front().polyline), "CD");
 }
 
-TEST_F(RegionRoads, AreRefusedWhenDamagedAndOthersServe) {
+TEST_F(RegionRoadsTest, AreRefusedWhenDamagedAndOthersServe) {
   const AsciiRoads roads({"A---B"});
   RoadNetwork damaged = roads.network();
   damaged.edges.front().to = 99;

@@ -5,7 +5,7 @@
 namespace wayloom {
 namespace {
 
-TEST(StreetMerger, JoinsPiecesOfAStreetButNotNamesakesElsewhere) {
+TEST(StreetMergerTest, JoinsPiecesOfAStreetButNotNamesakesElsewhere) {
   // A and its continuation beyond a square; a crossing street met half-way; the next town's A.
   auto streets = mergeStreets({
       {"A", {{50, 10}, {50, 10.01}}},

@@ -41,7 +41,7 @@ struct Gestures {
   QPointF panned;
 };
 
-TEST(GestureRecognizer, TellsTapsPansAndSwipes) {
+TEST(GestureRecognizerTest, TellsTapsPansAndSwipes) {
   const struct {
     const char* name;
     QPoint by;
@@ -66,7 +66,7 @@ TEST(GestureRecognizer, TellsTapsPansAndSwipes) {
   }
 }
 
-TEST(GestureRecognizer, EndsAPanWhoseFingerIsTaken) {
+TEST(GestureRecognizerTest, EndsAPanWhoseFingerIsTaken) {
   Gestures gestures;
   QTest::mousePress(&gestures.window, Qt::LeftButton, {}, {100, 100});
   QTest::mouseMove(&gestures.window, {100, 160});

@@ -14,7 +14,7 @@ bool waitFor(const std::function<bool()>& condition) {
   return QTest::qWaitFor(condition);
 }
 
-TEST(ViewFade, EndsWhatItInterrupts) {
+TEST(ViewFadeTest, EndsWhatItInterrupts) {
   const struct {
     std::string fades;
     bool isVisible;
@@ -38,7 +38,7 @@ TEST(ViewFade, EndsWhatItInterrupts) {
   }
 }
 
-TEST(ViewFade, EndsWithItsItem) {
+TEST(ViewFadeTest, EndsWithItsItem) {
   int completions = 0;
   auto item = std::make_unique<QQuickItem>();
   fadeShowAnimationDuration(*item, 0.01, [&] { ++completions; });

@@ -8,7 +8,7 @@ namespace {
 
 using Preset = void (*)(QQuickItem&);
 
-TEST(ViewResizing, FollowsTheParentByPreset) {
+TEST(ViewResizingTest, FollowsTheParentByPreset) {
   // In a parent of 200 x 100 that becomes 400 x 300.
   const struct {
     const char* name;

@@ -1,0 +1,73 @@
+#include <cstdlib>
+
+#include "platform/PreferredLanguages.h"
+#include "tests/support/TemporaryFolder.h"
+
+namespace wayloom {
+namespace {
+
+using testing::ElementsAreArray;
+
+class PreferredLanguagesTest : public testing::Test {
+ protected:
+  void SetUp() override { unsetenv("LC_MESSAGES"); }
+  void TearDown() override {
+    for (const char* variable : {"LANGUAGE", "LC_ALL", "LANG"}) unsetenv(variable);
+  }
+
+  TemporaryFolder folder;
+  const std::filesystem::path file = folder.path() / ".GlobalPreferences.plist";
+};
+
+TEST_F(PreferredLanguagesTest, AreThoseOfTheEnvironmentOnADesktop) {
+  const struct {
+    const char *language, *all, *lang;
+    std::vector<std::string> expected;
+  } cases[] = {{"", "", "sv_SE.UTF-8", {"sv-SE"}},
+               {"zh_Hans:en", "", "sv_SE", {"zh-Hans", "en"}},
+               {":C::sv_SE.UTF-8:de", "", "fr", {"sv-SE", "de"}},
+               {"", "zh_CN.UTF-8", "sv_SE", {"zh-Hans"}},
+               {"", "", "zh_HK", {"zh-Hant"}},
+               {"", "de_DE@euro", "sv", {"de-DE"}},
+               {"", "C", "fr", {"fr"}},
+               {"sv&key=1", "", "", {"en"}},
+               {"", "", "C.UTF-8", {"en"}},
+               {"", "POSIX", "", {"en"}}};
+  for (const auto& test : cases) {
+    setenv("LANGUAGE", test.language, 1);
+    setenv("LC_ALL", test.all, 1);
+    setenv("LANG", test.lang, 1);
+    EXPECT_THAT(preferredLanguages(file), ElementsAreArray(test.expected))
+        << test.language << '|' << test.all << '|' << test.lang;
+  }
+}
+
+TEST_F(PreferredLanguagesTest, AreThoseOfThePhoneWhateverAShellSays) {
+  setenv("LANGUAGE", "fr", 1);
+  setenv("LANG", "sv_SE", 1);
+  const std::string list = "<plist><dict><key>AppleLanguages</key>";
+  const struct {
+    std::string bytes;
+    std::vector<std::string> expected;
+  } cases[] = {
+      {list + "<array><string>zh-Hans</string><string>en</string></array></dict></plist>",
+       {"zh-Hans", "en"}},
+      {list + "<array><string>zh-Hans-CN</string></array></dict></plist>", {"zh-Hans-CN"}},
+      {list + "<array><integer>1</integer><string>a&amp;b=c</string><string/><string>ja</string>"
+              "</array></dict></plist>",
+       {"ja"}},
+      {list + "<array/></dict></plist>", {"en"}},
+      {list + "<string>de</string></dict></plist>", {"en"}},
+      {"<plist><dict/></plist>", {"en"}},
+      {"<plist><array/></plist>", {"en"}},
+      {"no property list", {"en"}},
+      {"", {"en"}},
+  };
+  for (const auto& test : cases) {
+    writeBytes(file, test.bytes);
+    EXPECT_THAT(preferredLanguages(file), ElementsAreArray(test.expected)) << test.bytes;
+  }
+}
+
+}  // namespace
+}  // namespace wayloom

@@ -6,8 +6,8 @@
 #include <QtGui/QImage>
 #include <QtGui/QImageReader>
 
+#include "geo/MapRegion.h"
 #include "route/RouteSimulation.h"
-#include "ui/MapRegion.h"
 
 namespace wayloom {
 
@@ -70,6 +70,7 @@ void PathPlan::complete(Coordinate source, Coordinate destination, const Directi
   }
   const std::vector<Coordinate>& path = answer.routes.front().polyline;
   *mPoints = RoutePoints::planned(path);
+  Q_EMIT planned();
   if (!mMapView) return;
   buildStart();
   buildEnd();

@@ -39,6 +39,8 @@ class PathPlan : public QObject {
  Q_SIGNALS:
   void started();
   void ended();
+  /// There is a new path.
+  void planned();
 
  private:
   void findDirectionsFromTo(Coordinate source, Coordinate destination);

@@ -6,65 +6,58 @@
 
 namespace wayloom {
 
-namespace {
-
-constexpr const char* kPointsKey = "points";
-
-Status write(SettingsFiles& files, PropertyList::Dictionary entries,
-             const std::optional<RoutePoints>& points) {
-  if (points) entries.insert_or_assign(kPointsKey, points->records());
-  return files.save(SettingsFile::Route, std::move(entries));
-}
-
-}  // namespace
-
-const PropertyList* RoutePreferences::find(const char* key) const {
-  const auto found = entries.find(key);
-  return found == entries.end() ? nullptr : &found->second;
-}
-
 bool RoutePreferences::enabled() const {
-  return boolValue(find("enable"));
+  return boolValue(valueOf(entries, "enable"));
 }
 
 std::int32_t RoutePreferences::start() const {
-  return intValue(find("start"));
+  return intValue(valueOf(entries, "start"));
 }
 
 std::int32_t RoutePreferences::end() const {
-  return intValue(find("end"));
+  return intValue(valueOf(entries, "end"));
 }
 
 std::string RoutePreferences::text(const char* key) const {
-  const PropertyList* value = find(key);
+  const PropertyList* value = valueOf(entries, key);
   const auto* text = value ? value->get<std::string>() : nullptr;
   return text ? *text : std::string();
 }
 
-RoutePreferences RouteFile::load() const {
-  waitUntilSaved();
-  RoutePreferences preferences;
+Result<RoutePreferences> RouteFile::load() const {
   auto settings = mFiles.loadDictionary(SettingsFile::Route);
-  if (!settings) return preferences;
-  preferences.entries = std::move(*settings);
-  if (auto points = preferences.entries.extract(kPointsKey)) {
+  if (!settings) return settings.failure();
+  RoutePreferences preferences;
+  if (!*settings) return preferences;
+  preferences.entries = std::move(**settings);
+  preferences.version = mFiles.seenVersion(SettingsFile::Route);
+  if (auto points = preferences.entries.extract("points")) {
     preferences.points =
         std::make_shared<RoutePoints>(RoutePoints::stored(std::move(points.mapped())));
   }
   return preferences;
 }
 
-Status RouteFile::save(const RoutePreferences& preferences) {
-  const auto points = preferences.points ? std::optional(*preferences.points) : std::nullopt;
-  if (!mSaves) return write(mFiles, preferences.entries, points);
-  mSaves->post([&files = mFiles, entries = preferences.entries, points] {
-    (void)write(files, entries, points);
-  });
-  return done();
+Result<RoutePreferences> RouteFile::change(RoutePreferences known, const RouteChange& change) {
+  const auto turn = mFiles.takeTurn();
+  if (!turn) return turn.failure();
+  if (known.version != mFiles.currentVersion(SettingsFile::Route)) {
+    auto current = load();
+    if (!current) return current.failure();
+    if (!current->isEmpty()) known = std::move(*current);
+  }
+  for (const auto& [key, value] : change.entries) known.entries.insert_or_assign(key, value);
+  if (change.points) known.points = std::make_shared<RoutePoints>(*change.points);
+  if (Status saved = save(known); !saved) return saved.failure();
+  known.version = mFiles.seenVersion(SettingsFile::Route);
+  return known;
 }
 
-void RouteFile::waitUntilSaved() const {
-  if (mSaves) mSaves->waitUntilDone();
+Status RouteFile::save(const RoutePreferences& preferences) {
+  if (!preferences.points) return mFiles.save(SettingsFile::Route, preferences.entries);
+  SerializedPropertyList list = serializeWith(preferences.points->entry(), preferences.entries);
+  if (list.bytes) return mFiles.saveBytes(SettingsFile::Route, *list.bytes);
+  return failed("cannot write " + mFiles.path(SettingsFile::Route).string() + ": " + list.problem);
 }
 
 }  // namespace wayloom

@@ -2,12 +2,13 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "route/RoutePoints.h"
+#include "settings/ReadFile.h"
 #include "settings/Result.h"
 #include "settings/SettingsFiles.h"
-#include "settings/WorkQueue.h"
 
 namespace wayloom {
 
@@ -18,38 +19,45 @@ struct RoutePreferences {
   /// Null when the file has no such entry. After turning on it is the list of the screen that
   /// turned on, which a new plan refills.
   std::shared_ptr<RoutePoints> points;
+  /// Which file it was read from, or written to.
+  std::optional<FileVersion> version = std::nullopt;
 
   bool isEmpty() const { return entries.empty() && !points; }
   bool enabled() const;
   /// Seconds since 1970, as every reader of the file takes them.
   std::int32_t start() const;
   std::int32_t end() const;
-  /// An entry that is a text; empty for every other.
-  std::string text(const char* key) const;
+  /// The addresses of both ends; empty when they are missing or no texts.
+  std::string startText() const { return text("s"); }
+  std::string endText() const { return text("e"); }
 
  private:
-  const PropertyList* find(const char* key) const;
+  std::string text(const char* key) const;
 };
 
-/// The route file, read and replaced whole. Main thread only.
+/// Entries to set in a route file, and the points if they change too.
+struct RouteChange {
+  PropertyList::Dictionary entries;
+  std::optional<RoutePoints> points;
+};
+
+/// The route file, read and replaced whole. One thread at a time.
 class RouteFile {
  public:
-  /// With `saves` the file is written there, so that a long path holds up nobody; reading waits for
-  /// what is still being written. Both must outlive this object.
-  explicit RouteFile(SettingsFiles& files, WorkQueue* saves = nullptr)
-      : mFiles(files), mSaves(saves) {}
+  /// `files` must outlive this object.
+  explicit RouteFile(SettingsFiles& files) : mFiles(files) {}
 
   /// Nothing of a missing or damaged file.
-  RoutePreferences load() const;
+  Result<RoutePreferences> load() const;
 
-  /// Written behind the caller's back, it always goes well.
-  Status save(const RoutePreferences& preferences);
-
-  void waitUntilSaved() const;
+  /// Makes a change to the file as it is now, which is only read when it is not the version of
+  /// `known`; where there is no file, to `known` itself. Answers what the file then holds.
+  Result<RoutePreferences> change(RoutePreferences known, const RouteChange& change);
 
  private:
+  Status save(const RoutePreferences& preferences);
+
   SettingsFiles& mFiles;
-  WorkQueue* mSaves;
 };
 
 }  // namespace wayloom

@@ -144,4 +144,10 @@ Rectangle {
         height: 1
         color: FlatPalette.separator
     }
+
+    StatusLine {
+        anchors.top: parent.bottom
+        width: parent.width
+        text: panel.controller.statusText
+    }
 }

@@ -1,6 +1,8 @@
 #include "route/RoutePoints.h"
 
+#include <mutex>
 #include <utility>
+#include <variant>
 
 #include "settings/TextConversions.h"
 
@@ -8,53 +10,71 @@ namespace wayloom {
 
 namespace {
 
+constexpr const char* kPointsKey = "points";
 constexpr const char* kLatitudeKey = "lat";
 constexpr const char* kLongitudeKey = "lng";
 
-double numberIn(const PropertyList::Dictionary& record, const char* key) {
-  const auto found = record.find(key);
-  return doubleValue(found == record.end() ? nullptr : &found->second);
+using Path = std::vector<Coordinate>;
+
+PropertyList recordOf(const Coordinate& point) {
+  return PropertyList::Dictionary{{kLatitudeKey, point.latitude}, {kLongitudeKey, point.longitude}};
+}
+
+PreparedEntry entryOf(const Path& path) {
+  return prepareEntry(kPointsKey, path.size(),
+                      [&](std::size_t index) { return recordOf(path[index]); });
 }
 
 }  // namespace
 
+struct RoutePoints::Content {
+  explicit Content(std::variant<Path, PropertyList> given) : records(std::move(given)) {}
+
+  const Path* planned() const { return std::get_if<Path>(&records); }
+  const PropertyList::Array* stored() const {
+    const auto* list = std::get_if<PropertyList>(&records);
+    return list ? list->get<PropertyList::Array>() : nullptr;
+  }
+
+  std::variant<Path, PropertyList> records;
+  mutable std::once_flag isPrepared;
+  mutable PreparedEntry entry;
+};
+
+RoutePoints::RoutePoints() : RoutePoints(std::make_shared<const Content>(Path())) {}
+
+RoutePoints::RoutePoints(std::shared_ptr<const Content> content) : mContent(std::move(content)) {}
+
 RoutePoints RoutePoints::stored(PropertyList records) {
-  RoutePoints points;
-  points.mStored = std::make_shared<const PropertyList>(std::move(records));
-  return points;
+  return RoutePoints(std::make_shared<const Content>(std::move(records)));
 }
 
-RoutePoints RoutePoints::planned(std::vector<Coordinate> path) {
-  RoutePoints points;
-  points.mPlanned = std::make_shared<const std::vector<Coordinate>>(std::move(path));
-  return points;
+RoutePoints RoutePoints::planned(Path path) {
+  return RoutePoints(std::make_shared<const Content>(std::move(path)));
 }
 
 std::size_t RoutePoints::count() const {
-  if (mPlanned) return mPlanned->size();
-  const auto* records = mStored ? mStored->get<PropertyList::Array>() : nullptr;
+  if (const Path* path = mContent->planned()) return path->size();
+  const auto* records = mContent->stored();
   return records ? records->size() : 0;
 }
 
 Coordinate RoutePoints::at(std::size_t index) const {
   if (index >= count()) return {};
-  if (mPlanned) return (*mPlanned)[index];
-  const PropertyList& entry = (*mStored->get<PropertyList::Array>())[index];
-  const auto* record = entry.get<PropertyList::Dictionary>();
+  if (const Path* path = mContent->planned()) return (*path)[index];
+  const auto* record = (*mContent->stored())[index].get<PropertyList::Dictionary>();
   if (!record) return {};
-  return {numberIn(*record, kLatitudeKey), numberIn(*record, kLongitudeKey)};
+  return {doubleValue(valueOf(*record, kLatitudeKey)),
+          doubleValue(valueOf(*record, kLongitudeKey))};
 }
 
-PropertyList RoutePoints::records() const {
-  if (mStored) return *mStored;
-  PropertyList::Array records;
-  if (!mPlanned) return records;
-  records.reserve(mPlanned->size());
-  for (const Coordinate& point : *mPlanned) {
-    records.emplace_back(
-        PropertyList::Dictionary{{kLatitudeKey, point.latitude}, {kLongitudeKey, point.longitude}});
-  }
-  return records;
+const PreparedEntry& RoutePoints::entry() const {
+  std::call_once(mContent->isPrepared, [this] {
+    const Path* path = mContent->planned();
+    mContent->entry =
+        path ? entryOf(*path) : prepareEntry(kPointsKey, std::get<PropertyList>(mContent->records));
+  });
+  return mContent->entry;
 }
 
 }  // namespace wayloom

@@ -4,8 +4,8 @@
 #include <memory>
 #include <vector>
 
-#include "places/Coordinate.h"
-#include "settings/PropertyList.h"
+#include "geo/Coordinate.h"
+#include "settings/PropertyListFormat.h"
 
 namespace wayloom {
 
@@ -14,7 +14,8 @@ namespace wayloom {
 /// copies may be used on any thread.
 class RoutePoints {
  public:
-  RoutePoints() = default;
+  /// No records.
+  RoutePoints();
 
   /// What a route file holds under "points"; it is kept as it is, whatever it is.
   static RoutePoints stored(PropertyList records);
@@ -30,12 +31,16 @@ class RoutePoints {
   Coordinate first() const { return at(0); }
   Coordinate last() const { return at(count() - 1); }
 
-  /// The records as a route file holds them.
-  PropertyList records() const;
+  /// The route file's entry for the records. It is made when first asked for, which takes about a
+  /// second for a million records, and kept; a thread that asks meanwhile waits.
+  const PreparedEntry& entry() const;
 
  private:
-  std::shared_ptr<const PropertyList> mStored;
-  std::shared_ptr<const std::vector<Coordinate>> mPlanned;
+  struct Content;
+
+  explicit RoutePoints(std::shared_ptr<const Content> content);
+
+  std::shared_ptr<const Content> mContent;
 };
 
 }  // namespace wayloom

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "places/Coordinate.h"
+#include "geo/Coordinate.h"
 #include "route/RouteFile.h"
 
 namespace wayloom {

@@ -5,6 +5,7 @@
 
 #include <QtCore/QDateTime>
 
+#include "kit/FailureText.h"
 #include "kit/LocalizedText.h"
 #include "kit/ShownText.h"
 #include "map/ShownPoint.h"
@@ -16,9 +17,6 @@ namespace {
 
 constexpr std::chrono::seconds kTick{1};
 
-/// Write results are for the command line; on the screen the files themselves tell.
-void ignore(const Status& /*result*/) {}
-
 QString timeText(double secondsSince1970) {
   return QDateTime::fromSecsSinceEpoch(static_cast<qint64>(secondsSince1970))
       .toString(QStringLiteral("MM-dd HH:mm"));
@@ -29,12 +27,13 @@ QString timeText(double secondsSince1970) {
 WayloomViewController::WayloomViewController(const Services& services, QObject* parent)
     : BaseViewController(parent),
       mServices(services),
-      mSimulation(services.files, services.clock, &services.saves),
+      mSimulation(services.files, services.clock, services.background),
       mPlan(services.directions, this) {
   mTimer.setInterval(kTick);
   connect(&mTimer, &QTimer::timeout, this, &WayloomViewController::refreshLocation);
   connect(&mPlan, &PathPlan::started, this, [this] { showHUDView(); });
   connect(&mPlan, &PathPlan::ended, this, [this] { hideHUDView(); });
+  connect(&mPlan, &PathPlan::planned, this, [this] { mSimulation.prepare(*mPlan.points()); });
   connect(&dp_drive, &DatePicker::valueChanged, this, [this] {
     if (mView.pickerShown) pickerValueChanged();
   });
@@ -60,7 +59,8 @@ void WayloomViewController::viewDidLoad(MapView* map) {
   });
   dp_drive.start(mServices.clock.secondsSince1970());
 
-  mSimulation.refresh();
+  report(mSimulation.refresh());
+  mShownVersion = mSimulation.preferences().version;
   const bool isOn = mSimulation.preferences().enabled();
   update([&](View& view) {
     view.enabled = isOn;
@@ -85,8 +85,8 @@ void WayloomViewController::restore() {
   up();
   update([&](View& view) {
     view.tipText = localizedText("Wayloom is working");
-    view.startText = shownText(preferences.text("s"));
-    view.endText = shownText(preferences.text("e"));
+    view.startText = shownText(preferences.startText());
+    view.endText = shownText(preferences.endText());
     view.startTimeText = timeText(mStartTime);
     view.endTimeText = timeText(mEndTime);
   });
@@ -95,8 +95,32 @@ void WayloomViewController::restore() {
 }
 
 void WayloomViewController::viewWillAppear() {
-  mSimulation.refresh();
+  report(mSimulation.refresh());
+  showSwitch();
+}
+
+void WayloomViewController::followFiles() {
+  if (!mv_main || mSimulation.isWriting()) return;
+  if (!mSimulation.isCurrent()) report(mSimulation.refresh());
+  const RoutePreferences& preferences = mSimulation.preferences();
+  if (std::exchange(mShownVersion, preferences.version) == preferences.version) return;
+  showSwitch();
+  if (preferences.enabled()) {
+    restore();
+  } else if (mTimer.isActive()) {
+    endDrive();
+  }
+}
+
+void WayloomViewController::showSwitch() {
+  if (mSimulation.isWriting()) return;
   update([this](View& view) { view.enabled = mSimulation.preferences().enabled(); });
+}
+
+bool WayloomViewController::report(const Status& status) {
+  const QString text = failureText(status, mServices.alerts);
+  update([&](View& view) { view.statusText = text; });
+  return static_cast<bool>(status);
 }
 
 void WayloomViewController::setEnable(bool on) {
@@ -118,28 +142,44 @@ RouteChoices WayloomViewController::choices() const {
 }
 
 void WayloomViewController::turnOn() {
-  const char* refusal = refusalToTurnOn(choices(), *mPlan.points(), mPlan.isRouteError());
-  if (refusal) {
-    mServices.alerts.show("", refusal, "OK");
-    update([](View& view) { view.enabled = false; });
-    return;
-  }
-  mStartTime = startTimeFrom(choices(), mSimulation.now());
+  mSimulation.turnOn(choices(), mPlan.points(), mPlan.isRouteError(),
+                     [this](const Result<double>& startTime) { turnedOn(startTime); });
+  if (mSimulation.isWriting()) showHUDView();
+}
+
+void WayloomViewController::turnedOn(const Result<double>& startTime) {
+  if (!mSimulation.isWriting()) hideHUDView();
+  report(startTime.status());
+  showSwitch();
+  mShownVersion = mSimulation.preferences().version;
+  if (!mView.enabled) return;
+  mStartTime = startTime ? *startTime : mSimulation.preferences().start();
   update([](View& view) { view.tipText = localizedText("Wayloom is working"); });
   up();
   drawMapLine();
-  ignore(mSimulation.turnOn(choices(), mPlan.points()));
   mTimer.start();
 }
 
 void WayloomViewController::turnOff() {
+  mSimulation.turnOff([this](const Status& status) { turnedOff(status); });
+  if (mSimulation.isWriting()) showHUDView();
+}
+
+void WayloomViewController::turnedOff(const Status& status) {
+  if (!mSimulation.isWriting()) hideHUDView();
+  report(status);
+  showSwitch();
+  mShownVersion = mSimulation.preferences().version;
+  if (!mView.enabled) endDrive();
+}
+
+void WayloomViewController::endDrive() {
   update([](View& view) { view.tipText.clear(); });
   down();
   mPlan.cleanPath();
   mPlan.cleanStart();
   mPlan.cleanEnd();
   if (mv_main) mv_main->setShowsUserLocation(false);
-  ignore(mSimulation.turnOff());
   mTimer.stop();
 }
 
@@ -159,12 +199,9 @@ void WayloomViewController::drawMapLine() {
 }
 
 void WayloomViewController::exchange() {
-  if (const char* refusal = mSimulation.refusalToLeave()) {
-    mServices.alerts.show("", refusal, "OK");
-    return;
-  }
-  ignore(mSimulation.leaveForFixedLocation());
-  mServices.screens.changeToLocation();
+  const Status left = mSimulation.leaveForFixedLocation();
+  report(left);
+  if (isLeft(mServices.files, Mode::Route, left)) mServices.screens.changeToLocation();
 }
 
 void WayloomViewController::showInfoView() {

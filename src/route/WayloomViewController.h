@@ -5,9 +5,9 @@
 #include <QtCore/QPointer>
 #include <QtCore/QTimer>
 
-#include "app/BaseViewController.h"
-#include "app/ScreenSwitcher.h"
+#include "kit/BaseViewController.h"
 #include "kit/DatePicker.h"
+#include "kit/ScreenSwitcher.h"
 #include "map/MapView.h"
 #include "places/LocationClass.h"
 #include "platform/Alerts.h"
@@ -31,14 +31,15 @@ class WayloomViewController : public wayloom::BaseViewController, public Locatio
   Q_PROPERTY(QString startTimeText READ startTimeText NOTIFY changed)
   Q_PROPERTY(QString endTimeText READ endTimeText NOTIFY changed)
   Q_PROPERTY(QString tipText READ tipText NOTIFY changed)
+  Q_PROPERTY(QString statusText READ statusText NOTIFY changed)
   Q_PROPERTY(wayloom::DatePicker* picker READ picker CONSTANT)
 
  public:
   struct Services {
     SettingsFiles& files;
     const Clock& clock;
-    /// Where the route file is written.
-    WorkQueue& saves;
+    /// Where and how the files of long drives are written.
+    RouteSimulation::Background background;
     Directions& directions;
     LocationClass& location;
     Alerts& alerts;
@@ -53,6 +54,9 @@ class WayloomViewController : public wayloom::BaseViewController, public Locatio
   bool isViewLoaded() const { return mv_main; }
   /// The screen appears, or the application came to the front while it is the current one.
   void viewWillAppear();
+  /// Another program may have changed the route file: a drive that was turned on there goes on here
+  /// as after a start, one that was turned off ends.
+  void followFiles() override;
 
   Q_INVOKABLE void setEnable(bool on);
   /// Shows where the drive is now.
@@ -87,6 +91,7 @@ class WayloomViewController : public wayloom::BaseViewController, public Locatio
   QString startTimeText() const { return mView.startTimeText; }
   QString endTimeText() const { return mView.endTimeText; }
   QString tipText() const { return mView.tipText; }
+  QString statusText() const { return mView.statusText; }
   DatePicker* picker() { return &dp_drive; }
 
  Q_SIGNALS:
@@ -103,6 +108,7 @@ class WayloomViewController : public wayloom::BaseViewController, public Locatio
     QString startTimeText;
     QString endTimeText;
     QString tipText;
+    QString statusText;
 
     bool operator==(const View&) const = default;
   };
@@ -112,7 +118,16 @@ class WayloomViewController : public wayloom::BaseViewController, public Locatio
   void update(Change&& change);
 
   void turnOn();
+  void turnedOn(const Result<double>& startTime);
   void turnOff();
+  void turnedOff(const Status& status);
+  /// What shows a drive goes.
+  void endDrive();
+  /// Shows what kept something from being done: a rule in an alert, anything else in the status
+  /// line, which a success clears. True after a success.
+  bool report(const Status& status);
+  /// The switch shows what the file says.
+  void showSwitch();
   void restore();
   void follow(std::optional<Coordinate> position);
   void drawMapLine();
@@ -129,6 +144,8 @@ class WayloomViewController : public wayloom::BaseViewController, public Locatio
   QTimer mTimer;
   View mView;
 
+  /// The drive's file that tip, panel, path and timer belong to.
+  std::optional<FileVersion> mShownVersion;
   bool mIsStart = true;
   Coordinate mStartCoordinate;
   Coordinate mEndCoordinate;

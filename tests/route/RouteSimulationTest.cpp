@@ -35,18 +35,20 @@ class RouteSimulationTest : public testing::Test {
   TemporaryRoot root;
   SettingsFiles files{root.path()};
   FakeClock clock;
-  WorkQueue saves;
-  RouteSimulation simulation{files, clock, &saves};
+  RouteSimulation simulation{files, clock};
 
-  PropertyList::Dictionary stored() {
-    saves.waitUntilDone();
-    return files.loadDictionary(SettingsFile::Route).value_or(PropertyList::Dictionary());
+  Status turnOn(const std::shared_ptr<RoutePoints>& points) {
+    Status result = failed("no answer");
+    simulation.turnOn(kChosen, points, false,
+                      [&](const Result<double>& startTime) { result = startTime.status(); });
+    return result;
   }
 };
 
 TEST_F(RouteSimulationTest, ANewPlanIsFollowedFromTheSharedList) {
   auto points = path();
-  ASSERT_TRUE(simulation.turnOn(kChosen, points));
+  clock.seconds = 1000;
+  ASSERT_TRUE(turnOn(points));
   clock.seconds = 1999.9;
   EXPECT_EQ(simulation.position(), (Coordinate{57.8, 12}));
   *points = RoutePoints::planned({{1, 1}, {2, 2}});

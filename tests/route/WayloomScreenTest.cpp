@@ -2,6 +2,7 @@
 
 #include "map/MapView.h"
 #include "places/SelectAddressViewController.h"
+#include "platform/QtMainQueue.h"
 #include "route/WayloomViewController.h"
 #include "settings/ModeSwitch.h"
 #include "tests/support/ScreenHarness.h"
@@ -16,7 +17,11 @@ constexpr double kNow = 1'700'000'000;
 const std::vector<Coordinate> kPath = {{57.70, 11.90}, {57.71, 11.95}, {57.72, 12.00}};
 
 PropertyList records(const std::vector<Coordinate>& path) {
-  return RoutePoints::planned(path).records();
+  PropertyList::Array records;
+  for (const Coordinate& point : path) {
+    records.push_back(Dictionary{{"lat", point.latitude}, {"lng", point.longitude}});
+  }
+  return records;
 }
 
 Dictionary activeFile() {
@@ -63,7 +68,7 @@ class WayloomScreenTest : public testing::Test {
     screen.view.setSource({});
     controller.emplace(WayloomViewController::Services{.files = screen.files,
                                                        .clock = clock,
-                                                       .saves = saves,
+                                                       .background = {saves, mainQueue},
                                                        .directions = directions,
                                                        .location = screen.location,
                                                        .alerts = screen.alerts,
@@ -83,8 +88,7 @@ class WayloomScreenTest : public testing::Test {
   void TearDown() override { screen.view.setSource({}); }
 
   Dictionary stored() {
-    saves.waitUntilDone();
-    return screen.files.loadDictionary(SettingsFile::Route).value_or(Dictionary());
+    return dictionaryIn(screen.files, SettingsFile::Route).value_or(Dictionary());
   }
   QString textOf(const char* objectName) const {
     return screen.find(objectName)->property("text").toString();
@@ -137,6 +141,7 @@ class WayloomScreenTest : public testing::Test {
   ScreenHarness screen;
   FakeClock clock;
   WorkQueue saves;
+  QtMainQueue mainQueue;
   FakeDirections directions;
   RouteScreens screens{screen};
   std::optional<WayloomViewController> controller;
@@ -230,6 +235,29 @@ TEST_F(WayloomScreenTest, TheWholeStoryFromAnEmptyScreenToTheNextStart) {
   EXPECT_TRUE(map->overlays().empty());
 }
 
+TEST_F(WayloomScreenTest, ADriveThatCannotBeWrittenIsNotShownAsOn) {
+  open();
+  pick("lb_start", {57.7, 11.9}, "A place");
+  pick("lb_end", {57.72, 12.0}, "Another");
+  answerDirections(kPath);
+  for (const char* label : {"lb_startTime", "lb_endTime"}) {
+    chooseTime(label);
+    closePicker();
+  }
+  screen.system.fault = {"write", screen.system.calls["write"] + 1, ENOSPC};
+  screen.click("enableSwitch");
+  EXPECT_TRUE(screen.system.hasFailed);
+  EXPECT_FALSE(isOn());
+  EXPECT_EQ(textOf("lb_tip"), "");
+  EXPECT_GT(panelBottom(), 200);
+  EXPECT_TRUE(textOf("statusLine").contains("No space left")) << qPrintable(textOf("statusLine"));
+  EXPECT_TRUE(stored().empty());
+
+  screen.click("enableSwitch");
+  EXPECT_TRUE(isOn());
+  EXPECT_EQ(textOf("statusLine"), "");
+}
+
 TEST_F(WayloomScreenTest, WhileItDrivesEveryChoiceIsRefused) {
   open(activeFile());
   EXPECT_EQ(screen.position, nullptr);
@@ -287,6 +315,46 @@ TEST_F(WayloomScreenTest, AWheelThatStillRunsChoosesNothingAfterThePickerIsClose
   EXPECT_EQ(textOf("lb_endTime"), shown(kNow));
 }
 
+TEST_F(WayloomScreenTest, TheWheelsCarryThroughTheNightInWhichTheClocksGoBack) {
+  const struct Zone {
+    explicit Zone(const char* name) { set(name); }
+    ~Zone() { set("UTC"); }
+    static void set(const char* name) {
+      setenv("TZ", name, 1);
+      tzset();
+    }
+  } stockholm("CET-1CEST,M3.5.0,M10.5.0/3");
+  clock.seconds = 1'792'879'140;  // 2026-10-24 23:59, two minutes before a day of 25 hours.
+  open();
+  chooseTime("lb_startTime");
+  const auto turn = [&](Qt::Key key, int times) {
+    for (int time = 0; time < times; ++time) QTest::keyClick(&screen.view, key);
+  };
+  const auto rows = [&] {
+    std::string texts;
+    for (const char* wheel : {"dayWheel", "hourWheel", "minuteWheel"}) {
+      const QObject* item = screen.find(wheel)->property("currentItem").value<QObject*>();
+      texts += (item ? item->property("text").toString().toStdString() : "none") + '|';
+    }
+    return texts;
+  };
+  turn(Qt::Key_Right, 2);
+  turn(Qt::Key_Down, 1);
+  EXPECT_EQ(textOf("lb_startTime"), "10-25 00:00");
+  EXPECT_EQ(rows(), "Sun 25 Oct|00|00|");
+  QTest::keyClick(&screen.view, Qt::Key_Backtab);
+  turn(Qt::Key_Down, 2);
+  EXPECT_EQ(rows(), "Sun 25 Oct|02 CEST|00|");
+  turn(Qt::Key_Down, 1);
+  EXPECT_EQ(rows(), "Sun 25 Oct|02 CET|00|");
+  EXPECT_EQ(controller->picker()->date(), 1'792'879'200 + 3 * 3600);
+  turn(Qt::Key_Down, 22);
+  EXPECT_EQ(textOf("lb_startTime"), "10-26 00:00");
+  EXPECT_EQ(screen.find("hourWheel")->property("count"), 24);
+  turn(Qt::Key_Up, 1);
+  EXPECT_EQ(rows(), "Sun 25 Oct|23|00|");
+}
+
 TEST_F(WayloomScreenTest, TheOneOverlayMovesBetweenViewAndWindow) {
   open();
   controller->showHUDView();
@@ -321,6 +389,24 @@ TEST_F(WayloomScreenTest, HostileRouteFilesStopNothingAndStayAsTheyAre) {
     EXPECT_TRUE(std::isfinite(map->region().center.latitude)) << "file " << number;
     EXPECT_EQ(stored(), file) << "file " << number;
   }
+}
+
+TEST_F(WayloomScreenTest, ThePickerZoomsAboutItsPinAndTheRouteMapAboutThePointer) {
+  open();
+  map->setRegion(regionWithDistance({57.7, 11.97}, 2000, 2000), Animated::No);
+  const auto metresMoved = [](const MapView& view, Coordinate before) {
+    return std::abs(view.region().center.latitude - before.latitude) * 111'195;
+  };
+  Coordinate before = map->region().center;
+  screen.wheel("mv_main", {20, 20}, 2);
+  EXPECT_GT(metresMoved(*map, before), 100);
+
+  screen.click("lb_start");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return screen.find("buttonBar") != nullptr; }));
+  auto* picker = qobject_cast<MapView*>(screen.find("mainMapView"));
+  before = picker->region().center;
+  screen.wheel("mainMapView", {20, 20}, 2);
+  EXPECT_LT(metresMoved(*picker, before), 1);
 }
 
 TEST_F(WayloomScreenTest, ThePickerHandsBackOnlyWhatHasAnAddressAndACancelNothing) {

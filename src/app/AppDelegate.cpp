@@ -5,11 +5,11 @@
 #include <QtGui/QGuiApplication>
 #include <QtQml/QQmlEngine>
 
+#include "info/InfoViewController.h"
 #include "lists/ApplicationIcons.h"
 #include "lists/FavoritesViewController.h"
 #include "places/SelectAddressViewController.h"
-#include "platform/PreferredLanguage.h"
-#include "ui/InfoViewController.h"
+#include "platform/PreferredLanguages.h"
 
 namespace wayloom {
 
@@ -28,12 +28,13 @@ AppDelegate::AppDelegate(AppServices& services)
                           .tiles = services.tiles}),
       wayloomController({.files = services.files,
                          .clock = services.clock,
-                         .saves = services.saves,
+                         .background = {services.saves, services.mainQueue},
                          .directions = services.directions,
                          .location = services.location,
                          .alerts = services.alerts,
                          .screens = *this,
-                         .tiles = services.tiles}) {
+                         .tiles = services.tiles}),
+      mWatch(services.files.path(SettingsFile::Master).parent_path()) {
   mWindow.setTitle(QStringLiteral("Wayloom"));
   mWindow.setMinimumSize(kSmallestSize);
   mWindow.resize(kPhoneSize);
@@ -42,12 +43,15 @@ AppDelegate::AppDelegate(AppServices& services)
             if (state == Qt::ApplicationActive) didBecomeActive();
           });
   connect(&mModals, &ModalPresenter::countChanged, this, [this] {
-    if (mModals.count() == 0) viewWillAppear(mShown);
+    if (mModals.count() > 0) return;
+    viewWillAppear(mShown);
+    followFiles();
   });
+  connect(&mWatch, &SettingsWatch::changed, this, &AppDelegate::followFiles);
 }
 
 bool AppDelegate::didFinishLaunching() {
-  mShown = mServices.files.readMasterMode();
+  mShown = currentMode();
   mWindow.setResizeMode(QQuickView::SizeRootObjectToView);
   mWindow.engine()->addImportPath(QStringLiteral("qrc:/qt/qml"));
   mWindow.engine()->addImageProvider(ApplicationIcons::providerName(),
@@ -72,6 +76,11 @@ bool AppDelegate::didFinishLaunching() {
   return true;
 }
 
+Mode AppDelegate::currentMode() const {
+  const auto mode = mServices.files.readMasterMode();
+  return mode ? *mode : mShown;
+}
+
 void AppDelegate::comeToTheFront() {
   if (mWindow.windowStates() & Qt::WindowMinimized) mWindow.showNormal();
   mWindow.raise();
@@ -81,11 +90,22 @@ void AppDelegate::comeToTheFront() {
 void AppDelegate::didBecomeActive() {
   // The file decides, not the screen that is shown. The two agree, since every switch of screens
   // writes the file first, unless another program has switched the mode meanwhile.
-  const Mode mode = mServices.files.readMasterMode();
+  const Mode mode = currentMode();
   if (mode != mShown && mModals.count() == 0) {
     show(mode);
   } else {
     viewWillAppear(mode);
+  }
+}
+
+void AppDelegate::followFiles() {
+  mModals.followFiles();
+  if (mModals.count() > 0) return;
+  if (const Mode mode = currentMode(); mode != mShown) show(mode);
+  if (mShown == Mode::FixedLocation) {
+    locationController.followFiles();
+  } else {
+    wayloomController.followFiles();
   }
 }
 

@@ -4,9 +4,10 @@
 #include <QtQuick/QQuickView>
 
 #include "app/AppServices.h"
-#include "app/ScreenSwitcher.h"
+#include "app/SettingsWatch.h"
 #include "fixed/SpotloomViewController.h"
 #include "kit/ModalPresenter.h"
+#include "kit/ScreenSwitcher.h"
 #include "route/WayloomViewController.h"
 
 namespace wayloom {
@@ -23,6 +24,8 @@ class AppDelegate : public QObject, public ScreenSwitcher {
   /// be loaded.
   [[nodiscard]] bool didFinishLaunching();
   void didBecomeActive();
+  /// Brings what is shown in line with the settings files, whoever changed them.
+  void followFiles();
   void comeToTheFront();
 
   void changeToLocation() override;
@@ -36,6 +39,8 @@ class AppDelegate : public QObject, public ScreenSwitcher {
   QQuickView& window() { return mWindow; }
 
  private:
+  /// What the file says; while it cannot be read, what is shown.
+  Mode currentMode() const;
   void show(Mode mode);
   /// The screen of this mode is about to be seen.
   void viewWillAppear(Mode mode);
@@ -44,6 +49,7 @@ class AppDelegate : public QObject, public ScreenSwitcher {
   SpotloomViewController locationController;
   WayloomViewController wayloomController;
   ModalPresenter mModals;
+  SettingsWatch mWatch;
   Mode mShown = Mode::Route;
   QQuickView mWindow;
 };

@@ -33,7 +33,7 @@ std::optional<Coordinate> defaultPosition(const RegionStore& store) {
 }  // namespace
 
 AppServices::AppServices(const Options& options)
-    : files(settingsRoot(options.root)),
+    : files(settingsRoot(options.root), SettingsFiles::kPatience, options.fileSystem),
       notice(noticeCommand()),
       regions(regionDirectories(options.regions)),
       geocoder(regions, mainQueue),

@@ -12,10 +12,10 @@
 #include "platform/HomeScreen.h"
 #include "platform/QtAddressOpener.h"
 #include "platform/QtMainQueue.h"
-#include "platform/RegionDirections.h"
-#include "platform/RegionGeocoder.h"
 #include "platform/SettingsDefaults.h"
 #include "platform/SystemNotices.h"
+#include "regions/RegionDirections.h"
+#include "regions/RegionGeocoder.h"
 #include "regions/RegionStore.h"
 #include "settings/SettingsFiles.h"
 #include "settings/WorkQueue.h"
@@ -31,6 +31,8 @@ class AppServices {
     std::optional<std::filesystem::path> regions;
     /// Ask nobody where the device is: the configured position answers.
     bool configuredPositionOnly = false;
+    /// Where settings files are read and written.
+    FileSystem& fileSystem = FileSystem::machine();
   };
 
   explicit AppServices(const Options& options);

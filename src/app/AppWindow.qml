@@ -48,7 +48,7 @@ Rectangle {
             active: false
             visible: isCurrent
             sourceComponent: SpotloomViewController {
-                controller: appWindow.locationController
+                controller: appWindow.locationController // qmllint disable unqualified
                 focus: true
             }
         }
@@ -61,7 +61,7 @@ Rectangle {
             active: false
             visible: isCurrent
             sourceComponent: WayloomViewController {
-                controller: appWindow.wayloomController
+                controller: appWindow.wayloomController // qmllint disable unqualified
                 focus: true
             }
         }

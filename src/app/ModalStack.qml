@@ -22,16 +22,18 @@ Item {
         else
             mainScreen.forceActiveFocus()
     }
-    onTopPageChanged: Qt.callLater(takeKeyboard)
+    onTopPageChanged: Qt.callLater(takeKeyboard) // qmllint disable type
 
     Repeater {
         id: pages
 
         model: stack.presenter
+        // qmllint disable unqualified
         delegate: ModalPage {
             topmost: index === stack.presenter.count - 1
             visible: topmost || (stack.topPage !== null && stack.topPage.arrival < 1)
             onDeparted: stack.presenter.removeTop()
         }
+        // qmllint enable unqualified
     }
 }

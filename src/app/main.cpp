@@ -2,7 +2,6 @@
 #include <cstdio>
 
 #include <QtCore/QDir>
-#include <QtCore/QLocale>
 #include <QtCore/QSettings>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QIcon>
@@ -14,6 +13,7 @@
 #include "app/StringTables.h"
 #include "app/Tour.h"
 #include "app/WindowPlace.h"
+#include "platform/PreferredLanguages.h"
 #include "settings/SettingsRoot.h"
 
 namespace {
@@ -22,6 +22,14 @@ using namespace wayloom;
 
 constexpr QColor kDarkWindow(0x20, 0x28, 0x30);
 constexpr QColor kLightWindow(0xef, 0xef, 0xef);
+
+QStringList userLanguages() {
+  QStringList languages;
+  for (const std::string& language : preferredLanguages()) {
+    languages.append(QString::fromStdString(language));
+  }
+  return languages;
+}
 
 /// A tour starts from nothing, and leaves alone what the user's own files and windows hold.
 int runTour(const StartOptions& options) {
@@ -43,7 +51,8 @@ int runTour(const StartOptions& options) {
 }
 
 int runApplication(const StartOptions& options) {
-  SingleInstance instance(settingsRoot(options.root));
+  const SettingsFiles files(settingsRoot(options.root));
+  SingleInstance instance(files.path(SettingsFile::Master).parent_path());
   switch (instance.start()) {
     case SingleInstance::Start::First:
       break;
@@ -79,7 +88,7 @@ int main(int argc, char* argv[]) {
   QGuiApplication::setDesktopFileName(QStringLiteral("wayloom"));
   QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/wayloom.svg")));
 
-  const StringTables strings(QLocale().uiLanguages());
+  const StringTables strings(userLanguages());
   const StartOptions options = StartOptions::read(application);
   if (options.dark) {
     // The whole palette follows from the colour of windows.

@@ -10,28 +10,29 @@ namespace wayloom {
 
 namespace {
 
-const PropertyList* find(const PropertyList::Dictionary& dictionary, std::string_view key) {
-  const auto found = dictionary.find(key);
-  return found == dictionary.end() ? nullptr : &found->second;
-}
-
 FixedLocationState stateOf(const PropertyList::Dictionary& settings) {
-  const PropertyList* latitude = find(settings, "latitude");
-  const PropertyList* longitude = find(settings, "longitude");
+  const PropertyList* latitude = valueOf(settings, "latitude");
+  const PropertyList* longitude = valueOf(settings, "longitude");
   const Coordinate coordinate{doubleValue(latitude), doubleValue(longitude)};
   return {.hasSettings = !settings.empty(),
-          .enabled = boolValue(find(settings, "enable")),
-          .drifting = boolValue(find(settings, "a")),
-          .driftSpeed = doubleValue(find(settings, "s")),
+          .enabled = boolValue(valueOf(settings, "enable")),
+          .drifting = boolValue(valueOf(settings, "a")),
+          .driftSpeed = doubleValue(valueOf(settings, "s")),
           .coordinate = coordinate,
           .hasCoordinate = latitude && longitude && isOnGlobe(coordinate)};
 }
 
 }  // namespace
 
-FixedLocationState readFixedLocation(const SettingsFiles& files) {
+Result<FixedLocationState> readFixedLocation(const SettingsFiles& files) {
   const auto settings = files.loadLocationSettings();
-  return settings ? stateOf(*settings) : FixedLocationState();
+  if (!settings) return settings.failure();
+  return *settings ? stateOf(**settings) : FixedLocationState();
+}
+
+bool isSamePosition(Coordinate one, Coordinate other) {
+  return formatReal(one.latitude) == formatReal(other.latitude) &&
+         formatReal(one.longitude) == formatReal(other.longitude);
 }
 
 double sliderSpeed(double storedSpeed) {
@@ -42,9 +43,11 @@ double sliderSpeed(double storedSpeed) {
 FixedLocation::FixedLocation(SettingsFiles& files, ChangeNotice& notice)
     : mFiles(files), mNotice(notice) {}
 
-FixedLocationState FixedLocation::refresh() {
-  mPreferences = mFiles.loadLocationSettings();
-  if (!mPreferences) mPreferences.emplace();
+Result<FixedLocationState> FixedLocation::refresh() {
+  auto settings = mFiles.loadLocationSettings();
+  if (!settings) return settings.failure();
+  mPreferences = std::move(*settings).value_or(PropertyList::Dictionary());
+  mVersion = mFiles.seenVersion(SettingsFile::Location);
   return stateOf(*mPreferences);
 }
 
@@ -52,12 +55,17 @@ const char* FixedLocation::refusalToLeave() const {
   return mPreferences ? wayloom::refusalToLeave(Mode::FixedLocation, *mPreferences) : nullptr;
 }
 
+void FixedLocation::setCoordinate(Coordinate coordinate) {
+  if (std::isfinite(coordinate.latitude) && std::isfinite(coordinate.longitude)) {
+    mCoordinate = coordinate;
+  }
+}
+
 Status FixedLocation::setEnable(bool on) {
   mNotice.post(kChangeNoticeName);
-  set("enable", formatFlag(on));
-  set("longitude", formatReal(mCoordinate.longitude));
-  set("latitude", formatReal(mCoordinate.latitude));
-  return save();
+  return write({{"enable", formatFlag(on)},
+                {"longitude", formatReal(mCoordinate.longitude)},
+                {"latitude", formatReal(mCoordinate.latitude)}});
 }
 
 Status FixedLocation::setAuto(bool on, float speed) {
@@ -66,40 +74,49 @@ Status FixedLocation::setAuto(bool on, float speed) {
 }
 
 Status FixedLocation::autoSlide(bool on, float speed) {
-  set("a", formatFlag(on));
-  set("s", formatReal(speed));
-  return save();
+  return write({{"a", formatFlag(on)}, {"s", formatReal(speed)}});
 }
 
 Status FixedLocation::centerMoved(Coordinate center) {
-  mPreferences = mFiles.loadLocationSettings();
   mCoordinate = center;
-  set("longitude", formatReal(center.longitude));
-  set("latitude", formatReal(center.latitude));
-  return save();
+  auto settings = mFiles.loadLocationSettings();
+  if (!settings) return settings.failure();
+  mPreferences = std::move(*settings);
+  mVersion = mFiles.seenVersion(SettingsFile::Location);
+  return write(
+      {{"longitude", formatReal(center.longitude)}, {"latitude", formatReal(center.latitude)}});
 }
 
 Status FixedLocation::beginAddressSearch() {
-  set("enable", formatFlag(false));
-  return save();
+  return write({{"enable", formatFlag(false)}});
 }
 
 Status FixedLocation::endAddressSearch(bool switchOn) {
-  set("enable", formatFlag(switchOn));
-  return save();
+  return write({{"enable", formatFlag(switchOn)}});
 }
 
 Status FixedLocation::leaveForRoute() {
-  if (const char* refusal = refusalToLeave()) return failed(refusal);
-  return mFiles.writeMasterMode(Mode::Route);
+  return leaveMode(mFiles, Mode::FixedLocation, mPreferences.value_or(PropertyList::Dictionary()));
 }
 
-void FixedLocation::set(const char* key, std::string value) {
-  if (mPreferences) mPreferences->insert_or_assign(key, std::move(value));
-}
-
-Status FixedLocation::save() {
-  return mFiles.saveLocationSettings(mPreferences);
+Status FixedLocation::write(Entries entries) {
+  if (!mPreferences) return done();
+  const auto turn = mFiles.takeTurn();
+  if (!turn) return turn.failure();
+  auto current = mFiles.loadLocationSettings();
+  if (!current) return current.failure();
+  const bool isThere = current->has_value();
+  PropertyList::Dictionary changed = std::move(*current).value_or(*mPreferences);
+  const bool setsEnable = entries.begin()->first == std::string_view("enable");
+  const bool wasOn = isThere && boolValue(valueOf(changed, "enable"));
+  for (const auto& [key, value] : entries) changed.insert_or_assign(key, value);
+  if (boolValue(valueOf(changed, "enable")) && (setsEnable || !wasOn)) {
+    if (Status isOff = checkOtherIsOff(mFiles, Mode::FixedLocation); !isOff) return isOff;
+  }
+  Status saved = mFiles.saveLocationSettings(changed);
+  if (saved) mPreferences = std::move(changed);
+  if (saved) mVersion = mFiles.seenVersion(SettingsFile::Location);
+  return saved;
 }
 
 }  // namespace wayloom

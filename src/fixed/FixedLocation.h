@@ -1,8 +1,11 @@
 #pragma once
 
+#include <initializer_list>
 #include <optional>
+#include <string>
+#include <utility>
 
-#include "places/Coordinate.h"
+#include "geo/Coordinate.h"
 #include "platform/ChangeNotice.h"
 #include "settings/PropertyList.h"
 #include "settings/Result.h"
@@ -27,8 +30,11 @@ struct FixedLocationState {
   bool hasCoordinate = false;
 };
 
-/// Reads the location settings file; a missing, unreadable or empty one has no settings.
-FixedLocationState readFixedLocation(const SettingsFiles& files);
+/// Reads the location settings file; a missing, damaged or empty one has no settings.
+Result<FixedLocationState> readFixedLocation(const SettingsFiles& files);
+
+/// Whether two positions are the same in a settings file, which holds six digits of a degree.
+bool isSamePosition(Coordinate one, Coordinate other);
 
 /// The speed as a slider shows it: limited to the slider's range.
 double sliderSpeed(double storedSpeed);
@@ -36,15 +42,20 @@ double sliderSpeed(double storedSpeed);
 /// The operations on the fixed position: which notice, which keys, in which order. The screen and
 /// the command line both act through one of these. It holds an in-memory copy of the location
 /// settings file, which is none after the map moved while the file was missing; nothing is written
-/// then. Main thread only.
+/// then. Each writer sets its keys in the file as it is at that moment, and in the copy where there
+/// is no file any more; one that cannot be read stops it before anything is written. Main thread
+/// only.
 class FixedLocation {
  public:
   /// Both must outlive this object.
   FixedLocation(SettingsFiles& files, ChangeNotice& notice);
 
-  /// Re-reads the file. A missing, unreadable or empty one leaves an empty copy, so that the next
-  /// writer creates the file.
-  FixedLocationState refresh();
+  /// Re-reads the file. A missing, damaged or empty one leaves an empty copy, so that the next
+  /// writer creates the file; one that cannot be read leaves the copy as it was.
+  Result<FixedLocationState> refresh();
+
+  /// Whether the file is the one that was last read or written here.
+  bool isCurrent() const { return mVersion == mFiles.currentVersion(SettingsFile::Location); }
 
   /// The message that keeps the screen in its mode while the copy, which is not read again, says
   /// that the position is on; null otherwise.
@@ -52,9 +63,11 @@ class FixedLocation {
 
   /// The chosen position: the map's centre after its last move, or what was set.
   Coordinate coordinate() const { return mCoordinate; }
-  void setCoordinate(Coordinate coordinate) { mCoordinate = coordinate; }
+  /// A coordinate of which a number is too large for any is none, and changes nothing.
+  void setCoordinate(Coordinate coordinate);
 
-  /// The enable switch: posts the notice, then writes "enable" and the chosen position.
+  /// The enable switch: posts the notice, then writes "enable" and the chosen position; refused
+  /// while a drive is on.
   [[nodiscard]] Status setEnable(bool on);
 
   /// The drift switch: posts the notice, then writes "a" and "s".
@@ -80,12 +93,15 @@ class FixedLocation {
   bool hasSettings() const { return mPreferences.has_value(); }
 
  private:
-  void set(const char* key, std::string value);
-  [[nodiscard]] Status save();
+  using Entries = std::initializer_list<std::pair<const char*, std::string>>;
+
+  /// Sets these entries; refused when the position would thereby be on beside a drive.
+  [[nodiscard]] Status write(Entries entries);
 
   SettingsFiles& mFiles;
   ChangeNotice& mNotice;
   std::optional<PropertyList::Dictionary> mPreferences;
+  std::optional<FileVersion> mVersion;
   Coordinate mCoordinate;
 };
 

@@ -1,10 +1,11 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <variant>
 
-#include "places/Coordinate.h"
+#include "geo/Coordinate.h"
 
 namespace wayloom {
 
@@ -16,6 +17,18 @@ struct AddressSearch {
   std::string address;
 };
 using SearchInput = std::variant<EmptySearch, MalformedCoordinateSearch, Coordinate, AddressSearch>;
+
+/// The two sides of "LATITUDE,LONGITUDE" without the blanks around them.
+struct CoordinateTexts {
+  std::string latitude;
+  std::string longitude;
+};
+
+/// What stands behind the "#:" that marks a position, blanks before it or not; none without it.
+std::optional<std::string> markedPosition(std::string_view text);
+
+/// None when there is not exactly one comma.
+std::optional<CoordinateTexts> splitCoordinate(std::string_view text);
 
 /// Reads a search text. "#:LATITUDE,LONGITUDE" is a coordinate in degrees, whose parts are taken as
 /// numbers without a test of their range (0 when a part is no number); all else is an address.

@@ -1,8 +1,10 @@
 #include "fixed/SpotloomViewController.h"
 
 #include "fixed/SearchInput.h"
+#include "kit/FailureText.h"
 #include "kit/LocalizedText.h"
 #include "map/ShownPoint.h"
+#include "settings/ModeSwitch.h"
 
 namespace wayloom {
 
@@ -10,9 +12,6 @@ namespace {
 
 constexpr int kButtonInset = 86;
 constexpr int kAutoPanelInset = 44;
-
-/// Write results are for the command line; on the screen the files themselves tell.
-void ignore(const Status& /*result*/) {}
 
 }  // namespace
 
@@ -41,8 +40,30 @@ void SpotloomViewController::viewWillAppear() {
   refreshViewByStatusWithLocation(false);
 }
 
+void SpotloomViewController::followFiles() {
+  if (!mMainMapView) return;
+  if (!mFixedLocation.isCurrent()) refreshViewByStatusWithLocation(false);
+  followPosition();
+}
+
+bool SpotloomViewController::followPosition() {
+  const auto state = readFixedLocation(mServices.files);
+  const bool isElsewhere = state && state->enabled && state->hasCoordinate &&
+                           !isSamePosition(state->coordinate, mFixedLocation.coordinate());
+  // What moves the map just now ends first.
+  mMustFollow = isElsewhere && mIsMapMoving;
+  if (!isElsewhere || mIsMapMoving) return false;
+  mIsFollowing = true;
+  mMainMapView->setCenterCoordinate(state->coordinate, Animated::No);
+  mIsFollowing = false;
+  mFixedLocation.setCoordinate(state->coordinate);
+  return true;
+}
+
 void SpotloomViewController::refreshViewByStatusWithLocation(bool withLocation) {
-  const FixedLocationState state = mFixedLocation.refresh();
+  const auto refreshed = mFixedLocation.refresh();
+  if (!report(refreshed.status())) return;
+  const FixedLocationState& state = *refreshed;
   update([&](View& view) {
     view.enabled = state.enabled;
     view.drifting = state.drifting;
@@ -75,38 +96,60 @@ void SpotloomViewController::refreshAuotViewWithEnable(bool on) {
 }
 
 void SpotloomViewController::setEnable(bool on) {
+  const View before = mView;
   update([&](View& view) { view.enabled = on; });
-  ignore(mFixedLocation.setEnable(on));
-  refreshViewByStatusWithLocation(false);
+  if (keep(mFixedLocation.setEnable(on), before)) refreshViewByStatusWithLocation(false);
 }
 
 void SpotloomViewController::setAuto(bool on) {
+  const View before = mView;
   update([&](View& view) { view.drifting = on; });
-  ignore(mFixedLocation.setAuto(on, static_cast<float>(mView.driftSpeed)));
-  refreshAuotViewWithEnable(on);
+  if (keep(mFixedLocation.setAuto(on, static_cast<float>(mView.driftSpeed)), before)) {
+    refreshAuotViewWithEnable(on);
+  }
 }
 
 void SpotloomViewController::autoSlide(double speed) {
+  const View before = mView;
   update([&](View& view) { view.driftSpeed = speed; });
-  ignore(mFixedLocation.autoSlide(mView.drifting, static_cast<float>(speed)));
+  keep(mFixedLocation.autoSlide(mView.drifting, static_cast<float>(speed)), before);
+}
+
+bool SpotloomViewController::report(const Status& status) {
+  const QString text = failureText(status, mServices.alerts);
+  update([&](View& view) { view.statusText = text; });
+  return static_cast<bool>(status);
+}
+
+bool SpotloomViewController::keep(const Status& written, const View& before) {
+  if (written) return report(written);
+  update([&](View& view) {
+    view.enabled = before.enabled;
+    view.drifting = before.drifting;
+    view.driftSpeed = before.driftSpeed;
+  });
+  refreshViewByStatusWithLocation(false);
+  return report(written);
 }
 
 void SpotloomViewController::exchange() {
-  if (const char* refusal = mFixedLocation.refusalToLeave()) {
-    mServices.alerts.show("", refusal, "OK");
-    return;
-  }
-  ignore(mFixedLocation.leaveForRoute());
-  mServices.screens.changeToRouter();
+  const Status left = mFixedLocation.leaveForRoute();
+  report(left);
+  if (isLeft(mServices.files, Mode::FixedLocation, left)) mServices.screens.changeToRouter();
 }
 
 void SpotloomViewController::regionWillChange() {
+  mIsMapMoving = true;
   showAddress({});
 }
 
 void SpotloomViewController::regionDidChange() {
-  const Coordinate center = mMainMapView->region().center;
-  ignore(mFixedLocation.centerMoved(center));
+  mIsMapMoving = false;
+  if (std::exchange(mMustFollow, false) && followPosition()) return;
+  // A position that no map shows stays where it is until the map is moved away from it.
+  const bool stays = isBeyondTheEdge(*mMainMapView, mFixedLocation.coordinate());
+  const Coordinate center = stays ? mFixedLocation.coordinate() : mMainMapView->region().center;
+  if (!mIsFollowing && !stays) report(mFixedLocation.centerMoved(center));
   mServices.location.addressWithCoordinate(center, this);
 }
 
@@ -128,7 +171,7 @@ void SpotloomViewController::searchButtonClicked() {
     clearField();
     showPoint(*mMainMapView, *coordinate);
   } else if (const auto* address = std::get_if<AddressSearch>(&search)) {
-    ignore(mFixedLocation.beginAddressSearch());
+    if (!report(mFixedLocation.beginAddressSearch())) return;
     clearField();
     mOverlayAttached = true;
     update([](View& view) {
@@ -181,7 +224,7 @@ void SpotloomViewController::geocoderSuccess(Location* /*location*/, Coordinate 
   update([](View& view) { view.overlayShown = false; });
   mFixedLocation.setCoordinate(coordinate);
   showPoint(*mMainMapView, coordinate);
-  ignore(mFixedLocation.endAddressSearch(mView.enabled));
+  report(mFixedLocation.endAddressSearch(mView.enabled));
 }
 
 void SpotloomViewController::geocoderFailed(Location* location,
@@ -208,9 +251,9 @@ void SpotloomViewController::addToFavorites() {
 
 void SpotloomViewController::okButtonClicked() {
   if (!mView.namingFavorite) return;  // The panel is fading out already.
-  ignore(mFavorites.add(mView.favoriteName.toStdString(), mFixedLocation.coordinate(),
-                        localizedText("Unknow").toStdString()));
-  cancelButtonClicked();
+  const Status added = mFavorites.add(mView.favoriteName.toStdString(), mFixedLocation.coordinate(),
+                                      localizedText("Unknow").toStdString());
+  if (report(added)) cancelButtonClicked();
 }
 
 void SpotloomViewController::cancelButtonClicked() {

@@ -5,8 +5,8 @@
 #include <QtCore/QString>
 #include <QtQml/qqmlregistration.h>
 
-#include "app/ScreenSwitcher.h"
 #include "fixed/FixedLocation.h"
+#include "kit/ScreenSwitcher.h"
 #include "lists/Favorites.h"
 #include "lists/FavoritesDelegate.h"
 #include "map/MapView.h"
@@ -37,6 +37,7 @@ class SpotloomViewController : public QObject, public LocationDelegate, public F
   Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY changed)
   Q_PROPERTY(QString favoriteName READ favoriteName WRITE setFavoriteName NOTIFY changed)
   Q_PROPERTY(bool namingFavorite READ namingFavorite NOTIFY changed)
+  Q_PROPERTY(QString statusText READ statusText NOTIFY changed)
 
  public:
   struct Services {
@@ -55,6 +56,9 @@ class SpotloomViewController : public QObject, public LocationDelegate, public F
   bool isViewLoaded() const { return mMainMapView; }
   /// The screen appears, or the application came to the front while it is the current one.
   void viewWillAppear();
+  /// Another program may have changed the settings: the controls come in line with them and, while
+  /// the position is on, the map; that move writes nothing.
+  void followFiles();
 
   /// Reloads the settings and brings every control in line with them; with location, the map too.
   void refreshViewByStatusWithLocation(bool withLocation);
@@ -103,6 +107,7 @@ class SpotloomViewController : public QObject, public LocationDelegate, public F
   QString favoriteName() const { return mView.favoriteName; }
   void setFavoriteName(const QString& name);
   bool namingFavorite() const { return mView.namingFavorite; }
+  QString statusText() const { return mView.statusText; }
 
  Q_SIGNALS:
   void changed();
@@ -125,6 +130,7 @@ class SpotloomViewController : public QObject, public LocationDelegate, public F
     QString searchText;
     QString favoriteName;
     bool namingFavorite = false;
+    QString statusText;
 
     bool operator==(const View&) const = default;
   };
@@ -133,6 +139,14 @@ class SpotloomViewController : public QObject, public LocationDelegate, public F
   template <typename Change>
   void update(Change&& change);
 
+  /// Shows what kept something from being done: a rule in an alert, anything else in the status
+  /// line, which a success clears. True after a success.
+  bool report(const Status& status);
+  /// The same for what a switch or the slider wrote: after a failure they show what they showed
+  /// `before`, or what the file says if it can be read.
+  bool keep(const Status& written, const View& before);
+  /// Moves the map to the file's position if that is on and elsewhere; true if it did.
+  bool followPosition();
   void regionWillChange();
   void regionDidChange();
   void showAddress(const QString& address);
@@ -143,6 +157,12 @@ class SpotloomViewController : public QObject, public LocationDelegate, public F
   Favorites mFavorites;
   QPointer<MapView> mMainMapView;
   View mView;
+  /// A move of the map is under way.
+  bool mIsMapMoving = false;
+  /// That move only follows the file.
+  bool mIsFollowing = false;
+  /// The file's position changed meanwhile: it is followed when the move ends.
+  bool mMustFollow = false;
   /// The overlay is attached to no view until the first address search; showing it before that
   /// shows nothing.
   bool mOverlayAttached = false;

@@ -10,7 +10,20 @@ FocusScope {
 
     required property Screens.SpotloomViewController controller
 
-    Component.onCompleted: controller.viewDidLoad(mainMapView)
+    /// How far above the lower edge the buttons over the map begin. They glide when the drift panel
+    /// comes or goes, and only then.
+    property real buttonInset: controller.buttonInset
+    property bool isLoaded: false
+
+    Behavior on buttonInset {
+        enabled: root.isLoaded
+
+        NumberAnimation { duration: 200; easing.type: Easing.OutCubic }
+    }
+    Component.onCompleted: {
+        controller.viewDidLoad(mainMapView)
+        isLoaded = true
+    }
 
     Connections {
         target: root.controller
@@ -28,6 +41,7 @@ FocusScope {
             objectName: "mainMapView"
             anchors.fill: parent
             anchors.topMargin: topView.y + topView.height
+            zoomsAboutCenter: true
             focus: true
             onTapped: mainMapView.forceActiveFocus()
             Accessible.role: Accessible.Graphic
@@ -163,6 +177,12 @@ FocusScope {
                 color: FlatPalette.separator
             }
 
+            StatusLine {
+                anchors.top: parent.bottom
+                width: parent.width
+                text: root.controller.statusText
+            }
+
             // A touch beside the controls takes the keyboard away.
             TapHandler { onTapped: mainMapView.forceActiveFocus() }
         }
@@ -172,11 +192,10 @@ FocusScope {
 
             objectName: "btn_mine"
             x: FlatPalette.margin
-            y: root.height - root.controller.buttonInset
+            y: root.height - root.buttonInset
             icon.source: "qrc:/icons/locate.svg"
             onClicked: root.controller.mineLocationButtonClicked()
             Accessible.name: qsTranslate("Wayloom", "My location")
-            Behavior on y { NumberAnimation { duration: 200; easing.type: Easing.OutCubic } }
         }
 
         IconButton {
@@ -184,12 +203,11 @@ FocusScope {
 
             objectName: "btn_exchange"
             x: root.width - width - FlatPalette.margin
-            y: root.height - root.controller.buttonInset
+            y: root.height - root.buttonInset
             cornerRadius: 8
             icon.source: "qrc:/icons/exchange.svg"
             onClicked: root.controller.exchange()
             Accessible.name: qsTranslate("Wayloom", "Switch mode")
-            Behavior on y { NumberAnimation { duration: 200; easing.type: Easing.OutCubic } }
         }
 
         DriftPanel {

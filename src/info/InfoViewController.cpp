@@ -1,4 +1,4 @@
-#include "ui/InfoViewController.h"
+#include "info/InfoViewController.h"
 
 #include <memory>
 #include <utility>

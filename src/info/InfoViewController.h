@@ -1,11 +1,11 @@
 #pragma once
 
+#include "info/MakerAddresses.h"
 #include "kit/ModalPresenter.h"
 #include "kit/ModalViewController.h"
 #include "platform/AddressOpener.h"
 #include "platform/HomeScreen.h"
 #include "settings/SettingsFiles.h"
-#include "ui/MakerAddresses.h"
 
 namespace wayloom {
 

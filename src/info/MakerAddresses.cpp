@@ -1,4 +1,4 @@
-#include "ui/MakerAddresses.h"
+#include "info/MakerAddresses.h"
 
 namespace wayloom {
 

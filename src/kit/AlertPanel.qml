@@ -49,6 +49,7 @@ FocusScope {
                 font.bold: true
                 horizontalAlignment: Text.AlignHCenter
                 wrapMode: Text.Wrap
+                textFormat: Text.PlainText
             }
             Text {
                 objectName: "alertMessage"
@@ -58,6 +59,7 @@ FocusScope {
                 font.pixelSize: FlatPalette.bodySize
                 horizontalAlignment: Text.AlignHCenter
                 wrapMode: Text.Wrap
+                textFormat: Text.PlainText
             }
             FlatButton {
                 id: button

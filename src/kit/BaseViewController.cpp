@@ -1,4 +1,4 @@
-#include "app/BaseViewController.h"
+#include "kit/BaseViewController.h"
 
 namespace wayloom {
 

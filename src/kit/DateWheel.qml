@@ -28,6 +28,11 @@ ListView {
     preferredHighlightBegin: (height - rowSize) / 2
     preferredHighlightEnd: (height + rowSize) / 2
     currentIndex: value
+    // A wheel that gets other rows begins at its first one.
+    onModelChanged: {
+        currentIndex = Qt.binding(() => wheel.value)
+        positionViewAtIndex(value, ListView.SnapPosition)
+    }
     keyNavigationEnabled: false
     // Closed while it runs, the picker has taken what it showed then.
     onEnabledChanged: if (!enabled) cancelFlick()
@@ -42,6 +47,7 @@ ListView {
     Accessible.role: Accessible.SpinBox
     Accessible.name: currentItem ? (currentItem as DateWheelRow).text : ""
 
+    // qmllint disable unqualified
     delegate: DateWheelRow {
         required property int index
 
@@ -51,6 +57,7 @@ ListView {
         isChosen: ListView.isCurrentItem
         onClicked: wheel.turn(index)
     }
+    // qmllint enable unqualified
 
     WheelHandler {
         property real turned: 0

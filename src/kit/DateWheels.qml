@@ -66,7 +66,7 @@ FocusScope {
             column: Screens.DatePicker.Hour
             marksFocus: wheels.keysUsed
             value: wheels.picker.hour
-            model: 24
+            model: wheels.picker.hourCount
             KeyNavigation.right: minuteWheel
         }
         DateWheel {

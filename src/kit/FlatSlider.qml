@@ -11,8 +11,11 @@ T.Slider {
 
     implicitHeight: 30
     implicitWidth: 160
-    focusPolicy: acceptsTouches ? Qt.StrongFocus : Qt.NoFocus
+    focusPolicy: acceptsTouches || activeFocus ? Qt.StrongFocus : Qt.NoFocus
     wheelEnabled: false
+    // The keyboard may have been on it when it was locked.
+    Keys.onLeftPressed: event => event.accepted = !acceptsTouches
+    Keys.onRightPressed: event => event.accepted = !acceptsTouches
 
     background: Rectangle {
         x: control.leftPadding

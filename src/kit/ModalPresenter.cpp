@@ -13,6 +13,10 @@ void ModalPresenter::present(std::unique_ptr<ModalViewController> controller,
   Q_EMIT countChanged();
 }
 
+void ModalPresenter::followFiles() {
+  for (const Screen& screen : mScreens) screen.controller->followFiles();
+}
+
 void ModalPresenter::removeTop() {
   if (mScreens.empty()) return;
   beginRemoveRows({}, count() - 1, count() - 1);

@@ -28,6 +28,9 @@ class ModalPresenter : public QAbstractListModel {
   /// Presents a screen over all others.
   void present(std::unique_ptr<ModalViewController> controller, Transition transition);
 
+  /// Brings every screen in line with the settings files.
+  void followFiles();
+
   /// The topmost screen has left the window for good: it goes, with its controller.
   Q_INVOKABLE void removeTop();
 

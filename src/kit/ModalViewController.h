@@ -21,6 +21,9 @@ class ModalViewController : public QObject {
     return QString::fromLatin1(metaObject()->className()).section(QStringLiteral("::"), -1);
   }
 
+  /// Another program may have changed a settings file: the screen comes in line with it.
+  virtual void followFiles() {}
+
   /// The back button: gives way to the screen below.
   Q_INVOKABLE virtual void done() { Q_EMIT dismissed(); }
 

@@ -46,6 +46,7 @@ Item {
                 font.pixelSize: FlatPalette.bodySize
                 horizontalAlignment: Text.AlignHCenter
                 wrapMode: Text.Wrap
+                textFormat: Text.PlainText
             }
         }
     }

@@ -24,6 +24,7 @@ T.SwipeDelegate {
     swipe.transition: Transition {
         SmoothedAnimation { velocity: 3; easing.type: Easing.InOutCubic }
     }
+    // qmllint disable unqualified
     swipe.right: Rectangle {
         objectName: "deleteButton"
         anchors.right: parent.right
@@ -42,11 +43,10 @@ T.SwipeDelegate {
             font.pixelSize: FlatPalette.bodySize
         }
     }
+    // qmllint enable unqualified
 
     contentItem: Item {
         T.AbstractButton {
-            id: deleteMark
-
             objectName: "deleteMark"
             x: -FlatPalette.margin
             width: height
@@ -73,7 +73,7 @@ T.SwipeDelegate {
         }
         Text {
             anchors.left: parent.left
-            anchors.leftMargin: row.editing ? deleteMark.width - FlatPalette.margin : 0
+            anchors.leftMargin: row.editing ? parent.height - FlatPalette.margin : 0
             anchors.right: parent.right
             height: parent.height
             text: row.name

@@ -1,54 +1,60 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 
-#include "places/Coordinate.h"
+#include "geo/Coordinate.h"
 #include "settings/PropertyList.h"
 #include "settings/Result.h"
 #include "settings/SettingsFiles.h"
 
 namespace wayloom {
 
-/// The favourites file: named places in the order of adding. The list is a copy of the file that is
-/// read again only by load() and add(). Main thread only.
+/// The favourites file: named places in the order of adding. The list is a copy of the file; each
+/// change is made to the file as it is at that moment, and the copy then shows the result. A change
+/// that fails changes neither. Main thread only.
 class Favorites {
  public:
   /// `files` must outlive this object.
   explicit Favorites(SettingsFiles& files) : mFiles(files) {}
 
-  /// Reads the list, and the location settings that choose() writes into. A missing, unreadable or
-  /// empty list is an empty one; location settings that are not on are forgotten, all keys of them.
-  void load();
+  /// Reads the list. A missing, damaged or empty file is an empty list; one that cannot be read
+  /// leaves the list as it was.
+  [[nodiscard]] Status load();
+  /// Whether the file is the one that was last read or written here.
+  bool isCurrent() const { return mVersion == mFiles.currentVersion(SettingsFile::Favorites); }
 
   const PropertyList::Array& entries() const { return mEntries; }
   /// What an entry holds under a key; null when it holds nothing. `index` must be in range.
   const PropertyList* value(std::size_t index, std::string_view key) const;
   /// The entry's name; empty when it is missing or no text. `index` must be in range.
-  std::string_view name(std::size_t index) const;
+  std::string_view name(std::size_t index) const { return nameOf(mEntries[index]); }
+  static std::string_view nameOf(const PropertyList& entry);
 
-  /// Appends a place to what the file holds now. A name of blanks only becomes `unnamed`.
+  /// Appends a place. A name of blanks only becomes `unnamed`.
   [[nodiscard]] Status add(std::string_view name, Coordinate coordinate, std::string_view unnamed);
 
-  // The rest works on the list as last read; indices must be in range.
+  // The rest goes by the list as last read; indices must be in range.
 
-  /// Takes an entry out of the list and writes the rest, an empty list too.
+  /// Takes an entry out, wherever the file has it now. One that the file has no more is no failure.
   [[nodiscard]] Status removeAt(std::size_t index);
-  /// Puts an entry back, at most one behind the last, and writes the list.
+  /// Puts an entry back, behind the last if the list has become shorter.
   [[nodiscard]] Status insertAt(std::size_t index, PropertyList entry);
 
   /// Makes an entry the fixed location: turned on, at the entry's coordinates as they are stored.
-  /// A coordinate that the entry lacks is taken out of the location file. No notice is posted and
-  /// the mode stays.
+  /// A coordinate that the entry lacks is taken out of the location file, and while the position
+  /// was off, so is everything else. No notice is posted and the mode stays. Refused while a drive
+  /// is on.
   [[nodiscard]] Status choose(std::size_t index);
 
  private:
-  void loadEntries();
+  [[nodiscard]] Status change(const std::function<void(PropertyList::Array&)>& edit);
 
   SettingsFiles& mFiles;
   PropertyList::Array mEntries;
-  PropertyList::Dictionary mPreferences;
+  std::optional<FileVersion> mVersion;
 };
 
 }  // namespace wayloom

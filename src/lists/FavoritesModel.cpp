@@ -1,14 +1,16 @@
 #include "lists/FavoritesModel.h"
 
+#include <algorithm>
+
 #include "kit/ShownText.h"
 
 namespace wayloom {
 
 FavoritesModel::FavoritesModel(Favorites& favorites, QObject* parent)
-    : QAbstractListModel(parent), mFavorites(favorites) {}
+    : QAbstractListModel(parent), mFavorites(favorites), mShown(favorites.entries()) {}
 
 int FavoritesModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(mFavorites.entries().size());
+  return parent.isValid() ? 0 : static_cast<int>(mShown.size());
 }
 
 QVariant FavoritesModel::data(const QModelIndex& index, int role) const {
@@ -21,22 +23,27 @@ QHash<int, QByteArray> FavoritesModel::roleNames() const {
 }
 
 QString FavoritesModel::name(int row) const {
-  return shownText(mFavorites.name(static_cast<std::size_t>(row)));
+  return shownText(Favorites::nameOf(mShown[static_cast<std::size_t>(row)]));
 }
 
-PropertyList FavoritesModel::remove(int row) {
-  const auto index = static_cast<std::size_t>(row);
-  PropertyList entry = mFavorites.entries()[index];
-  beginRemoveRows({}, row, row);
-  (void)mFavorites.removeAt(index);
-  endRemoveRows();
-  return entry;
-}
-
-void FavoritesModel::insert(int row, const PropertyList& entry) {
-  beginInsertRows({}, row, row);
-  (void)mFavorites.insertAt(static_cast<std::size_t>(row), entry);
-  endInsertRows();
+void FavoritesModel::update() {
+  const PropertyList::Array& now = mFavorites.entries();
+  const auto [gone, come] = std::mismatch(mShown.begin(), mShown.end(), now.begin(), now.end());
+  if (gone == mShown.end() && come == now.end()) return;
+  const int row = static_cast<int>(gone - mShown.begin());
+  if (gone != mShown.end() && std::equal(gone + 1, mShown.end(), come, now.end())) {
+    beginRemoveRows({}, row, row);
+    mShown = now;
+    endRemoveRows();
+  } else if (come != now.end() && std::equal(gone, mShown.end(), come + 1, now.end())) {
+    beginInsertRows({}, row, row);
+    mShown = now;
+    endInsertRows();
+  } else {
+    beginResetModel();
+    mShown = now;
+    endResetModel();
+  }
 }
 
 }  // namespace wayloom

@@ -14,7 +14,7 @@ class FavoritesModel : public QAbstractListModel {
   QML_ANONYMOUS
 
  public:
-  /// Both must outlive the model; the list is loaded already.
+  /// The list must outlive the model.
   explicit FavoritesModel(Favorites& favorites, QObject* parent = nullptr);
 
   int rowCount(const QModelIndex& parent = {}) const override;
@@ -24,12 +24,12 @@ class FavoritesModel : public QAbstractListModel {
   /// The name as a row shows it: one line, cut where no row is so wide.
   QString name(int row) const;
 
-  /// Takes a row out of list and file; answers the entry.
-  PropertyList remove(int row);
-  void insert(int row, const PropertyList& entry);
+  /// Shows the list as it is now. A row that came or went is announced as such.
+  void update();
 
  private:
   Favorites& mFavorites;
+  PropertyList::Array mShown;
 };
 
 }  // namespace wayloom

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include <QtCore/QTimer>
 
 #include "kit/ModalViewController.h"
@@ -21,16 +23,19 @@ class FavoritesViewController : public wayloom::ModalViewController {
   Q_PROPERTY(bool editing READ editing NOTIFY editingChanged)
   Q_PROPERTY(bool undoShown READ undoShown NOTIFY undoChanged)
   Q_PROPERTY(QString deletedName READ deletedName NOTIFY undoChanged)
+  Q_PROPERTY(QString statusText READ statusText NOTIFY statusTextChanged)
 
  public:
   /// Both must outlive this object.
   FavoritesViewController(SettingsFiles& files, FavoritesDelegate& delegate,
                           QObject* parent = nullptr);
 
+  void followFiles() override;
+
   Q_INVOKABLE void edit();
   Q_INVOKABLE void didSelectRow(int row);
   Q_INVOKABLE void deleteRow(int row);
-  /// Puts the entry that was deleted last back where it was.
+  /// Puts the entry that was deleted last back where it was; once more, the one before it.
   Q_INVOKABLE void undoDelete();
 
   FavoritesModel* favorites() { return &mModel; }
@@ -38,14 +43,18 @@ class FavoritesViewController : public wayloom::ModalViewController {
   bool editEnabled() const { return mEditEnabled; }
   bool editing() const { return mEditing; }
   bool undoShown() const { return mUndoEnd.isActive(); }
-  QString deletedName() const { return mDeleted.name; }
+  QString deletedName() const { return mDeleted.empty() ? QString() : mDeleted.back().name; }
+  QString statusText() const { return mStatusText; }
 
  Q_SIGNALS:
   void editTitleChanged();
   void editingChanged();
   void undoChanged();
+  void statusTextChanged();
 
  private:
+  /// Shows the list as it is now, and what went wrong. True after a success.
+  bool report(const Status& status);
   bool isRow(int row) const { return row >= 0 && row < mModel.rowCount(); }
 
   Favorites mFavorites;
@@ -60,8 +69,10 @@ class FavoritesViewController : public wayloom::ModalViewController {
     PropertyList entry;
     QString name;
   };
-  Deleted mDeleted;
+  /// The latest last.
+  std::vector<Deleted> mDeleted;
   QTimer mUndoEnd;
+  QString mStatusText;
 };
 
 }  // namespace wayloom

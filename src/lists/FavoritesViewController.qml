@@ -53,6 +53,7 @@ FocusScope {
         Keys.onEnterPressed: root.controller.didSelectRow(currentIndex)
         Keys.onDeletePressed: root.controller.deleteRow(currentIndex)
 
+        // qmllint disable unqualified
         delegate: FavoriteRow {
             width: ListView.view.width
             editing: root.controller.editing
@@ -61,6 +62,7 @@ FocusScope {
             onDeleted: root.controller.deleteRow(index)
             ListView.onPooled: swipe.close()
         }
+        // qmllint enable unqualified
         removeDisplaced: Transition { NumberAnimation { property: "y"; duration: 150 } }
         addDisplaced: Transition { NumberAnimation { property: "y"; duration: 150 } }
     }
@@ -71,6 +73,12 @@ FocusScope {
         visible: mainTableView.count === 0
         text: qsTranslate("Wayloom", "No favorites yet")
         hint: qsTranslate("Wayloom", "Pick a place on the map and press “Add To →”.")
+    }
+
+    StatusLine {
+        anchors.bottom: parent.bottom
+        width: parent.width
+        text: root.controller.statusText
     }
 
     UndoBar {

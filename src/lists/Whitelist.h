@@ -10,27 +10,31 @@
 namespace wayloom {
 
 /// The whitelist file: which applications the user ticked, by display identifier. The list is a
-/// copy of the file that only load() reads. Main thread only.
+/// copy of the file; each change is made to the file as it is at that moment, and the copy then
+/// shows the result. Main thread only.
 class Whitelist {
  public:
   /// `files` must outlive this object.
   explicit Whitelist(SettingsFiles& files) : mFiles(files) {}
 
-  /// A missing or unreadable file is an empty list.
-  void load();
+  /// A missing or damaged file is an empty list; one that cannot be read leaves the list as it was.
+  [[nodiscard]] Status load();
+  /// Whether the file is the one that was last read or written here.
+  bool isCurrent() const { return mVersion == mFiles.currentVersion(SettingsFile::Whitelist); }
 
   /// The file's values by identifier, those of applications that are gone included.
   const PropertyList::Dictionary& entries() const { return mEntries; }
   /// False for an application that was never ticked.
   bool isTicked(std::string_view bundle) const;
 
-  /// Turns the application's tick over and writes the whole list, other entries as they were. An
-  /// identifier never leaves the list; the tick stays turned over even when the write fails.
+  /// Turns the application's tick over, as the list has it, and writes the whole file, other
+  /// entries as they are there. An identifier never leaves it. A failure changes nothing.
   [[nodiscard]] Status toggle(const std::string& bundle);
 
  private:
   SettingsFiles& mFiles;
   PropertyList::Dictionary mEntries;
+  std::optional<FileVersion> mVersion;
 };
 
 }  // namespace wayloom

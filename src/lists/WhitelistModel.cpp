@@ -1,4 +1,4 @@
-#include "lists/ApplicationsModel.h"
+#include "lists/WhitelistModel.h"
 
 #include <algorithm>
 
@@ -19,8 +19,7 @@ bool showsNothing(const QString& text) {
 
 }  // namespace
 
-ApplicationsModel::ApplicationsModel(Whitelist& whitelist, const HomeScreen& homeScreen,
-                                     QObject* parent)
+WhitelistModel::WhitelistModel(Whitelist& whitelist, const HomeScreen& homeScreen, QObject* parent)
     : QAbstractListModel(parent), mWhitelist(whitelist) {
   for (std::string& bundle :
        ApplicationList::installedAppBundle(homeScreen).value_or(std::vector<std::string>())) {
@@ -29,11 +28,11 @@ ApplicationsModel::ApplicationsModel(Whitelist& whitelist, const HomeScreen& hom
   }
 }
 
-int ApplicationsModel::rowCount(const QModelIndex& parent) const {
+int WhitelistModel::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(mApplications.size());
 }
 
-QVariant ApplicationsModel::data(const QModelIndex& index, int role) const {
+QVariant WhitelistModel::data(const QModelIndex& index, int role) const {
   if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
   const Application& application = mApplications[static_cast<std::size_t>(index.row())];
   switch (role) {
@@ -50,14 +49,19 @@ QVariant ApplicationsModel::data(const QModelIndex& index, int role) const {
   }
 }
 
-QHash<int, QByteArray> ApplicationsModel::roleNames() const {
+QHash<int, QByteArray> WhitelistModel::roleNames() const {
   return {{NameRole, "appName"}, {IconRole, "appIcon"}, {TickRole, "ticked"}};
 }
 
-void ApplicationsModel::toggle(int row) {
-  (void)mWhitelist.toggle(mApplications[static_cast<std::size_t>(row)].bundle);
+Status WhitelistModel::toggle(int row) {
+  Status toggled = mWhitelist.toggle(mApplications[static_cast<std::size_t>(row)].bundle);
   // An identifier may stand in the list twice.
-  Q_EMIT dataChanged(index(0), index(rowCount() - 1), {TickRole});
+  update();
+  return toggled;
+}
+
+void WhitelistModel::update() {
+  if (rowCount() > 0) Q_EMIT dataChanged(index(0), index(rowCount() - 1), {TickRole});
 }
 
 }  // namespace wayloom

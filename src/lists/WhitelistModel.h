@@ -12,21 +12,22 @@ namespace wayloom {
 
 /// The rows of the whitelist screen: each installed application's name, icon address and tick, in
 /// the home screen's order. Owned by the screen's controller, main thread only.
-class ApplicationsModel : public QAbstractListModel {
+class WhitelistModel : public QAbstractListModel {
   Q_OBJECT
   QML_ANONYMOUS
 
  public:
-  /// Asks the home screen for identifiers and names. The whitelist is loaded already and must
-  /// outlive the model.
-  ApplicationsModel(Whitelist& whitelist, const HomeScreen& homeScreen, QObject* parent = nullptr);
+  /// Asks the home screen for identifiers and names. The whitelist must outlive the model.
+  WhitelistModel(Whitelist& whitelist, const HomeScreen& homeScreen, QObject* parent = nullptr);
 
   int rowCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role) const override;
   QHash<int, QByteArray> roleNames() const override;
 
+  /// Shows the ticks as they are now.
+  void update();
   /// Turns a row's tick over, in the file as well.
-  void toggle(int row);
+  [[nodiscard]] Status toggle(int row);
 
  private:
   enum Role { NameRole = Qt::DisplayRole, IconRole = Qt::DecorationRole, TickRole = Qt::UserRole };

@@ -12,6 +12,8 @@ T.AbstractButton {
     required property bool ticked
     property bool current: false
 
+    readonly property real markSize: 22
+
     implicitHeight: FlatPalette.rowHeight
     focusPolicy: Qt.NoFocus
     Accessible.role: Accessible.CheckBox
@@ -37,8 +39,8 @@ T.AbstractButton {
         Text {
             anchors.left: parent.left
             anchors.leftMargin: 45
-            anchors.right: checkmark.left
-            anchors.rightMargin: FlatPalette.spacing
+            anchors.right: parent.right
+            anchors.rightMargin: FlatPalette.margin + row.markSize + FlatPalette.spacing
             height: parent.height
             text: row.appName
             color: FlatPalette.rowText
@@ -51,16 +53,14 @@ T.AbstractButton {
             clip: true
         }
         Image {
-            id: checkmark
-
             objectName: "checkmark"
             anchors.right: parent.right
             anchors.rightMargin: FlatPalette.margin
             anchors.verticalCenter: parent.verticalCenter
             visible: row.ticked
             source: "qrc:/icons/checkmark.svg"
-            sourceSize.width: 22
-            sourceSize.height: 22
+            sourceSize.width: row.markSize
+            sourceSize.height: row.markSize
         }
     }
 

@@ -1,25 +1,30 @@
 #include "lists/WhitelistViewController.h"
 
+#include "kit/FailureText.h"
+
 namespace wayloom {
-
-namespace {
-
-Whitelist loaded(SettingsFiles& files) {
-  Whitelist whitelist(files);
-  whitelist.load();
-  return whitelist;
-}
-
-}  // namespace
 
 WhitelistViewController::WhitelistViewController(SettingsFiles& files, const HomeScreen& homeScreen,
                                                  QObject* parent)
     : ModalViewController(parent),
-      mWhiteListPreferences(loaded(files)),
-      mAppArray(mWhiteListPreferences, homeScreen) {}
+      mWhiteListPreferences(files),
+      mAppArray(mWhiteListPreferences, homeScreen) {
+  report(mWhiteListPreferences.load());
+}
+
+void WhitelistViewController::followFiles() {
+  if (mWhiteListPreferences.isCurrent()) return;
+  report(mWhiteListPreferences.load());
+  mAppArray.update();
+}
 
 void WhitelistViewController::didSelectRow(int row) {
-  if (row >= 0 && row < mAppArray.rowCount()) mAppArray.toggle(row);
+  if (row >= 0 && row < mAppArray.rowCount()) report(mAppArray.toggle(row));
+}
+
+void WhitelistViewController::report(const Status& status) {
+  mStatusText = failureText(status);
+  Q_EMIT statusTextChanged();
 }
 
 }  // namespace wayloom

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "kit/ModalViewController.h"
-#include "lists/ApplicationsModel.h"
 #include "lists/Whitelist.h"
+#include "lists/WhitelistModel.h"
 
 namespace wayloom {
 
@@ -13,20 +13,30 @@ class WhitelistViewController : public wayloom::ModalViewController {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("the application makes it")
-  Q_PROPERTY(wayloom::ApplicationsModel* appArray READ appArray CONSTANT)
+  Q_PROPERTY(wayloom::WhitelistModel* appArray READ appArray CONSTANT)
+  Q_PROPERTY(QString statusText READ statusText NOTIFY statusTextChanged)
 
  public:
   /// Both must outlive this object.
   WhitelistViewController(SettingsFiles& files, const HomeScreen& homeScreen,
                           QObject* parent = nullptr);
 
+  void followFiles() override;
+
   Q_INVOKABLE void didSelectRow(int row);
 
-  ApplicationsModel* appArray() { return &mAppArray; }
+  WhitelistModel* appArray() { return &mAppArray; }
+  QString statusText() const { return mStatusText; }
+
+ Q_SIGNALS:
+  void statusTextChanged();
 
  private:
+  void report(const Status& status);
+
   Whitelist mWhiteListPreferences;
-  ApplicationsModel mAppArray;
+  WhitelistModel mAppArray;
+  QString mStatusText;
 };
 
 }  // namespace wayloom

@@ -43,11 +43,19 @@ FocusScope {
         Keys.onReturnPressed: root.controller.didSelectRow(currentIndex)
         Keys.onEnterPressed: root.controller.didSelectRow(currentIndex)
 
+        // qmllint disable unqualified
         delegate: WhitelistRow {
             width: ListView.view.width
             current: ListView.isCurrentItem && mainTableView.activeFocus
             onClicked: root.controller.didSelectRow(index)
         }
+        // qmllint enable unqualified
+    }
+
+    StatusLine {
+        anchors.bottom: parent.bottom
+        width: parent.width
+        text: root.controller.statusText
     }
 
     EmptyNote {

@@ -5,8 +5,8 @@
 #include <QtCore/QPointF>
 #include <QtCore/QSizeF>
 
-#include "ui/MapRegion.h"
-#include "ui/WebMercator.h"
+#include "geo/MapRegion.h"
+#include "geo/WebMercator.h"
 
 namespace wayloom {
 

@@ -67,6 +67,11 @@ void MapGestures::putDown(const QList<QPointF>& fingers, quint64 timeMs) {
     mIsDragging = mHadManyFingers = false;
     mMotion.halt();
   }
+  // Of a pinch that must not move the map, the last finger moves it only by a drag of its own.
+  if (mZoomsAboutCenter && mHadManyFingers && fingers.size() == 1) {
+    mPress = {centroidOf(fingers), timeMs};
+    mIsDragging = false;
+  }
   mHadManyFingers = mHadManyFingers || fingers.size() > 1;
   mFingers = fingers;
   mSamples.clear();
@@ -77,10 +82,14 @@ void MapGestures::follow(const QList<QPointF>& fingers, quint64 timeMs) {
   if (!mIsDragging && fingers.size() == 1 && isNear(now, mPress.centroid, dragDistance())) return;
   if (now == before && fingers == mFingers) return;
   mIsDragging = true;
-  mMotion.panBy(now - before);
+  const bool pans = !mZoomsAboutCenter || fingers.size() == 1;
+  if (pans) mMotion.panBy(now - before);
   const double spreadBefore = spreadOf(mFingers), spread = spreadOf(fingers);
-  if (spreadBefore > 1 && spread > 1) mMotion.zoomAbout(now, std::log2(spread / spreadBefore));
+  if (spreadBefore > 1 && spread > 1) {
+    mMotion.zoomAbout(zoomPoint(now), std::log2(spread / spreadBefore));
+  }
   mFingers = fingers;
+  if (!pans) return;
   mSamples.push_back({now, timeMs});
   while (mSamples.front().timeMs + kSampleTimeMs < timeMs) mSamples.pop_front();
 }
@@ -114,10 +123,15 @@ void MapGestures::tap(quint64 timeMs) {
   if (mIsTouch && mLastTap.timeMs > 0 && timeMs < mLastTap.timeMs + interval &&
       isNear(mPress.centroid, mLastTap.centroid, 4 * dragDistance())) {
     mLastTap = {};
-    return mMotion.animateZoomAbout(mPress.centroid, 1);
+    return mMotion.animateZoomAbout(zoomPoint(mPress.centroid), 1);
   }
   mLastTap = {mPress.centroid, timeMs};
   if (mTapped) mTapped();
+}
+
+QPointF MapGestures::zoomPoint(QPointF pointedAt) const {
+  const QSizeF size = mMotion.camera().size();
+  return mZoomsAboutCenter ? QPointF(size.width() / 2, size.height() / 2) : pointedAt;
 }
 
 void MapGestures::cancel() {
@@ -140,13 +154,13 @@ void MapGestures::touch(const QTouchEvent& event) {
 void MapGestures::doubleClick(QPointF position) {
   mFingers.clear();
   mIsDragging = false;
-  mMotion.animateZoomAbout(position, 1);
+  mMotion.animateZoomAbout(zoomPoint(position), 1);
 }
 
 void MapGestures::wheel(const QWheelEvent& event) {
   const double steps = event.angleDelta().y() / double{QWheelEvent::DefaultDeltasPerStep};
   if (steps == 0) return;
-  mMotion.zoomAbout(event.position(), steps * kZoomPerWheelStep);
+  mMotion.zoomAbout(zoomPoint(event.position()), steps * kZoomPerWheelStep);
   mMotion.settleSoon();
 }
 

@@ -24,6 +24,9 @@ class MapGestures {
   void setFingers(const QList<QPointF>& fingers, quint64 timeMs);
   /// The fingers were taken away by someone else.
   void cancel();
+  /// Zooms about the middle of the view from now on, or about where the user points.
+  void setZoomsAboutCenter(bool does) { mZoomsAboutCenter = does; }
+  bool zoomsAboutCenter() const { return mZoomsAboutCenter; }
   bool isDragging() const { return mIsDragging; }
 
   void touch(const QTouchEvent& event);
@@ -46,6 +49,7 @@ class MapGestures {
   void lift(quint64 timeMs);
   void tap(quint64 timeMs);
   QPointF velocityAt(quint64 timeMs) const;
+  QPointF zoomPoint(QPointF pointedAt) const;
 
   MapMotion& mMotion;
   std::function<void()> mTapped;
@@ -56,6 +60,7 @@ class MapGestures {
   bool mIsDragging = false;
   bool mHadManyFingers = false;
   bool mIsTouch = false;
+  bool mZoomsAboutCenter = false;
 };
 
 }  // namespace wayloom

@@ -5,7 +5,7 @@
 #include <QtCore/QPointF>
 #include <QtGui/QImage>
 
-#include "places/Coordinate.h"
+#include "geo/Coordinate.h"
 
 namespace wayloom {
 

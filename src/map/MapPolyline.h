@@ -5,7 +5,7 @@
 
 #include <QtGui/QColor>
 
-#include "places/Coordinate.h"
+#include "geo/Coordinate.h"
 
 namespace wayloom {
 

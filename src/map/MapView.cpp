@@ -113,6 +113,12 @@ void MapView::setUserLocation(std::optional<Coordinate> location) {
   if (mShowsUserLocation) mAnnotationItem->setUserLocation(location);
 }
 
+void MapView::setZoomsAboutCenter(bool does) {
+  if (does == zoomsAboutCenter()) return;
+  mGestures.setZoomsAboutCenter(does);
+  Q_EMIT zoomsAboutCenterChanged();
+}
+
 QPointF MapView::viewPoint(Coordinate coordinate) const {
   return mMotion.camera().viewPoint(worldPoint(coordinate));
 }

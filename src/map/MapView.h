@@ -33,6 +33,8 @@ class MapView : public QQuickItem {
   Q_PROPERTY(bool complete READ isComplete NOTIFY completeChanged)
   Q_PROPERTY(bool showsUserLocation READ showsUserLocation WRITE setShowsUserLocation NOTIFY
                  showsUserLocationChanged)
+  Q_PROPERTY(bool zoomsAboutCenter READ zoomsAboutCenter WRITE setZoomsAboutCenter NOTIFY
+                 zoomsAboutCenterChanged)
 
  public:
   explicit MapView(QQuickItem* parent = nullptr);
@@ -70,6 +72,10 @@ class MapView : public QQuickItem {
   void setShowsUserLocation(bool shows);
   void setUserLocation(std::optional<Coordinate> location);
 
+  /// Whether no zoom by the user moves the centre, since that is what the map is there to choose.
+  bool zoomsAboutCenter() const { return mGestures.zoomsAboutCenter(); }
+  void setZoomsAboutCenter(bool does);
+
   /// Where a coordinate is in the view, in points, also if that is out of sight.
   QPointF viewPoint(Coordinate coordinate) const;
   Coordinate coordinateAtPoint(QPointF viewPoint) const;
@@ -86,6 +92,7 @@ class MapView : public QQuickItem {
   void attributionChanged();
   void completeChanged();
   void showsUserLocationChanged();
+  void zoomsAboutCenterChanged();
 
  protected:
   void componentComplete() override;

@@ -1,8 +1,8 @@
-#include "ui/MapViewZoom.h"
+#include "map/MapViewZoom.h"
 
 #include <algorithm>
 
-#include "ui/MapZoom.h"
+#include "geo/MapZoom.h"
 
 namespace wayloom {
 

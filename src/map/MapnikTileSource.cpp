@@ -24,8 +24,8 @@
 #include <QtCore/QSet>
 #include <QtCore/QStandardPaths>
 
+#include "geo/WebMercator.h"
 #include "map/LazyTables.h"
-#include "ui/WebMercator.h"
 
 namespace wayloom {
 

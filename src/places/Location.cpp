@@ -16,7 +16,7 @@ Location::~Location() = default;
 
 void Location::setDelegate(LocationDelegate* delegate) {
   mDelegate = delegate;
-  mDelegateLifetime = delegate ? delegate->lifetime() : std::weak_ptr<const void>();
+  mDelegateLifetime = LocationDelegate::lifetimeOf(delegate);
 }
 
 LocationDelegate* Location::delegate() const {

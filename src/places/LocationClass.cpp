@@ -50,7 +50,8 @@ bool LocationClass::isLocationOn() const {
 
 void LocationClass::addressWithCoordinate(Coordinate coordinate, LocationDelegate* delegate) {
   mPlatform.geocoder.reverseGeocode(
-      coordinate, [delegate, lifetime = delegate->lifetime()](const GeocoderAnswer& answer) {
+      coordinate,
+      [delegate, lifetime = LocationDelegate::lifetimeOf(delegate)](const GeocoderAnswer& answer) {
         if (lifetime.expired()) return;
         if (const auto line = firstFormattedLine(answer)) {
           delegate->reverseGeocoderSuccess(nullptr, *line);
@@ -63,7 +64,7 @@ void LocationClass::addressWithCoordinate(Coordinate coordinate, LocationDelegat
 void LocationClass::coordinateWithAddress(const std::string& address, LocationDelegate* delegate) {
   mPlatform.geocoder.geocodeAddress(
       address, std::nullopt,
-      [delegate, lifetime = delegate->lifetime()](const GeocoderAnswer& answer) {
+      [delegate, lifetime = LocationDelegate::lifetimeOf(delegate)](const GeocoderAnswer& answer) {
         if (lifetime.expired()) return;
         if (answer.places && !answer.places->empty() && !answer.error) {
           delegate->geocoderSuccess(nullptr, answer.places->front().coordinate);

@@ -31,13 +31,14 @@ class LocationClass {
 
   bool isLocationOn() const;
 
-  /// Report reverseGeocoderSuccess with the first address line, or reverseGeocoderFailed.
+  /// Report reverseGeocoderSuccess with the first address line, or reverseGeocoderFailed; to nobody
+  /// without a delegate.
   void addressWithCoordinate(Coordinate coordinate, LocationDelegate* delegate);
   void reverseGeocoderCoordinate(Coordinate coordinate, LocationDelegate* delegate) {
     addressWithCoordinate(coordinate, delegate);
   }
 
-  /// Report geocoderSuccess with the best place, or geocoderFailed.
+  /// Report geocoderSuccess with the best place, or geocoderFailed; to nobody without a delegate.
   void coordinateWithAddress(const std::string& address, LocationDelegate* delegate);
   void geocoderAddress(const std::string& address, LocationDelegate* delegate) {
     coordinateWithAddress(address, delegate);

@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "places/Coordinate.h"
+#include "geo/Coordinate.h"
 
 namespace wayloom {
 
@@ -27,8 +27,11 @@ class LocationDelegate {
   virtual void geocoderFailed(Location* /*location*/, const std::optional<std::string>& /*error*/) {
   }
 
-  /// Expires with the delegate, so that a late answer is not sent to one that is gone.
-  std::weak_ptr<const void> lifetime() const { return mLifetime; }
+  /// Expires with the delegate, so that a late answer is not sent to one that is gone; expired from
+  /// the start without one.
+  static std::weak_ptr<const void> lifetimeOf(const LocationDelegate* delegate) {
+    return delegate ? std::weak_ptr(delegate->mLifetime) : std::weak_ptr<const void>();
+  }
 
  protected:
   LocationDelegate() = default;

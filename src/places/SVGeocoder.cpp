@@ -2,10 +2,10 @@
 
 #include <utility>
 
+#include "geo/MapRegion.h"
 #include "places/GeocodingAnswer.h"
 #include "places/URLEncoding.h"
 #include "settings/TextConversions.h"
-#include "ui/MapRegion.h"
 
 namespace wayloom {
 

@@ -11,7 +11,7 @@
 #include <variant>
 #include <vector>
 
-#include "places/CircularRegion.h"
+#include "geo/CircularRegion.h"
 #include "places/SVPlacemark.h"
 #include "platform/MainQueue.h"
 #include "platform/WebRequests.h"

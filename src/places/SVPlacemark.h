@@ -4,8 +4,8 @@
 #include <rapidjson/fwd.h>
 #include <string>
 
-#include "places/Coordinate.h"
-#include "ui/MapRegion.h"
+#include "geo/Coordinate.h"
+#include "geo/MapRegion.h"
 
 namespace wayloom {
 

@@ -5,7 +5,7 @@
 
 #include <QtCore/QPointer>
 
-#include "app/BaseViewController.h"
+#include "kit/BaseViewController.h"
 #include "map/MapView.h"
 #include "places/LocationClass.h"
 #include "platform/Alerts.h"

@@ -24,6 +24,7 @@ FocusScope {
         anchors.fill: parent
         anchors.topMargin: topView.y + topView.height
         anchors.bottomMargin: buttonBar.height
+        zoomsAboutCenter: true
         focus: true
         onTapped: mainMapView.forceActiveFocus()
         Accessible.role: Accessible.Graphic

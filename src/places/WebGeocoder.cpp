@@ -1,6 +1,5 @@
 #include "places/WebGeocoder.h"
 
-#include <cmath>
 #include <utility>
 
 namespace wayloom {
@@ -13,9 +12,7 @@ constexpr double kNearMetres = 100'000;
 std::optional<GeocodedPlace> place(const SVPlacemark& placemark) {
   if (!placemark.location) return std::nullopt;
   const Coordinate at = *placemark.location;
-  // Also refuses what is not a number.
-  const bool isOnEarth = std::abs(at.latitude) <= 90 && std::abs(at.longitude) <= 180;
-  if (!isOnEarth) return std::nullopt;
+  if (!isOnGlobe(at)) return std::nullopt;
   GeocodedPlace place{at, {}};
   for (const auto& line : {placemark.formattedAddress, placemark.name()}) {
     if (!line || line->empty()) continue;

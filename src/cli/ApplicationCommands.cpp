@@ -1,5 +1,5 @@
 #include "cli/Commands.h"
-#include "cli/TextForms.h"
+#include "cli/Table.h"
 #include "lists/ApplicationList.h"
 #include "lists/Whitelist.h"
 #include "platform/HomeScreen.h"
@@ -8,47 +8,39 @@ namespace wayloom {
 
 namespace {
 
-Whitelist load(CommandLine& line) {
-  line.warnOfDamage(SettingsFile::Whitelist);
+Result<Whitelist> load(CommandLine& line) {
   Whitelist whitelist(line.files());
-  whitelist.load();
-  return whitelist;
+  Status loaded = whitelist.load();
+  return loaded ? Result<Whitelist>(std::move(whitelist)) : loaded.failure();
 }
 
-/// One line of a table; identifiers and names come from outside.
-std::string row(bool ticked, const std::string& identifier) {
-  return std::string(ticked ? "yes" : "no") + '\t' + oneLine(identifier);
+/// Turns a tick over in one turn; answers the changed list.
+Result<Whitelist> toggle(CommandLine& line, const std::string& identifier) {
+  const auto turn = line.files().takeTurn();
+  if (!turn) return turn.failure();
+  auto whitelist = load(line);
+  if (!whitelist) return whitelist.failure();
+  Status toggled = whitelist->toggle(identifier);
+  return toggled ? whitelist : toggled.failure();
+}
+
+const char* tickText(bool ticked) {
+  return ticked ? "yes" : "no";
 }
 
 nlohmann::json entryJson(bool ticked, const std::string& identifier) {
   return {{"identifier", identifier}, {"ticked", ticked}};
 }
 
-/// Joins rows with line ends; the note stands for a table without rows.
-class Table {
- public:
-  void add(const std::string& row, nlohmann::json json) {
-    if (!mAnswer.json.empty()) mAnswer.text += '\n';
-    mAnswer.text += row;
-    mAnswer.json.push_back(std::move(json));
-  }
-  Answer orNote(const char* note) && {
-    if (mAnswer.json.empty()) mAnswer.text = note;
-    return std::move(mAnswer);
-  }
-
- private:
-  Answer mAnswer{{}, nlohmann::json::array()};
-};
-
 }  // namespace
 
 ExitStatus listWhitelist(CommandLine& line) {
-  const Whitelist whitelist = load(line);
+  const auto whitelist = load(line);
+  if (!whitelist) return line.fail(whitelist.failure());
   Table table;
-  for (const auto& [identifier, value] : whitelist.entries()) {
-    const bool ticked = whitelist.isTicked(identifier);
-    table.add(row(ticked, identifier), entryJson(ticked, identifier));
+  for (const auto& [identifier, value] : whitelist->entries()) {
+    const bool ticked = whitelist->isTicked(identifier);
+    table.add({tickText(ticked), identifier}, entryJson(ticked, identifier));
   }
   return line.answer(std::move(table).orNote(
       "the whitelist is empty; tick an application with 'whitelist toggle ID'"));
@@ -58,27 +50,24 @@ ExitStatus toggleWhitelist(CommandLine& line, const std::string& identifier) {
   if (identifier.empty() || storableIdentifier(identifier) != identifier) {
     return line.wrongUsage("the identifier must be text without control characters; see 'apps'");
   }
-  line.takeTurn();
-  Whitelist whitelist = load(line);
-  if (const Status written = whitelist.toggle(identifier); !written) {
-    return line.fail(written.message());
-  }
-  const bool ticked = whitelist.isTicked(identifier);
-  return line.answer({row(ticked, identifier), entryJson(ticked, identifier)});
+  const auto whitelist = toggle(line, identifier);
+  if (!whitelist) return line.fail(whitelist.failure());
+  const bool ticked = whitelist->isTicked(identifier);
+  return line.answer({tableRow({tickText(ticked), identifier}), entryJson(ticked, identifier)});
 }
 
 ExitStatus listApplications(CommandLine& line) {
   const auto applications = ApplicationList::installedAppModel(*systemHomeScreen());
   if (!applications) return line.fail("the home screen gives no list of applications");
-  const Whitelist whitelist = load(line);
+  const auto whitelist = load(line);
+  if (!whitelist) return line.fail(whitelist.failure());
   Table table;
   for (const ApplicationModel& application : *applications) {
-    const bool ticked = whitelist.isTicked(application.appBundle);
+    const bool ticked = whitelist->isTicked(application.appBundle);
     nlohmann::json json = entryJson(ticked, application.appBundle);
     json["name"] = application.appName;
     json["icon"] = application.appIcon.has_value();
-    table.add(row(ticked, application.appBundle) + '\t' + oneLine(application.appName),
-              std::move(json));
+    table.add({tickText(ticked), application.appBundle, application.appName}, std::move(json));
   }
   return line.answer(std::move(table).orNote("no applications are installed here"));
 }

@@ -1,35 +1,24 @@
 #include "cli/CommandLine.h"
 
-#include <fcntl.h>
 #include <iostream>
-#include <sys/file.h>
 
 #include "cli/TextForms.h"
 #include "places/WebGeocoder.h"
 #include "platform/CurlWebRequests.h"
-#include "platform/PreferredLanguage.h"
-#include "platform/RegionDirections.h"
-#include "platform/RegionGeocoder.h"
-#include "platform/Services.h"
+#include "platform/OnlineServices.h"
+#include "platform/PreferredLanguages.h"
 #include "platform/SystemNotices.h"
+#include "regions/RegionDirections.h"
 #include "regions/RegionDirectories.h"
+#include "regions/RegionGeocoder.h"
 #include "settings/SettingsRoot.h"
 
 namespace wayloom {
 
-CommandLine::CommandLine(const Options& options)
-    : mOptions(options), mFiles(settingsRoot(options.root)) {}
+CommandLine::CommandLine(const Options& options, FileSystem& system)
+    : mOptions(options), mFiles(settingsRoot(options.root), SettingsFiles::kPatience, system) {}
 
 CommandLine::~CommandLine() = default;
-
-void CommandLine::takeTurn() {
-  const std::filesystem::path folder = mFiles.path(SettingsFile::Master).parent_path();
-  std::error_code ignored;
-  std::filesystem::create_directories(folder, ignored);
-  mTurn.reset(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  // Without a lock the write itself is as whole as ever.
-  if (mTurn.get() >= 0) (void)::flock(mTurn.get(), LOCK_EX);
-}
 
 ChangeNotice& CommandLine::notice() {
   if (!mNotice) mNotice = std::make_unique<SystemNotices>(noticeCommand());
@@ -48,7 +37,7 @@ Directions& CommandLine::directions() {
 }
 
 std::unique_ptr<Geocoder> CommandLine::makeOnlineGeocoder() {
-  const Services services = Services::read(Services::defaultFile());
+  const OnlineServices services = OnlineServices::read(OnlineServices::defaultFile());
   if (!services.error().empty()) warn(services.error());
   mRequests = std::make_unique<CurlWebRequests>(mLoop);
   return std::make_unique<WebGeocoder>(
@@ -65,6 +54,7 @@ const RegionStore& CommandLine::regions() {
 }
 
 ExitStatus CommandLine::answer(const Answer& answer) const {
+  warnOfDamage();
   if (mOptions.json) {
     // Texts come from files; what is no UTF-8 in them must not stop the answer.
     std::cout << answer.json.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << '\n';
@@ -76,6 +66,7 @@ ExitStatus CommandLine::answer(const Answer& answer) const {
 }
 
 ExitStatus CommandLine::fail(const std::string& why) const {
+  warnOfDamage();
   warn(why);
   return ExitStatus::Failed;
 }
@@ -89,10 +80,14 @@ void CommandLine::warn(const std::string& what) const {
   std::cerr << "wayloomctl: " << oneLine(what) << '\n';
 }
 
-void CommandLine::warnOfDamage(SettingsFile name) const {
-  const auto contents = mFiles.file(name).read();
-  if (contents.state != PropertyListFile::State::Damaged) return;
-  warn(mFiles.path(name).string() + " is damaged and reads as nothing: " + contents.damage);
+void CommandLine::warnOfDamage() const {
+  for (const SettingsFile name : {SettingsFile::Master, SettingsFile::Location, SettingsFile::Route,
+                                  SettingsFile::Favorites, SettingsFile::Whitelist}) {
+    const auto& damage = mFiles.file(name).damage();
+    if (!damage || !mNamed.insert(name).second) continue;
+    warn(mFiles.path(name).string() + " is damaged and reads as nothing: " + damage->problem +
+         (damage->keptAs.empty() ? "" : "; it was kept as " + damage->keptAs.string()));
+  }
 }
 
 }  // namespace wayloom

@@ -4,6 +4,7 @@
 #include <memory>
 #include <nlohmann/json.hpp>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -13,7 +14,6 @@
 #include "platform/RunLoop.h"
 #include "platform/WebRequests.h"
 #include "regions/RegionStore.h"
-#include "settings/Descriptor.h"
 #include "settings/Result.h"
 #include "settings/SettingsFiles.h"
 
@@ -40,13 +40,11 @@ class CommandLine {
     bool json = false;
   };
 
-  explicit CommandLine(const Options& options);
+  /// `system` must outlive this object.
+  explicit CommandLine(const Options& options, FileSystem& system = FileSystem::machine());
   ~CommandLine();
 
   SettingsFiles& files() { return mFiles; }
-  /// Waits until no other wayloomctl changes the files below the root, and then keeps the others
-  /// waiting until this one ends. To be called before reading what is to be changed.
-  void takeTurn();
   ChangeNotice& notice();
   Geocoder& geocoder();
   Directions& directions();
@@ -55,22 +53,25 @@ class CommandLine {
   const RegionStore& regions();
   const Options& options() const { return mOptions; }
 
-  /// Prints the answer on standard output.
+  /// Prints the answer on standard output. Like a failure, it ends the command.
   ExitStatus answer(const Answer& answer) const;
   /// Prints one line on standard error that says why, and what to do.
   ExitStatus fail(const std::string& why) const;
+  /// The same for what went wrong, or is refused.
+  ExitStatus fail(const Failure& failure) const { return fail(failure.message); }
   ExitStatus wrongUsage(const std::string& why) const;
   /// A warning on standard error; the command goes on.
   void warn(const std::string& what) const;
-  /// A warning when the file cannot be read: it is read as nothing, which a person should know.
-  void warnOfDamage(SettingsFile name) const;
 
  private:
   std::unique_ptr<Geocoder> makeOnlineGeocoder();
+  /// Names each damaged settings file that was read, once: it reads as nothing, which a person
+  /// should know.
+  void warnOfDamage() const;
 
   Options mOptions;
   SettingsFiles mFiles;
-  Descriptor mTurn;
+  mutable std::set<SettingsFile> mNamed;
   RunLoop mLoop;
   std::unique_ptr<ChangeNotice> mNotice;
   std::unique_ptr<WebRequests> mRequests;

@@ -11,6 +11,8 @@ namespace wayloom {
 // does, and answers.
 
 ExitStatus showStatus(CommandLine& line);
+/// The answer of a change that is in its file: the status as far as it can be read.
+ExitStatus answerDone(CommandLine& line);
 
 ExitStatus showMode(CommandLine& line);
 ExitStatus switchMode(CommandLine& line, Mode mode);

@@ -1,6 +1,8 @@
+#include <cmath>
+
 #include "cli/Commands.h"
 #include "cli/PlaceArgument.h"
-#include "cli/TextForms.h"
+#include "cli/Table.h"
 #include "fixed/FixedLocation.h"
 #include "lists/Favorites.h"
 #include "settings/ModeSwitch.h"
@@ -13,11 +15,11 @@ namespace {
 /// Stands for a name of blanks only; the same key as on the screen, whose table is not here.
 constexpr char kUnnamed[] = "Unknow";
 
-Favorites load(CommandLine& line) {
-  line.warnOfDamage(SettingsFile::Favorites);
+/// The list as it is now.
+Result<Favorites> load(CommandLine& line) {
   Favorites favorites(line.files());
-  favorites.load();
-  return favorites;
+  Status loaded = favorites.load();
+  return loaded ? Result<Favorites>(std::move(favorites)) : loaded.failure();
 }
 
 nlohmann::json toJson(const Favorites& favorites, std::size_t index) {
@@ -31,29 +33,23 @@ nlohmann::json toJson(const Favorites& favorites, std::size_t index) {
           {"longitude", degrees("longitude")}};
 }
 
-std::string toText(const Favorites& favorites, std::size_t index) {
+std::string positionText(const Favorites& favorites, std::size_t index) {
   const auto degrees = [&](const char* key) {
     const PropertyList* value = favorites.value(index, key);
-    return value ? formatReal(doubleValue(value)) : std::string("-");
+    const double number = doubleValue(value);
+    return value && std::isfinite(number) ? formatReal(number) : std::string("-");
   };
-  std::string text = std::to_string(index + 1);
-  text.append("\t").append(degrees("latitude")).append(", ").append(degrees("longitude"));
-  return text.append("\t").append(oneLine(std::string(favorites.name(index))));
+  return degrees("latitude") + ", " + degrees("longitude");
 }
 
 ExitStatus show(CommandLine& line, const Favorites& favorites) {
-  Answer answer{{}, nlohmann::json::array()};
+  Table table;
   for (std::size_t index = 0; index < favorites.entries().size(); ++index) {
-    if (index > 0) answer.text += '\n';
-    answer.text += toText(favorites, index);
-    answer.json.push_back(toJson(favorites, index));
+    table.add({std::to_string(index + 1), positionText(favorites, index),
+               std::string(favorites.name(index))},
+              toJson(favorites, index));
   }
-  if (favorites.entries().empty()) answer.text = "no favourites; add one with 'favorites add NAME'";
-  return line.answer(answer);
-}
-
-ExitStatus finish(CommandLine& line, const Status& result, const Favorites& favorites) {
-  return result ? show(line, favorites) : line.fail(result.message());
+  return line.answer(std::move(table).orNote("no favourites; add one with 'favorites add NAME'"));
 }
 
 /// What is wrong with a number that counts from 1; none when there is such a favourite.
@@ -63,6 +59,38 @@ std::optional<std::string> refusal(const Favorites& favorites, long long number)
   return "there is no favourite " + std::to_string(number) +
          (count == 0 ? std::string(": the list is empty")
                      : ": the numbers run from 1 to " + std::to_string(count));
+}
+
+/// Calls `change` with the list as it is now, in one turn; answers the changed list.
+template <typename Change>
+Result<Favorites> changeFavorites(CommandLine& line, Change&& change) {
+  const auto turn = line.files().takeTurn();
+  if (!turn) return turn.failure();
+  auto favorites = load(line);
+  if (!favorites) return favorites.failure();
+  if (Status changed = change(*favorites); !changed) return changed.failure();
+  return favorites;
+}
+
+/// The same for the favourite of this number.
+template <typename Change>
+Result<Favorites> changeFavorite(CommandLine& line, long long number, Change&& change) {
+  return changeFavorites(line, [&](Favorites& favorites) -> Status {
+    if (const auto why = refusal(favorites, number)) return failed(*why);
+    return change(favorites, static_cast<std::size_t>(number) - 1);
+  });
+}
+
+ExitStatus show(CommandLine& line, const Result<Favorites>& favorites) {
+  return favorites ? show(line, *favorites) : line.fail(favorites.failure());
+}
+
+/// The fixed location's position as it stands in the file.
+Result<Coordinate> fixedPosition(CommandLine& line) {
+  const auto fixed = readFixedLocation(line.files());
+  if (!fixed) return fixed.failure();
+  if (fixed->hasCoordinate) return fixed->coordinate;
+  return failed("no position was chosen yet: give one, as in 'favorites add Home 57.7,12'");
 }
 
 }  // namespace
@@ -79,36 +107,29 @@ ExitStatus addFavorite(CommandLine& line, const std::string& name,
     if (const auto* status = std::get_if<ExitStatus>(&resolved)) return *status;
     coordinate = std::get<GeocodedPlace>(resolved).coordinate;
   } else {
-    const FixedLocationState fixed = readFixedLocation(line.files());
-    if (!fixed.hasCoordinate) {
-      return line.fail("no position was chosen yet: give one, as in 'favorites add Home 57.7,12'");
-    }
-    coordinate = fixed.coordinate;
+    const auto fixed = fixedPosition(line);
+    if (!fixed) return line.fail(fixed.failure());
+    coordinate = *fixed;
   }
-  line.takeTurn();
-  Favorites favorites = load(line);
-  const Status added = favorites.add(name, coordinate, kUnnamed);
-  return finish(line, added, favorites);
+  return show(line, changeFavorites(line, [&](Favorites& favorites) {
+                return favorites.add(name, coordinate, kUnnamed);
+              }));
 }
 
 ExitStatus removeFavorite(CommandLine& line, long long number) {
-  line.takeTurn();
-  Favorites favorites = load(line);
-  if (const auto why = refusal(favorites, number)) return line.fail(*why);
-  const Status removed = favorites.removeAt(static_cast<std::size_t>(number) - 1);
-  return finish(line, removed, favorites);
+  return show(line, changeFavorite(line, number, [](Favorites& favorites, std::size_t index) {
+                return favorites.removeAt(index);
+              }));
 }
 
 ExitStatus chooseFavorite(CommandLine& line, long long number) {
-  line.takeTurn();
-  Favorites favorites = load(line);
-  if (const auto why = refusal(favorites, number)) return line.fail(*why);
   // The list opens from the fixed-location screen only, so a drive that is on stands in the way.
-  if (const Status switched = switchToMode(line.files(), Mode::FixedLocation); !switched) {
-    return line.fail(switched.message());
-  }
-  const Status chosen = favorites.choose(static_cast<std::size_t>(number) - 1);
-  return chosen ? showStatus(line) : line.fail(chosen.message());
+  const auto choose = [&](Favorites& favorites, std::size_t index) {
+    Status entered = enterMode(line.files(), Mode::FixedLocation);
+    return entered ? favorites.choose(index) : entered;
+  };
+  const auto chosen = changeFavorite(line, number, choose);
+  return chosen ? answerDone(line) : line.fail(chosen.failure());
 }
 
 }  // namespace wayloom

@@ -1,8 +1,10 @@
 #include "cli/PlaceArgument.h"
 
 #include <charconv>
-#include <cmath>
+#include <limits>
 
+#include "cli/TextForms.h"
+#include "fixed/SearchInput.h"
 #include "settings/TrimmedText.h"
 
 namespace wayloom {
@@ -11,18 +13,30 @@ namespace {
 
 constexpr std::chrono::seconds kPatience{30};
 
-std::optional<double> parseDegrees(std::string_view text, double limit) {
-  std::string trimmed = trimmedText(text);
-  if (trimmed.starts_with('+')) trimmed.erase(0, 1);
+std::optional<double> parseDegrees(std::string_view text) {
+  if (text.starts_with('+')) text.remove_prefix(1);
   double value = 0;
-  const char* end = trimmed.data() + trimmed.size();
-  const auto [stopped, error] = std::from_chars(trimmed.data(), end, value);
-  if (error != std::errc() || stopped != end || !(std::abs(value) <= limit)) return std::nullopt;
-  return value;
+  const char* end = text.data() + text.size();
+  const auto [stopped, error] = std::from_chars(text.data(), end, value);
+  if (text.empty() || stopped != end) return std::nullopt;
+  // What no double can hold is a number all the same.
+  return error == std::errc() ? value : std::numeric_limits<double>::infinity();
 }
 
+/// Two complete numbers with a comma between them, whatever their size: "nan,inf" are two as well.
+std::optional<Coordinate> parseNumbers(std::string_view text) {
+  const auto parts = splitCoordinate(text);
+  if (!parts) return std::nullopt;
+  const auto latitude = parseDegrees(parts->latitude);
+  const auto longitude = parseDegrees(parts->longitude);
+  if (!latitude || !longitude) return std::nullopt;
+  return Coordinate{*latitude, *longitude};
+}
+
+/// Whether a position was meant, and not an address, be it a wrong one.
 bool looksLikeCoordinate(std::string_view text) {
-  return !text.empty() && text.find_first_not_of("0123456789+-., \t") == std::string_view::npos;
+  return text.find_first_not_of("0123456789+-., \t") == std::string_view::npos ||
+         parseNumbers(text);
 }
 
 template <typename Ask>
@@ -38,13 +52,9 @@ GeocoderAnswer waitFor(CommandLine& line, Ask&& ask) {
 }  // namespace
 
 std::optional<Coordinate> parseCoordinate(std::string_view text) {
-  if (text.starts_with("#:")) text.remove_prefix(2);
-  const std::size_t comma = text.find(',');
-  if (comma == std::string_view::npos) return std::nullopt;
-  const auto latitude = parseDegrees(text.substr(0, comma), 90);
-  const auto longitude = parseDegrees(text.substr(comma + 1), 180);
-  if (!latitude || !longitude) return std::nullopt;
-  return Coordinate{*latitude, *longitude};
+  const auto marked = markedPosition(text);
+  const auto numbers = parseNumbers(marked ? *marked : text);
+  return numbers && isOnGlobe(*numbers) ? numbers : std::nullopt;
 }
 
 GeocoderAnswer geocodeNow(CommandLine& line, const std::string& address,
@@ -61,20 +71,18 @@ GeocoderAnswer reverseGeocodeNow(CommandLine& line, Coordinate coordinate) {
 }
 
 ResolvedPlace resolvePlace(CommandLine& line, const std::string& argument) {
-  if (trimmedText(argument).empty()) return line.wrongUsage("the place is empty");
-  const bool marked = argument.starts_with("#:");
-  const std::string text = marked ? argument.substr(2) : argument;
-  if (marked || looksLikeCoordinate(text)) {
-    if (const auto coordinate = parseCoordinate(text)) return GeocodedPlace{*coordinate, {}};
-    return line.wrongUsage("'" + argument +
-                           "' is no position: give LATITUDE,LONGITUDE in degrees, latitude within "
+  const std::string address = trimmedText(argument);
+  if (address.empty()) return line.wrongUsage("the place is empty");
+  if (markedPosition(address) || looksLikeCoordinate(address)) {
+    if (const auto coordinate = parseCoordinate(address)) return GeocodedPlace{*coordinate, {}};
+    return line.wrongUsage(inQuotes(argument) +
+                           " is no position: give LATITUDE,LONGITUDE in degrees, latitude within "
                            "90 and longitude within 180");
   }
-  const std::string address = trimmedText(text);
   const GeocoderAnswer answer = geocodeNow(line, address, std::nullopt);
   if (answer.places && !answer.places->empty()) return answer.places->front();
-  return line.fail(answer.error.value_or("Nothing was found") + " ('" + address +
-                   "'); try another spelling, or give LATITUDE,LONGITUDE");
+  return line.fail(answer.error.value_or("Nothing was found") + " (" + inQuotes(address) +
+                   "); try another spelling, or give LATITUDE,LONGITUDE");
 }
 
 }  // namespace wayloom

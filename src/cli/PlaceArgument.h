@@ -5,7 +5,7 @@
 #include <variant>
 
 #include "cli/CommandLine.h"
-#include "places/Coordinate.h"
+#include "geo/Coordinate.h"
 
 namespace wayloom {
 

@@ -1,5 +1,8 @@
+#include <algorithm>
+
 #include "cli/Commands.h"
 #include "cli/PlaceArgument.h"
+#include "cli/Table.h"
 #include "cli/TextForms.h"
 #include "settings/TrimmedText.h"
 
@@ -19,25 +22,22 @@ ExitStatus searchPlaces(CommandLine& line, const std::string& text,
                         const std::optional<std::string>& near, int limit) {
   std::optional<Coordinate> center;
   if (near && !(center = parseCoordinate(*near))) {
-    return line.wrongUsage("'" + *near + "' is no position: give LATITUDE,LONGITUDE in degrees");
+    return line.wrongUsage(inQuotes(*near) + " is no position: give LATITUDE,LONGITUDE in degrees");
   }
   const std::string address = trimmedText(text);
   if (address.empty()) return line.wrongUsage("the text to search for is empty");
 
-  const GeocoderAnswer found = geocodeNow(line, address, center);
+  GeocoderAnswer found = geocodeNow(line, address, center);
   if (!found.places || found.places->empty()) {
-    return line.fail(found.error.value_or("Nothing was found") + " ('" + address + "')");
+    return line.fail(found.error.value_or("Nothing was found") + " (" + inQuotes(address) + ")");
   }
-  Answer answer{"", nlohmann::json::array()};
+  found.places->resize(std::min(found.places->size(), static_cast<std::size_t>(limit)));
+  Table table;
   for (const GeocodedPlace& place : *found.places) {
-    if (static_cast<int>(answer.json.size()) == limit) break;
-    answer.json.push_back(toJson(place));
-    if (!answer.text.empty()) answer.text += '\n';
-    answer.text +=
-        coordinateText(place.coordinate) + "  " +
-        (place.formattedAddressLines.empty() ? "" : oneLine(place.formattedAddressLines.front()));
+    table.add({coordinateText(place.coordinate) + "  " + firstFormattedLine(place).value_or("")},
+              toJson(place));
   }
-  return line.answer(answer);
+  return line.answer(std::move(table).orNote(""));
 }
 
 ExitStatus showAddress(CommandLine& line, const std::string& place) {

@@ -6,8 +6,9 @@
 #include <unistd.h>
 
 #include "cli/Commands.h"
-#include "cli/TextForms.h"
+#include "cli/Table.h"
 #include "import/RegionImport.h"
+#include "regions/OwnRegions.h"
 #include "regions/RegionDirectories.h"
 
 namespace wayloom {
@@ -15,6 +16,9 @@ namespace wayloom {
 namespace {
 
 namespace fs = std::filesystem;
+
+constexpr char kNoFolder[] =
+    "there is no folder for regions of your own: set HOME, or name one with --regions";
 
 volatile std::sig_atomic_t isInterrupted = 0;
 
@@ -59,11 +63,6 @@ class ProgressLine {
   int mPercent = -1;
 };
 
-// Where this user's regions stand; those that come with the program stand elsewhere.
-fs::path ownFolder(const CommandLine& line) {
-  return regionDirectories(line.options().regions).front();
-}
-
 double megabytes(const fs::path& path) {
   std::error_code error;
   const auto bytes = fs::file_size(path, error);
@@ -75,72 +74,55 @@ std::string sizeText(const fs::path& path) {
   return std::to_string(tenths / 10) + '.' + std::to_string(tenths % 10) + " MB";
 }
 
-Answer answerOf(const Region& region) {
+std::vector<std::string> cellsOf(const Region& region) {
+  return {region.path.stem().string(), sizeText(region.path), region.info.name,
+          region.path.string()};
+}
+
+nlohmann::json toJson(const Region& region) {
   const RegionBounds& bounds = region.info.bounds;
-  return {region.path.stem().string() + '\t' + sizeText(region.path) + '\t' +
-              oneLine(region.info.name) + '\t' + region.path.string(),
-          {{"name", region.info.name},
-           {"path", region.path.string()},
-           {"megabytes", megabytes(region.path)},
-           {"attribution", region.info.attribution},
-           {"west", bounds.west},
-           {"south", bounds.south},
-           {"east", bounds.east},
-           {"north", bounds.north}}};
+  return {{"name", region.info.name},
+          {"path", region.path.string()},
+          {"megabytes", megabytes(region.path)},
+          {"attribution", region.info.attribution},
+          {"west", bounds.west},
+          {"south", bounds.south},
+          {"east", bounds.east},
+          {"north", bounds.north}};
 }
 
 }  // namespace
 
 ExitStatus listRegions(CommandLine& line) {
-  Answer all{"", nlohmann::json::array()};
-  for (const Region& region : line.regions().regions()) {
-    const Answer one = answerOf(region);
-    all.text += (all.text.empty() ? "" : "\n") + one.text;
-    all.json.push_back(one.json);
-  }
-  if (all.text.empty()) all.text = "No regions in " + ownFolder(line).string();
-  return line.answer(all);
+  Table table;
+  for (const Region& region : line.regions().regions()) table.add(cellsOf(region), toJson(region));
+  return line.answer(
+      std::move(table).orNote("no regions are installed; add one with 'region import FILE'"));
 }
 
 ExitStatus importRegionFile(CommandLine& line, const std::string& file,
-                            const std::optional<std::string>& givenName) {
-  const std::string name = givenName.value_or(extractStem(file));
-  const RegionStore& installed = line.regions();
-  const bool hides = std::any_of(
-      installed.regions().begin(), installed.regions().end(), [&](const Region& region) {
-        return region.path.stem() == name && region.path.parent_path() != ownFolder(line);
-      });
-  if (hides) {
-    return line.fail(
-        "the region " + name +
-        " comes with the program and would be hidden: choose another name with --name");
-  }
+                            const std::optional<std::string>& name) {
+  const auto folder = ownRegionDirectory(line.options().regions);
+  if (!folder) return line.fail(kNoFolder);
   const auto region = [&] {
     const InterruptionGuard guard;
     ProgressLine shown;
-    return importRegion(file, ownFolder(line), name, installed,
+    return importRegion(file, *folder, name.value_or(extractStem(file)), line.regions(),
                         [&](std::string_view step, double share) {
                           shown.show(step, share);
                           return isInterrupted == 0;
                         });
   }();
   if (!region) return line.fail(file + " is not imported: " + region.message());
-  return line.answer(answerOf(*region));
+  return line.answer({tableRow(cellsOf(*region)), toJson(*region)});
 }
 
 ExitStatus removeRegion(CommandLine& line, const std::string& name) {
-  if (const auto status = checkRegionName(name); !status) return line.fail(status.message());
-  const fs::path path = ownFolder(line) / (name + kRegionExtension);
-  std::error_code error;
-  if (fs::remove(path, error))
-    return line.answer({"Removed " + path.string(), {{"removed", path.string()}}});
-  if (error) return line.fail(path.string() + " cannot be removed: " + error.message());
-  const auto& regions = line.regions().regions();
-  const bool isGiven = std::any_of(regions.begin(), regions.end(), [&](const Region& region) {
-    return region.path.stem() == name;
-  });
-  return line.fail(isGiven ? "the region " + name + " comes with the program and stays"
-                           : "there is no region " + name + "; see 'wayloomctl region list'");
+  const auto folder = ownRegionDirectory(line.options().regions);
+  if (!folder) return line.fail(kNoFolder);
+  const auto removed = removeRegion(*folder, name, line.regions());
+  if (!removed) return line.fail(removed.message() + "; see 'wayloomctl region list'");
+  return line.answer({"Removed " + removed->string(), {{"removed", removed->string()}}});
 }
 
 }  // namespace wayloom

@@ -35,7 +35,7 @@ std::string durationText(double seconds) {
                     : std::to_string(whole / 60) + " min " + std::to_string(whole % 60) + " s";
 }
 
-Answer summaryOf(const DirectionsRoute& route) {
+Answer summaryOf(const Route& route) {
   nlohmann::json points = nlohmann::json::array();
   for (const Coordinate& position : route.polyline) points.push_back(toJson(position));
   return {distanceText(route.distanceMetres) + ", " + durationText(route.expectedSeconds) + ", " +
@@ -47,7 +47,7 @@ Answer summaryOf(const DirectionsRoute& route) {
            {"points", std::move(points)}}};
 }
 
-Answer geoJsonOf(const DirectionsRoute& route) {
+Answer geoJsonOf(const Route& route) {
   nlohmann::json positions = nlohmann::json::array();
   for (const auto& [latitude, longitude] : route.polyline) {
     positions.push_back({longitude, latitude});
@@ -73,15 +73,12 @@ std::optional<ExitStatus> resolveBoth(CommandLine& line, const std::string& from
 }
 
 std::string addressOf(CommandLine& line, Coordinate coordinate) {
-  const GeocoderAnswer found = reverseGeocodeNow(line, coordinate);
-  const bool isKnown = found.places && !found.places->empty() &&
-                       !found.places->front().formattedAddressLines.empty();
-  return isKnown ? found.places->front().formattedAddressLines.front() : "Unknow";
+  return firstFormattedLine(reverseGeocodeNow(line, coordinate)).value_or("Unknow");
 }
 
 ExitStatus refuseTime(CommandLine& line, const std::string& text) {
-  return line.wrongUsage("'" + text +
-                         "' is no time: give 2026-11-23T08:30, now, +30m or seconds since 1970");
+  return line.wrongUsage(inQuotes(text) +
+                         " is no time: give 2026-11-23T08:30, now, +30m or seconds since 1970");
 }
 
 }  // namespace
@@ -92,7 +89,7 @@ ExitStatus planRoute(CommandLine& line, const std::string& from, const std::stri
   if (const auto status = resolveBoth(line, from, to, request)) return *status;
   const DirectionsAnswer found = directionsNow(line, request);
   if (found.error) return line.fail("no route: " + *found.error);
-  const DirectionsRoute& route = found.routes.front();
+  const Route& route = found.routes.front();
   return line.answer(form == RouteForm::GeoJson ? geoJsonOf(route) : summaryOf(route));
 }
 
@@ -105,53 +102,49 @@ ExitStatus turnRouteOn(CommandLine& line, const Drive& drive) {
   DirectionsRequest request;
   if (const auto status = resolveBoth(line, drive.from, drive.to, request)) return *status;
 
-  line.takeTurn();
   RouteSimulation simulation(line.files(), clock);
-  simulation.refresh();
+  if (const Status read = simulation.refresh(); !read) return line.fail(read.failure());
   if (const char* refusal = simulation.refusalToLeave()) return line.fail(refusal);
-  RouteChoices choices{.start = request.source,
-                       .end = request.destination,
-                       .startTime = *start,
-                       .endTime = *end,
-                       .startText = addressOf(line, request.source),
-                       .endText = addressOf(line, request.destination)};
+  const RouteChoices choices{.start = request.source,
+                             .end = request.destination,
+                             .startTime = *start,
+                             .endTime = *end,
+                             .startText = addressOf(line, request.source),
+                             .endText = addressOf(line, request.destination)};
   const DirectionsAnswer found = directionsNow(line, request);
   auto points = std::make_shared<RoutePoints>(
       found.error ? RoutePoints() : RoutePoints::planned(found.routes.front().polyline));
-  if (const char* refusal = refusalToTurnOn(choices, *points, found.error.has_value())) {
-    const bool isPlan = refusal == kPathPlanningFailure && found.error;
-    return line.fail(isPlan ? refusal + (" (" + *found.error + ")") : refusal);
-  }
-  choices.startTime = startTimeFrom(choices, simulation.now());
-  if (const Status switched = switchToMode(line.files(), Mode::Route); !switched) {
-    return line.fail(switched.message());
-  }
-  const Status on = simulation.turnOn(choices, std::move(points));
-  return on ? showStatus(line) : line.fail(on.message());
+  std::optional<std::string> problem;
+  simulation.turnOn(choices, std::move(points), found.error.has_value(),
+                    [&](const Result<double>& startTime) {
+                      if (!startTime) problem = startTime.message();
+                    });
+  if (problem == kPathPlanningFailure && found.error) *problem += " (" + *found.error + ")";
+  return problem ? line.fail(*problem) : answerDone(line);
 }
 
 ExitStatus turnRouteOff(CommandLine& line) {
-  line.takeTurn();
   const SystemClock clock;
   RouteSimulation simulation(line.files(), clock);
-  simulation.refresh();
-  if (!simulation.preferences().enabled()) return showStatus(line);
-  const Status off = simulation.turnOff();
-  return off ? showStatus(line) : line.fail(off.message());
+  Status off = simulation.refresh();
+  if (off && simulation.preferences().enabled()) {
+    simulation.turnOff([&](const Status& status) { off = status; });
+  }
+  return off ? answerDone(line) : line.fail(off.failure());
 }
 
 ExitStatus showRoutePosition(CommandLine& line, const std::string& time) {
   const double now = SystemClock().secondsSince1970();
   const auto at = parseTime(time, now);
   if (!at) return refuseTime(line, time);
-  line.warnOfDamage(SettingsFile::Route);
-  const RoutePreferences preferences = RouteFile(line.files()).load();
-  const auto position = positionAt(static_cast<std::int32_t>(*at), preferences);
+  const auto route = RouteFile(line.files()).load();
+  if (!route) return line.fail(route.failure());
+  const auto position = positionAt(wholeSeconds(*at), *route);
   if (!position) return line.fail("there is no drive: use 'route on' first");
   return line.answer(
       {coordinateText(*position) + "  " + timeText(*at) +
-           (preferences.enabled() ? "" : "  (the drive is off)"),
-       {{"position", toJson(*position)}, {"time", *at}, {"enabled", preferences.enabled()}}});
+           (route->enabled() ? "" : "  (the drive is off)"),
+       {{"position", toJson(*position)}, {"time", *at}, {"enabled", route->enabled()}}});
 }
 
 }  // namespace wayloom

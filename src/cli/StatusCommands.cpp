@@ -20,9 +20,15 @@ struct Reading {
   RoutePreferences route;
 };
 
-Reading readFiles(CommandLine& line) {
+Result<Reading> readFiles(CommandLine& line) {
   SettingsFiles& files = line.files();
-  return {files.readMasterMode(), readFixedLocation(files), RouteFile(files).load()};
+  const auto mode = files.readMasterMode();
+  if (!mode) return mode.failure();
+  const auto fixed = readFixedLocation(files);
+  if (!fixed) return fixed.failure();
+  auto route = RouteFile(files).load();
+  if (!route) return route.failure();
+  return Reading{*mode, *fixed, std::move(*route)};
 }
 
 std::string fixedText(const FixedLocationState& fixed) {
@@ -36,7 +42,7 @@ std::string driftText(const FixedLocationState& fixed) {
 
 std::string routeText(const RoutePreferences& route) {
   if (!route.enabled()) return "off";
-  return "on from " + oneLine(route.text("s")) + " to " + oneLine(route.text("e")) + ", " +
+  return "on from " + oneLine(route.startText()) + " to " + oneLine(route.endText()) + ", " +
          timeText(route.start()) + " to " + timeText(route.end());
 }
 
@@ -63,22 +69,15 @@ nlohmann::json toJson(const FixedLocationState& fixed) {
 nlohmann::json toJson(const RoutePreferences& route) {
   nlohmann::json json = {{"enabled", route.enabled()}};
   if (!route.enabled()) return json;
-  json.update({{"from", route.text("s")},
-               {"to", route.text("e")},
+  json.update({{"from", route.startText()},
+               {"to", route.endText()},
                {"start", route.start()},
                {"end", route.end()},
                {"points", route.points ? route.points->count() : 0}});
   return json;
 }
 
-}  // namespace
-
-ExitStatus showStatus(CommandLine& line) {
-  for (const SettingsFile name :
-       {SettingsFile::Master, SettingsFile::Location, SettingsFile::Route}) {
-    line.warnOfDamage(name);
-  }
-  const Reading status = readFiles(line);
+Answer answerOf(const Reading& status) {
   const auto position = positionNow(status);
   nlohmann::json json = {{"mode", nameOf(status.mode)},
                          {"fixed", toJson(status.fixed)},
@@ -88,18 +87,33 @@ ExitStatus showStatus(CommandLine& line) {
                      fixedText(status.fixed) + "\ndrift     " + driftText(status.fixed) +
                      "\nroute     " + routeText(status.route) + "\nposition  " +
                      (position ? coordinateText(*position) : "the device's own");
-  return line.answer({std::move(text), std::move(json)});
+  return {std::move(text), std::move(json)};
+}
+
+}  // namespace
+
+ExitStatus showStatus(CommandLine& line) {
+  const auto reading = readFiles(line);
+  return reading ? line.answer(answerOf(*reading)) : line.fail(reading.failure());
+}
+
+ExitStatus answerDone(CommandLine& line) {
+  const auto reading = readFiles(line);
+  if (reading) return line.answer(answerOf(*reading));
+  line.warn("it is done, but " + reading.message());
+  return line.answer({"done", {{"done", true}}});
 }
 
 ExitStatus showMode(CommandLine& line) {
-  const char* mode = nameOf(line.files().readMasterMode());
-  return line.answer({mode, {{"mode", mode}}});
+  const auto mode = line.files().readMasterMode();
+  if (!mode) return line.fail(mode.failure());
+  return line.answer({nameOf(*mode), {{"mode", nameOf(*mode)}}});
 }
 
 ExitStatus switchMode(CommandLine& line, Mode mode) {
-  line.takeTurn();
   const Status switched = switchToMode(line.files(), mode);
-  return switched ? showMode(line) : line.fail(switched.message());
+  if (!switched) return line.fail(switched.failure());
+  return line.answer({nameOf(mode), {{"mode", nameOf(mode)}}});
 }
 
 }  // namespace wayloom

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <limits>
 #include <nlohmann/json.hpp>
 #include <string>
+#include <string_view>
 
-#include "places/Coordinate.h"
+#include "geo/Coordinate.h"
 
 namespace wayloom {
 
@@ -16,7 +18,12 @@ std::string coordinateText(Coordinate coordinate);
 /// {"latitude": 57.706547, "longitude": 11.9671}.
 nlohmann::json toJson(Coordinate coordinate);
 
-/// The text as one line without control characters, whoever wrote it: safe to print on a terminal.
-std::string oneLine(std::string text);
+/// The text as one line that does nothing to a terminal, whoever wrote it: no control characters,
+/// no marks that turn the direction of writing. What comes behind `mostCharacters` becomes "…".
+std::string oneLine(std::string_view text,
+                    std::size_t mostCharacters = std::numeric_limits<std::size_t>::max());
+
+/// An argument as a message names it: one line of at most 200 characters in quotes.
+std::string inQuotes(std::string_view argument);
 
 }  // namespace wayloom

@@ -3,7 +3,6 @@
 #include <charconv>
 #include <cmath>
 #include <ctime>
-#include <limits>
 #include <string_view>
 
 namespace wayloom {
@@ -85,7 +84,8 @@ std::optional<double> anyTime(const std::string& text, double now) {
 
 std::optional<double> parseTime(const std::string& text, double now) {
   const auto time = anyTime(text, now);
-  if (!time || *time < 0 || *time > std::numeric_limits<std::int32_t>::max()) return std::nullopt;
+  constexpr double kEndOfYear9999 = 253'402'300'799;
+  if (!time || *time < 0 || *time > kEndOfYear9999) return std::nullopt;
   return time;
 }
 

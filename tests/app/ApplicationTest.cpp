@@ -1,8 +1,11 @@
 #include <QtCore/QSettings>
+#include <QtTest/QAbstractItemModelTester>
 #include <QtTest/QTest>
 
 #include "app/AppDelegate.h"
 #include "app/WindowDriver.h"
+#include "map/MapView.h"
+#include "regions/RegionWriter.h"
 #include "settings/ModeSwitch.h"
 #include "tests/support/TemporaryRoot.h"
 
@@ -11,6 +14,7 @@ namespace {
 
 using Texts = std::map<std::string, std::string>;
 using Dictionary = PropertyList::Dictionary;
+constexpr auto kFatal = QAbstractItemModelTester::FailureReportingMode::Fatal;
 
 void collect(const QQuickItem* item, const QString& name, QList<const QQuickItem*>& found) {
   if (item->objectName() == name) found.append(item);
@@ -31,6 +35,10 @@ class ApplicationTest : public testing::Test {
     application.emplace(*services);
     ASSERT_TRUE(application->didFinishLaunching());
     window.emplace(application->window(), QString());
+    const QVariant modals = application->window().rootObject()->property("modals");
+    auto* model = modals.value<QAbstractItemModel*>();
+    ASSERT_NE(model, nullptr);
+    new QAbstractItemModelTester(model, kFatal, model);
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&application->window()));
   }
   void stop() {
@@ -64,6 +72,20 @@ TEST_F(ApplicationTest, TheMasterFileNamesTheScreenOfTheStart) {
     EXPECT_EQ(isIn("mv_main"), !test.isFixed) << "case " << number++;
     stop();
   }
+}
+
+TEST_F(ApplicationTest, TheFirstMapShowsTwoKilometresAroundTheDevice) {
+  std::filesystem::create_directories(root.path() / "regions");
+  auto region =
+      RegionWriter::create(root.path() / "regions/a.region", {"a", "", {11.9, 57.6, 12.1, 57.8}});
+  ASSERT_TRUE(region && region->commit());
+  start();
+  const auto* map = qobject_cast<MapView*>(window->find("mv_main"));
+  const auto metresWide = [&] {
+    const MapRegion shown = map->region();
+    return shown.span.longitudeDelta * 111'195 * std::cos(shown.center.latitude * M_PI / 180);
+  };
+  EXPECT_TRUE(QTest::qWaitFor([&] { return std::abs(metresWide() - 2000) < 20; })) << metresWide();
 }
 
 TEST_F(ApplicationTest, TheModeButtonsSwapScreensThatKeepTheirState) {
@@ -122,7 +144,7 @@ TEST_F(ApplicationTest, AFavouriteIsSwipedAwayAndAnotherChosen) {
                       from - QPoint(200, 0));
   ASSERT_TRUE(
       window->waitUntil("the delete button", [&] { return window->click("deleteButton"); }));
-  EXPECT_EQ(files.loadArray(SettingsFile::Favorites), PropertyList::Array{work});
+  EXPECT_EQ(arrayIn(files, SettingsFile::Favorites), PropertyList::Array{work});
 
   window->press(Qt::Key_Down);
   window->press(Qt::Key_Return);
@@ -153,6 +175,98 @@ TEST_F(ApplicationTest, ModalScreensLieOverOneAnotherAndLeaveByKey) {
   EXPECT_TRUE(window->waitUntil("the switch", [&] {
     return window->find("enableSwitch")->property("checked").toBool();
   })) << "the screen below appears again, and reads its file";
+}
+
+/// `files` play the other program here.
+TEST_F(ApplicationTest, FollowsAnotherProgramsFixedLocationAndWritesNothingThereby) {
+  ASSERT_TRUE(files.writeMasterMode(Mode::FixedLocation));
+  start();
+  ASSERT_TRUE(window->waitForMap("mainMapView"));
+  const auto isOn = [this] { return window->property("enableSwitch", "checked").toBool(); };
+  const auto* map = qobject_cast<MapView*>(window->find("mainMapView"));
+  for (const double place : {10.0, 20.0}) {
+    const std::string degrees = std::to_string(place);
+    ASSERT_TRUE(files.saveLocationSettings(
+        Dictionary{{"enable", "1"}, {"latitude", degrees}, {"longitude", degrees}, {"a", "1"}}));
+    const std::string written = bytesOf(files.path(SettingsFile::Location));
+    EXPECT_TRUE(window->waitUntil("the map to follow", [&] {
+      const Coordinate center = map->region().center;
+      return isOn() && std::abs(center.latitude - place) < 1e-6 &&
+             std::abs(center.longitude - place) < 1e-6;
+    }));
+    EXPECT_EQ(bytesOf(files.path(SettingsFile::Location)), written);
+  }
+  ASSERT_TRUE(window->click("s_auto"));
+  EXPECT_EQ(textsIn(files, SettingsFile::Location)["latitude"], "20.000000");
+  ASSERT_TRUE(files.saveLocationSettings(Dictionary{{"enable", "0"}}));
+  EXPECT_TRUE(window->waitUntil("the switch", [&] { return !isOn(); }));
+}
+
+TEST_F(ApplicationTest, FollowsAnotherProgramsModeAndDrive) {
+  ASSERT_TRUE(files.writeMasterMode(Mode::FixedLocation));
+  start();
+  ASSERT_TRUE(isIn("mainMapView"));
+  const auto write = [this](const char* enable, const char* to) {
+    const PropertyList point = Dictionary{{"lat", 1.5}, {"lng", 2.5}};
+    return files.save(SettingsFile::Route, Dictionary{{"enable", enable},
+                                                      {"start", "1000"},
+                                                      {"end", "2000"},
+                                                      {"e", to},
+                                                      {"points", PropertyList::Array{point}}});
+  };
+  ASSERT_TRUE(files.writeMasterMode(Mode::Route));
+  ASSERT_TRUE(write("1", "Somewhere"));
+  const auto tip = [this] { return window->property("lb_tip", "text").toString(); };
+  EXPECT_TRUE(window->waitUntil("the drive", [&] {
+    return isIn("mv_main") && tip() == "Wayloom is working" &&
+           window->property("lb_end", "text") == "Somewhere";
+  }));
+  ASSERT_TRUE(write("1", "Elsewhere"));
+  EXPECT_TRUE(window->waitUntil("the other drive",
+                                [&] { return window->property("lb_end", "text") == "Elsewhere"; }));
+  ASSERT_TRUE(write("0", "Elsewhere"));
+  EXPECT_TRUE(window->waitUntil("the drive's end", [&] {
+    return tip().isEmpty() && !window->property("enableSwitch", "checked").toBool() &&
+           window->find("v_top")->property("restingY").toReal() == 0;
+  }));
+
+  ASSERT_TRUE(window->click("btn_info"));
+  ASSERT_TRUE(window->waitForScreen("InfoViewController"));
+  ASSERT_TRUE(files.writeMasterMode(Mode::FixedLocation));
+  window->press(Qt::Key_Escape);
+  EXPECT_TRUE(window->waitUntil("the other screen", [&] { return isIn("mainMapView"); }))
+      << "a mode switched meanwhile is followed at the end";
+}
+
+TEST_F(ApplicationTest, AListThatIsOpenTakesInWhatAnotherProgramAddsAndUndoesOneByOne) {
+  const auto favorite = [](const char* name) {
+    return PropertyList(Dictionary{{"name", name}, {"latitude", "1"}, {"longitude", "2"}});
+  };
+  const PropertyList::Array two{favorite("one"), favorite("two")};
+  ASSERT_TRUE(files.writeMasterMode(Mode::FixedLocation));
+  ASSERT_TRUE(files.save(SettingsFile::Favorites, two));
+  start();
+  ASSERT_TRUE(window->click("favoritesButton"));
+  ASSERT_TRUE(window->waitForScreen("mainTableView"));
+  ASSERT_TRUE(
+      files.save(SettingsFile::Favorites, PropertyList::Array{favorite("zero"), two[0], two[1]}));
+  const auto rows = [this] { return window->property("mainTableView", "count").toInt(); };
+  EXPECT_TRUE(window->waitUntil("the new row", [&] { return rows() == 3; }));
+
+  ASSERT_TRUE(files.save(SettingsFile::Favorites, two));
+  const auto deleteFirst = [this] {
+    window->find("mainTableView")->setProperty("currentIndex", 0);
+    window->press(Qt::Key_Delete);
+  };
+  deleteFirst();
+  EXPECT_EQ(arrayIn(files, SettingsFile::Favorites), two) << "it was gone already";
+  deleteFirst();
+  deleteFirst();
+  EXPECT_EQ(arrayIn(files, SettingsFile::Favorites), PropertyList::Array());
+  ASSERT_TRUE(window->waitUntil("the way back", [&] { return isIn("undoButton"); }));
+  ASSERT_TRUE(window->click("undoButton"));
+  ASSERT_TRUE(window->click("undoButton"));
+  EXPECT_EQ(arrayIn(files, SettingsFile::Favorites), two);
 }
 
 }  // namespace

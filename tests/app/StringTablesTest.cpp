@@ -83,7 +83,7 @@ Texts placeholders(const QString& text) {
   return result;
 }
 
-TEST(StringTables, EveryTextIsInEveryLanguage) {
+TEST(StringTablesTest, EveryTextIsInEveryLanguage) {
   const Texts texts = shownTexts();
   ASSERT_GT(texts.size(), 40U) << "the search for texts finds too few of them";
   for (const char* language : {"de", "es", "fr", "ja", "zh_Hans", "zh_Hant"}) {
@@ -98,7 +98,7 @@ TEST(StringTables, EveryTextIsInEveryLanguage) {
   }
 }
 
-TEST(StringTables, EnglishHasWhatIsNoEnglishByItself) {
+TEST(StringTablesTest, EnglishHasWhatIsNoEnglishByItself) {
   const Table table = tableIn(QStringLiteral("en"));
   for (const QString& text : shownTexts()) {
     const bool isChinese = text.contains(QRegularExpression(QStringLiteral("\\p{Han}")));
@@ -106,7 +106,7 @@ TEST(StringTables, EnglishHasWhatIsNoEnglishByItself) {
   }
 }
 
-TEST(StringTables, TheFirstLanguageThatIsThereIsUsed) {
+TEST(StringTablesTest, TheFirstLanguageThatIsThereIsUsed) {
   const std::pair<const char*, std::vector<QStringList>> cases[] = {
       {"de", {{"de-DE", "en"}, {"de_AT"}}},
       {"fr", {{"fr-CA"}, {"sv-SE", "fr"}}},

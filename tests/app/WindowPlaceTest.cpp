@@ -10,7 +10,7 @@ namespace {
 
 constexpr int kMost = std::numeric_limits<int>::max();
 
-TEST(WindowPlace, OnlyWhatCanBeSeenAndSeizedIsUsed) {
+TEST(WindowPlaceTest, OnlyWhatCanBeSeenAndSeizedIsUsed) {
   const QRect left(0, 0, 1000, 800), right(1000, 0, 1000, 800);
   struct Case {
     const char* what;
@@ -35,7 +35,7 @@ TEST(WindowPlace, OnlyWhatCanBeSeenAndSeizedIsUsed) {
   EXPECT_TRUE(WindowPlace::usable({10, 10, 400, 600}, {320, 480}, {}).isNull());
 }
 
-TEST(WindowPlace, NextWindowStandsWhereTheLastOneWas) {
+TEST(WindowPlaceTest, NextWindowStandsWhereTheLastOneWas) {
   const TemporaryRoot folder;
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
                      QString::fromStdString(folder.path().string()));

@@ -97,6 +97,11 @@ TEST_F(RegionCommandsTest, AnswersBadInputInOneLine) {
     EXPECT_THAT(answer.err, HasSubstr(test.says)) << test.arguments;
   }
   EXPECT_TRUE(!fs::exists(folder()) || fs::is_empty(folder()));
+
+  // Without a home the program's own regions would be the first folder found.
+  const Run homeless = run("region remove gothenburg", "env -u HOME -u XDG_DATA_HOME");
+  EXPECT_EQ(homeless.status, 1) << homeless.out;
+  EXPECT_THAT(homeless.err, HasSubstr("there is no folder for regions of your own"));
 }
 
 // Whenever it is stopped, there is the whole region or none; leftovers count for nothing and go.

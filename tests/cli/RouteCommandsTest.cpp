@@ -1,6 +1,7 @@
 #include <ctime>
 #include <nlohmann/json.hpp>
 
+#include "cli/TimeArgument.h"
 #include "tests/support/ShellRun.h"
 
 namespace wayloom {
@@ -42,15 +43,12 @@ TEST_F(RouteCommandsTest, UnderstandsTimes) {
     const char* time;
     double latitude;
   } cases[] = {
-      {"1699999999", 0},
-      {"1700000042", 21},
-      {"2023-11-15T00:13:30", 5},
-      {"'2023-11-15 00:13:30'", 5},
-      {"2023-11-14T22:13:30Z", 5},
-      {"2023-11-14T17:43:30-0430", 5},
-      {"2023-11-15T00:14", 20},
-      {"2023-11-16", 49.5},
-      {"now", 49.5},
+      {"1699999999", 0},           {"1700000042", 21},
+      {"2023-11-15T00:13:30", 5},  {"'2023-11-15 00:13:30'", 5},
+      {"2023-11-14T22:13:30Z", 5}, {"2023-11-14T17:43:30-0430", 5},
+      {"2023-11-15T00:14", 20},    {"2023-11-16", 49.5},
+      {"2147483648", 49.5},        {"2100-01-01", 49.5},
+      {"253402300799", 49.5},      {"now", 49.5},
       {"+1d2h3m4s", 49.5},
   };
   for (const auto& test : cases) {
@@ -59,8 +57,11 @@ TEST_F(RouteCommandsTest, UnderstandsTimes) {
     const auto json = nlohmann::json::parse(where.out);
     EXPECT_EQ(json["position"]["latitude"], test.latitude) << test.time;
   }
-  for (const char* time : {"soon", "''", "+", "+5", "+1x", "-5", "1e9", "99999999999", "2023-13-01",
-                           "2023-02-30", "2023-11-15T25:00", "2023-11-15T10:00+", "1700000000x"}) {
+  EXPECT_EQ(parseTime("now", 4e9 + 0.5), 4e9);
+  EXPECT_EQ(parseTime("+1h", 4e9 + 0.5), 4e9 + 3600);
+  for (const char* time :
+       {"soon", "''", "+", "+5", "+1x", "-5", "1e9", "253402300800", "2023-13-01", "2023-02-30",
+        "2023-11-15T25:00", "2023-11-15T10:00+", "1700000000x"}) {
     const ShellRun where = run(std::string("route where --at=") + time);
     EXPECT_EQ(where.status, 2) << time;
     EXPECT_EQ(std::count(where.err.begin(), where.err.end(), '\n'), 1) << time << ": " << where.err;
@@ -70,20 +71,20 @@ TEST_F(RouteCommandsTest, UnderstandsTimes) {
 TEST_F(RouteCommandsTest, OffKeepsThePathAndOneSimulationExcludesTheOther) {
   EXPECT_EQ(run("route where").status, 1);
   EXPECT_EQ(run("route off").status, 0);
-  EXPECT_FALSE(files.loadDictionary(SettingsFile::Route)) << "there was nothing to turn off";
+  EXPECT_FALSE(dictionaryIn(files, SettingsFile::Route)) << "there was nothing to turn off";
 
   writeDrive("1");
-  Dictionary drive = *files.loadDictionary(SettingsFile::Route);
+  Dictionary drive = *dictionaryIn(files, SettingsFile::Route);
   EXPECT_THAT(run("status").out, HasSubstr("on from A place to Another"));
   EXPECT_EQ(run("mode fixed").status, 1);
   EXPECT_EQ(run("fixed on 1,2").status, 1);
   EXPECT_THAT(run("route on --from 1,2 --to 3,4 --start now --end +1h").err,
               HasSubstr("Wayloom is working,please turn off the Wayloom first!"));
-  EXPECT_EQ(*files.loadDictionary(SettingsFile::Route), drive);
+  EXPECT_EQ(*dictionaryIn(files, SettingsFile::Route), drive);
 
   ASSERT_EQ(run("route off").status, 0);
   drive["enable"] = "0";
-  EXPECT_EQ(*files.loadDictionary(SettingsFile::Route), drive);
+  EXPECT_EQ(*dictionaryIn(files, SettingsFile::Route), drive);
   EXPECT_THAT(run("route where").out, HasSubstr("the drive is off"));
   EXPECT_EQ(run("fixed on 1,2").status, 0);
 }
@@ -99,6 +100,7 @@ TEST_F(RouteCommandsTest, WhatCannotBeDrivenIsRefusedAsOnTheScreen) {
       {"--from 1,2 --to 3,4 --start 0 --end +1h", 1, "Please choose Start Time"},
       {"--from 1,2 --to 3,4 --start +2h --end +1h", 1, "End Time must later than Start Time"},
       {"--from 1,2 --to 3,4 --start now --end +1h", 1, "Path planning failure"},
+      {"--from 1,2 --to 3,4 --start 2040-01-01 --end 2041-01-01", 1, "Path planning failure"},
       {"--from 1,2 --to 3,4 --start now --end later", 2, "'later' is no time"},
       {"--from 1,2 --to 3,4 --start now", 2, "--end is required"},
   };
@@ -106,8 +108,8 @@ TEST_F(RouteCommandsTest, WhatCannotBeDrivenIsRefusedAsOnTheScreen) {
     const ShellRun on = run(std::string("route on ") + test.arguments);
     EXPECT_EQ(on.status, test.status) << test.arguments;
     EXPECT_THAT(on.err, HasSubstr(test.why)) << test.arguments;
-    EXPECT_FALSE(files.loadDictionary(SettingsFile::Route)) << test.arguments;
-    EXPECT_FALSE(files.loadDictionary(SettingsFile::Master)) << test.arguments;
+    EXPECT_FALSE(dictionaryIn(files, SettingsFile::Route)) << test.arguments;
+    EXPECT_FALSE(dictionaryIn(files, SettingsFile::Master)) << test.arguments;
   }
 }
 

@@ -71,6 +71,28 @@ TEST_F(WayloomctlTest, WhatIsNoPositionIsNotTurnedOn) {
   EXPECT_EQ(location().at("latitude"), "-0.500000");
 }
 
+TEST_F(WayloomctlTest, ANumberTooLargeForAPositionIsNeitherWrittenBackNorShown) {
+  SettingsFiles files(root.path());
+  const PropertyList::Dictionary place = {
+      {"enable", "1"}, {"latitude", "1e999"}, {"longitude", "1"}};
+  ASSERT_TRUE(files.saveLocationSettings(place));
+  ASSERT_TRUE(files.save(SettingsFile::Favorites, PropertyList::Array{place}));
+  EXPECT_THAT(run("favorites list").out, HasSubstr("-, 1.000000"));
+  EXPECT_THAT(run("fixed off").out, testing::Not(HasSubstr("inf")));
+  EXPECT_EQ(location().at("latitude"), "0.000000");
+}
+
+TEST_F(WayloomctlTest, BlanksAroundAPositionAreNoPartOfIt) {
+  for (const char* place :
+       {"#:-48.8,2.3", " #: -48.8 , 2.3 ", "\u00A0#:\u00A0-48.8\u00A0,\u00A02.3\u00A0",
+        "-48.8,2.3\u00A0", " -48.8\u00A0, 2.3"}) {
+    EXPECT_EQ(run("fixed on 1,1").status, 0);
+    EXPECT_EQ(run("fixed on '" + std::string(place) + "'").status, 0) << place;
+    EXPECT_EQ(location().at("latitude"), "-48.800000") << place;
+    EXPECT_EQ(location().at("longitude"), "2.300000") << place;
+  }
+}
+
 TEST_F(WayloomctlTest, ARouteThatIsOnKeepsItsMode) {
   SettingsFiles files(root.path());
   ASSERT_TRUE(files.save(SettingsFile::Route, PropertyList::Dictionary{{"enable", "1"}}));
@@ -93,6 +115,9 @@ TEST_F(WayloomctlTest, AnswersBadInputInOneLine) {
       {"fixed on 91,0", 2, "no position"},
       {"fixed on 1,2,3", 2, "no position"},
       {"fixed on '#:nan,1'", 2, "no position"},
+      {"fixed on nan,nan", 2, "no position"},
+      {"fixed on inf,0", 2, "no position"},
+      {"fixed on 1e400,0", 2, "no position"},
       {"fixed on ' '", 2, "empty"},
       {"fixed on ''", 2, "empty"},
       {"'a\nb'", 2, "a b"},
@@ -133,6 +158,47 @@ TEST_F(WayloomctlTest, NamesDamagedFilesAndGoesOn) {
   EXPECT_EQ(search.status, 0);
   EXPECT_THAT(search.err, HasSubstr("broken.region"));
   EXPECT_EQ(search.out, "48.850000, 2.350000  Paris, Île-de-France, France\n");
+}
+
+TEST_F(WayloomctlTest, EachCommandNamesWhatItReadsDamagedOnceAndWhereThatIsKept) {
+  const SettingsFiles files(root.path());
+  const struct {
+    SettingsFile file;
+    const char* command;
+    int status;
+    bool replaces;
+  } cases[] = {
+      {SettingsFile::Location, "status", 0, false},
+      {SettingsFile::Location, "fixed on", 1, false},
+      {SettingsFile::Location, "fixed move 1,2", 1, false},
+      {SettingsFile::Location, "fixed on 1,2", 0, true},
+      {SettingsFile::Location, "fixed drift on", 0, true},
+      {SettingsFile::Location, "favorites add Here", 1, false},
+      {SettingsFile::Master, "mode", 0, false},
+      {SettingsFile::Master, "mode fixed", 0, true},
+      {SettingsFile::Master, "fixed on 1,2", 0, true},
+      {SettingsFile::Route, "route where", 1, false},
+      {SettingsFile::Route, "route off", 0, false},
+      {SettingsFile::Route, "fixed on 1,2", 0, false},
+      {SettingsFile::Favorites, "favorites list", 0, false},
+      {SettingsFile::Favorites, "favorites add There 1,2", 0, true},
+      {SettingsFile::Whitelist, "whitelist toggle a", 0, true},
+  };
+  for (const auto& test : cases) {
+    std::filesystem::remove_all(root.path() / "var");
+    const std::string path = files.path(test.file).string();
+    writeBytes(path, "<plist><dict>");
+    const ShellRun answer = run(test.command);
+    EXPECT_EQ(answer.status, test.status) << test.command << ": " << answer.err;
+    const std::string line = "wayloomctl: " + path + " is damaged and reads as nothing: ";
+    const std::size_t at = answer.err.find(line);
+    ASSERT_NE(at, std::string::npos) << test.command << ": " << answer.err;
+    EXPECT_EQ(answer.err.find(path + " is", at + line.size()), std::string::npos) << answer.err;
+    EXPECT_EQ(answer.err.find("kept as " + path + ".damaged-1\n") != std::string::npos,
+              test.replaces)
+        << test.command << ": " << answer.err;
+    EXPECT_THAT(answer.err, testing::Not(HasSubstr("there is no location file")));
+  }
 }
 
 TEST_F(WayloomctlTest, FavouritesAreCountedFromOneAndChoosingPinsThem) {

@@ -98,7 +98,7 @@ void turnTickOver(SettingsFiles& files) {
   QElapsedTimer clock;
   clock.start();
   Whitelist whitelist(files);
-  whitelist.load();
+  if (!whitelist.load()) return;
   const double loaded = since(clock);
   clock.start();
   const bool written = bool(whitelist.toggle("com.example.7"));

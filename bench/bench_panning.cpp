@@ -26,6 +26,7 @@
 #include "map/MapnikTileSource.h"
 #include "regions/RegionDirectories.h"
 #include "route/RouteFile.h"
+#include "settings/WorkQueue.h"
 
 namespace wayloom {
 namespace {
@@ -112,8 +113,11 @@ class Tour {
 class RouteWrites {
  public:
   RouteWrites() {
-    mRoute.points = std::make_shared<RoutePoints>(RoutePoints::planned(*longLine()->coordinates));
-    QObject::connect(&mTimer, &QTimer::timeout, &mTimer, [this] { (void)mFile.save(mRoute); });
+    QObject::connect(&mTimer, &QTimer::timeout, &mTimer, [this] {
+      mSaves.post([this, points = RoutePoints::planned(*longLine()->coordinates)] {
+        (void)RouteFile(mFiles).change({}, {{{"enable", "1"}}, points});
+      });
+    });
     mTimer.start(1s);
   }
 
@@ -121,8 +125,6 @@ class RouteWrites {
   QTemporaryDir mFolder;
   SettingsFiles mFiles{mFolder.path().toStdString()};
   WorkQueue mSaves;
-  RouteFile mFile{mFiles, &mSaves};
-  RoutePreferences mRoute;
   QTimer mTimer;
 };
 

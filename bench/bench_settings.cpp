@@ -16,7 +16,7 @@ using namespace wayloom;
 
 /// What the user's every move of the map does to the file.
 void moveCenter(SettingsFiles& files, double degrees) {
-  std::optional<PropertyList::Dictionary> settings = files.loadLocationSettings();
+  std::optional<PropertyList::Dictionary> settings = *files.loadLocationSettings();
   (*settings)["longitude"] = formatReal(degrees);
   (*settings)["latitude"] = formatReal(degrees / 2);
   require(static_cast<bool>(files.saveLocationSettings(settings)), "saving failed");
@@ -51,7 +51,7 @@ void BM_CenterMovedAgainstBareReplacement(benchmark::State& state) {
           "saving failed");
   moveCenter(files, 1);
   const std::string bytes =
-      *serializePropertyList(PropertyList(*files.loadLocationSettings())).bytes;
+      *serializePropertyList(PropertyList(**files.loadLocationSettings())).bytes;
   std::vector<double> moved;
   std::vector<double> bare;
   double degrees = 0;

@@ -12,8 +12,8 @@
 
 #include <QtGui/QGuiApplication>
 
+#include "geo/WebMercator.h"
 #include "map/MapnikTileSource.h"
-#include "ui/WebMercator.h"
 
 namespace {
 

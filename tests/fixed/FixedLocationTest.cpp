@@ -61,7 +61,7 @@ TEST_F(FixedLocationTest, EachWriterSetsItsOwnKeysAndOnlyTheSwitchesPostFirst) {
   for (const auto& test : cases) {
     store(kOff);
     notice.posts.clear();
-    fixed.refresh();
+    ASSERT_TRUE(fixed.refresh());
     ASSERT_TRUE(test.write(fixed)) << test.writer;
     EXPECT_EQ(stored(), test.after) << test.writer;
     ASSERT_EQ(notice.posts.size(), test.posts ? 1U : 0U) << test.writer;
@@ -73,7 +73,7 @@ TEST_F(FixedLocationTest, EachWriterSetsItsOwnKeysAndOnlyTheSwitchesPostFirst) {
 
 TEST_F(FixedLocationTest, TheMapWritesIntoTheFileAsItIsNow) {
   store(kOff);
-  fixed.refresh();
+  ASSERT_TRUE(fixed.refresh());
   store({{"enable", "1"}, {"s", "0.700000"}});
   ASSERT_TRUE(fixed.centerMoved({1, 2}));
   const Texts written = {
@@ -101,7 +101,7 @@ TEST_F(FixedLocationTest, ReadsLenientlyWhateverTheFileHolds) {
   };
   for (const auto& test : cases) {
     store(test.settings);
-    const FixedLocationState state = fixed.refresh();
+    const FixedLocationState state = *fixed.refresh();
     EXPECT_EQ(state.hasSettings, !test.settings.empty()) << test.what;
     EXPECT_EQ(state.enabled, test.enabled) << test.what;
     EXPECT_EQ(state.drifting, test.drifting) << test.what;

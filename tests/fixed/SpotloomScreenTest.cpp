@@ -73,13 +73,39 @@ TEST_F(SpotloomScreenTest, StartsWhereTheFileSays) {
   open(kOn);
   EXPECT_TRUE(screen.find("enableSwitch")->property("checked").toBool());
   EXPECT_TRUE(isShown("v_auto"));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return screen.find("btn_mine")->y() == 667 - 130; }));
+  EXPECT_EQ(screen.find("btn_mine")->y(), 667 - 130);
   EXPECT_EQ(screen.find("btn_exchange")->y(), 667 - 130);
+  screen.view.resize(375, 800);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return screen.view.rootObject()->height() == 800; }));
+  EXPECT_EQ(screen.find("btn_mine")->y(), 800 - 130) << "at once";
   const MapRegion region = map->region();
   EXPECT_NEAR(region.center.latitude, 10, 1e-7);
   EXPECT_NEAR(region.center.longitude, 20, 1e-7);
   EXPECT_NEAR(region.span.longitudeDelta, 2000 / (111195.08 * std::cos(10 * M_PI / 180)), 1e-4);
   EXPECT_EQ(screen.position, nullptr) << "nobody asked where the device is";
+}
+
+TEST_F(SpotloomScreenTest, APositionThatNoMapShowsStaysUntilThePersonMovesTheMap) {
+  const PropertyList::Dictionary polar = {
+      {"enable", "1"}, {"latitude", "-89.5"}, {"longitude", "190"}};
+  open(polar);
+  controller->viewWillAppear();
+  screen.wheel("mainMapView", {20, 300}, -2);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return screen.geocoder.coordinates.size() == 2; }));
+  EXPECT_EQ(dictionaryIn(screen.files, SettingsFile::Location), polar);
+  EXPECT_EQ(screen.geocoder.coordinates.back().first, (Coordinate{-89.5, 190}));
+  screen.click("enableSwitch");
+  EXPECT_EQ(stored().at("latitude"), "-89.500000");
+  screen.drag("mainMapView", {0, 60});
+  EXPECT_GT(std::stod(stored().at("latitude")), -85.1);
+}
+
+TEST_F(SpotloomScreenTest, ANumberTooLargeForAPositionIsNotWrittenBack) {
+  open({{"enable", "1"}, {"latitude", "1e999"}, {"longitude", "20"}});
+  EXPECT_EQ(stored().at("latitude"), "1e999");
+  screen.click("enableSwitch");
+  EXPECT_EQ(stored().at("enable"), "0");
+  EXPECT_EQ(stored().at("latitude"), "0.000000");
 }
 
 TEST_F(SpotloomScreenTest, WithoutAFileItGoesToTheDeviceAndTheSwitchSpringsBackOnce) {
@@ -124,6 +150,20 @@ TEST_F(SpotloomScreenTest, SwitchesPostBeforeTheyWriteAndTheMapDoesNot) {
   EXPECT_EQ(screen.notice.posts.size(), 2U);
 }
 
+TEST_F(SpotloomScreenTest, ZoomingAwayFromTheMiddleKeepsThePosition) {
+  open(kOn);
+  const Texts before = stored();
+  int moves = 0;
+  QObject::connect(map, &MapView::regionDidChange, map, [&] { ++moves; });
+  screen.wheel("mainMapView", {20, 400}, 6);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return moves == 1; }));
+  EXPECT_EQ(stored(), before);
+  QTest::mouseDClick(&screen.view, Qt::LeftButton, {},
+                     map->mapToScene(QPointF(300, 300)).toPoint());
+  ASSERT_TRUE(QTest::qWaitFor([&] { return moves == 2; }));
+  EXPECT_EQ(stored(), before);
+}
+
 TEST_F(SpotloomScreenTest, TheSliderIsLockedUntilDriftIsOn) {
   open({{"enable", "1"}, {"latitude", "10.000000"}, {"longitude", "20.000000"}, {"s", "0.5"}});
   const Texts before = stored();
@@ -138,12 +178,16 @@ TEST_F(SpotloomScreenTest, TheSliderIsLockedUntilDriftIsOn) {
   EXPECT_EQ(screen.notice.posts[0].fileThen, before);
 
   screen.drag("sd_auto", {60, 0});
+  QTest::keyClick(&screen.view, Qt::Key_Left);
   EXPECT_GT(std::stod(stored().at("s")), 0.6);
   EXPECT_EQ(screen.notice.posts.size(), 1U) << "the slider posts nothing";
 
-  screen.click("s_auto");
+  ASSERT_TRUE(screen.find("sd_auto")->hasActiveFocus());
+  controller->setAuto(false);
   EXPECT_EQ(stored().at("a"), "0");
   const Texts locked = stored();
+  for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Right}) QTest::keyClick(&screen.view, key);
+  EXPECT_EQ(stored(), locked) << "nor does it move by keys";
   screen.drag("sd_auto", {-60, 0});
   screen.drag("lb_auto", {0, -40});
   EXPECT_EQ(stored(), locked) << "the panel lets nothing through to the map";
@@ -228,7 +272,7 @@ TEST_F(SpotloomScreenTest, ShowsTheAddressOfTheCentreAndSavesItAsAFavourite) {
   QTest::keyClick(&screen.view, Qt::Key_Escape);
   ASSERT_TRUE(QTest::qWaitFor([&] { return !isShown("alertView"); }));
 
-  const auto favorites = screen.files.loadArray(SettingsFile::Favorites);
+  const auto favorites = arrayIn(screen.files, SettingsFile::Favorites);
   ASSERT_TRUE(favorites.has_value());
   EXPECT_EQ(
       *favorites,

@@ -1,6 +1,6 @@
+#include "info/InfoViewController.h"
 #include "tests/support/FakeHomeScreen.h"
 #include "tests/support/ScreenHarness.h"
-#include "ui/InfoViewController.h"
 
 namespace wayloom {
 namespace {

@@ -1,3 +1,5 @@
+#include <QtTest/QAbstractItemModelTester>
+
 #include "lists/FavoritesViewController.h"
 #include "tests/support/ScreenHarness.h"
 
@@ -11,6 +13,7 @@ PropertyList entry(const std::string& name, const char* latitude, const char* lo
   return Dictionary{{"name", name}, {"latitude", latitude}, {"longitude", longitude}};
 }
 
+constexpr auto kFatal = QAbstractItemModelTester::FailureReportingMode::Fatal;
 const Array kPlaces{entry("Home", "1.000000", "2.000000"), entry("Work", "3.000000", "4.000000"),
                     entry("Cinema", "5.000000", "6.000000")};
 
@@ -22,6 +25,7 @@ class FavoritesScreenTest : public testing::Test, public FavoritesDelegate {
       ASSERT_TRUE(screen.files.save(SettingsFile::Favorites, places));
     }
     controller.emplace(screen.files, *this);
+    new QAbstractItemModelTester(controller->favorites(), kFatal, controller->favorites());
     QObject::connect(&*controller, &ModalViewController::dismissed, [this] {
       happened.push_back("dismissed at " + screen.stored(SettingsFile::Location)["latitude"]);
     });
@@ -33,7 +37,7 @@ class FavoritesScreenTest : public testing::Test, public FavoritesDelegate {
   void TearDown() override { screen.view.setSource({}); }
   void favoritesDidSelected() override { happened.emplace_back("selected"); }
 
-  Array stored() const { return screen.files.loadArray(SettingsFile::Favorites).value_or(Array()); }
+  Array stored() const { return arrayIn(screen.files, SettingsFile::Favorites).value_or(Array()); }
   QQuickItem* row(int index) const { return screen.row(index); }
   void clickOn(const QQuickItem* item) { screen.click(item); }
   QQuickItem* part(int index, const char* name) const { return foundItem(row(index), name); }
@@ -106,7 +110,7 @@ TEST_F(FavoritesScreenTest, EditModeDeletesDownToAnEmptyArrayAndStays) {
     clickOn(part(0, "deleteButton"));
     ASSERT_EQ(count(), left);
   }
-  EXPECT_EQ(screen.files.loadArray(SettingsFile::Favorites), Array());
+  EXPECT_EQ(arrayIn(screen.files, SettingsFile::Favorites), Array());
   EXPECT_TRUE(screen.find("editButton")->isEnabled());
   EXPECT_EQ(editTitle(), "Done");
   EXPECT_TRUE(QTest::qWaitFor([&] { return screen.find("emptyNote")->isVisible(); }));

@@ -13,7 +13,7 @@ PropertyList entry(const char* name, const char* latitude, const char* longitude
 
 class FavoritesTest : public testing::Test {
  protected:
-  std::optional<Array> stored() const { return files.loadArray(SettingsFile::Favorites); }
+  std::optional<Array> stored() const { return arrayIn(files, SettingsFile::Favorites); }
   void store(const Array& entries) { ASSERT_TRUE(files.save(SettingsFile::Favorites, entries)); }
 
   TemporaryRoot root;
@@ -55,9 +55,9 @@ TEST_F(FavoritesTest, ChoosingKeepsOtherKeysOnlyWhileThePositionWasOn) {
       ASSERT_TRUE(files.save(SettingsFile::Location, *test.location));
     }
     store({entry("other", "0", "0"), test.chosen});
-    favorites.load();
+    ASSERT_TRUE(favorites.load());
     ASSERT_TRUE(favorites.choose(1)) << test.what;
-    EXPECT_EQ(files.loadLocationSettings(), test.written) << test.what;
+    EXPECT_EQ(dictionaryIn(files, SettingsFile::Location), test.written) << test.what;
     EXPECT_FALSE(std::filesystem::exists(files.path(SettingsFile::Master))) << test.what;
   }
 }

@@ -1,4 +1,5 @@
 #include <QtQml/QQmlEngine>
+#include <QtTest/QAbstractItemModelTester>
 
 #include "lists/ApplicationIcons.h"
 #include "lists/WhitelistViewController.h"
@@ -10,6 +11,7 @@ namespace wayloom {
 namespace {
 
 using Dictionary = PropertyList::Dictionary;
+constexpr auto kFatal = QAbstractItemModelTester::FailureReportingMode::Fatal;
 
 /// A picture of one colour, as the home screen gives it.
 std::string square(const char* colour) {
@@ -25,6 +27,7 @@ class WhitelistScreenTest : public testing::Test {
     screen.view.engine()->addImageProvider(ApplicationIcons::providerName(),
                                            new ApplicationIcons(home));
     controller.emplace(screen.files, home);
+    new QAbstractItemModelTester(controller->appArray(), kFatal, controller->appArray());
     QObject::connect(&*controller, &ModalViewController::dismissed, [this] { dismissed = true; });
     ASSERT_TRUE(screen.show("WhitelistViewController",
                             {{"controller", QVariant::fromValue(&*controller)}}));
@@ -41,7 +44,7 @@ class WhitelistScreenTest : public testing::Test {
     }
   }
   std::optional<Dictionary> stored() const {
-    return screen.files.loadDictionary(SettingsFile::Whitelist);
+    return dictionaryIn(screen.files, SettingsFile::Whitelist);
   }
   QQuickItem* row(int index) const { return screen.row(index); }
   QString nameIn(int index) const { return row(index)->property("appName").toString(); }

@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <condition_variable>
+#include <gtest/gtest.h>
 #include <mutex>
 #include <vector>
 
+#include <QtGui/QColor>
 #include <QtTest/QTest>
 
 #include "map/TileSource.h"

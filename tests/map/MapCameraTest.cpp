@@ -32,7 +32,7 @@ void forEachCase(const Check& check) {
           for (double width : kSpans) check(size, {{latitude, longitude}, {height, width}});
 }
 
-TEST(MapCamera, WhatFitsStaysAsItIs) {
+TEST(MapCameraTest, WhatFitsStaysAsItIs) {
   forEachCase([](QSizeF size, const MapRegion& region) {
     const MapCamera camera = cameraOf(size, region);
     const MapCamera again = cameraOf(size, camera.region());
@@ -41,7 +41,7 @@ TEST(MapCamera, WhatFitsStaysAsItIs) {
   });
 }
 
-TEST(MapCamera, StaysInTheWorldWhateverIsAsked) {
+TEST(MapCameraTest, StaysInTheWorldWhateverIsAsked) {
   forEachCase([](QSizeF size, const MapRegion& region) {
     const MapCamera camera = cameraOf(size, region);
     const MapRegion shown = camera.region();
@@ -55,7 +55,7 @@ TEST(MapCamera, StaysInTheWorldWhateverIsAsked) {
   });
 }
 
-TEST(MapCamera, ShowsTheWholeRegionAndNoMoreThanItMust) {
+TEST(MapCameraTest, ShowsTheWholeRegionAndNoMoreThanItMust) {
   for (QSizeF size : kSizes) {
     for (double latitude : {-70.0, -57.7, 0.0, 48.85}) {
       for (double height : {0.0, 0.018, 1.0, 15.0}) {
@@ -81,7 +81,7 @@ TEST(MapCamera, ShowsTheWholeRegionAndNoMoreThanItMust) {
   }
 }
 
-TEST(MapCamera, AnimatesTheShorterWayAndKeepsACommonPoint) {
+TEST(MapCameraTest, AnimatesTheShorterWayAndKeepsACommonPoint) {
   MapCamera from = cameraOf({375, 667}, {{10, 179}, {1, 1}});
   const MapCamera to = cameraOf({375, 667}, {{10, -179}, {1, 1}});
   for (double progress = 0; progress <= 1; progress += 0.1) {

@@ -1,4 +1,5 @@
 #include <cmath>
+#include <functional>
 
 #include "tests/map/MapWindow.h"
 
@@ -7,8 +8,8 @@ namespace {
 
 constexpr QPoint kMiddle(200, 300);
 
-struct MapViewGesture : testing::Test, MapWindow {
-  MapViewGesture() {
+struct MapViewGestureTest : testing::Test, MapWindow {
+  MapViewGestureTest() {
     map->setRegion(regionAround(57.7, 11.97, 0.05), Animated::No);
     moves.clear();
   }
@@ -26,7 +27,7 @@ struct MapViewGesture : testing::Test, MapWindow {
   }
 };
 
-TEST_F(MapViewGesture, DragKeepsThePointUnderTheMouse) {
+TEST_F(MapViewGestureTest, DragKeepsThePointUnderTheMouse) {
   const Coordinate grabbed = map->coordinateAtPoint({200, 300});
   drag(kMiddle, {260, 220}, 8, 0);
   EXPECT_TRUE(waitFor("wd")) << moves;
@@ -36,7 +37,7 @@ TEST_F(MapViewGesture, DragKeepsThePointUnderTheMouse) {
   EXPECT_EQ(taps, 0);
 }
 
-TEST_F(MapViewGesture, FlickRunsOnInTheSameMove) {
+TEST_F(MapViewGestureTest, FlickRunsOnInTheSameMove) {
   const Coordinate grabbed = map->coordinateAtPoint({200, 300});
   drag(kMiddle, {200, 180}, 8, 4);
   EXPECT_EQ(moves, "w");
@@ -45,7 +46,7 @@ TEST_F(MapViewGesture, FlickRunsOnInTheSameMove) {
   EXPECT_NEAR(map->viewPoint(grabbed).x(), 200, 0.01);
 }
 
-TEST_F(MapViewGesture, PressStopsAFlickAndATapIsNoMove) {
+TEST_F(MapViewGestureTest, PressStopsAFlickAndATapIsNoMove) {
   drag(kMiddle, {200, 180}, 8, 4);
   QTest::mousePress(&window, Qt::LeftButton, {}, {50, 50});
   EXPECT_EQ(moves, "wd");
@@ -54,7 +55,7 @@ TEST_F(MapViewGesture, PressStopsAFlickAndATapIsNoMove) {
   EXPECT_EQ(moves, "wd");
 }
 
-TEST_F(MapViewGesture, WheelBurstZoomsAboutTheCursorAsOneMove) {
+TEST_F(MapViewGestureTest, WheelBurstZoomsAboutTheCursorAsOneMove) {
   const Coordinate under = map->coordinateAtPoint({100, 450});
   const double before = map->region().span.longitudeDelta;
   for (int i = 0; i < 4; ++i) wheel({100, 450}, 120);
@@ -65,7 +66,7 @@ TEST_F(MapViewGesture, WheelBurstZoomsAboutTheCursorAsOneMove) {
   EXPECT_NEAR(map->viewPoint(under).y(), 450, 0.01);
 }
 
-TEST_F(MapViewGesture, DoubleClickZoomsInAboutThePoint) {
+TEST_F(MapViewGestureTest, DoubleClickZoomsInAboutThePoint) {
   const Coordinate under = map->coordinateAtPoint({300, 200});
   const double before = map->region().span.longitudeDelta;
   QTest::mouseDClick(&window, Qt::LeftButton, {}, {300, 200});
@@ -75,7 +76,7 @@ TEST_F(MapViewGesture, DoubleClickZoomsInAboutThePoint) {
   EXPECT_NEAR(map->viewPoint(under).y(), 200, 0.01);
 }
 
-TEST_F(MapViewGesture, KeysMoveAndZoomInOneBurst) {
+TEST_F(MapViewGestureTest, KeysMoveAndZoomInOneBurst) {
   QTest::mouseClick(&window, Qt::LeftButton, {}, kMiddle);
   const MapRegion before = map->region();
   for (int key : {Qt::Key_Right, Qt::Key_Right, Qt::Key_Up, Qt::Key_Plus}) {
@@ -88,7 +89,7 @@ TEST_F(MapViewGesture, KeysMoveAndZoomInOneBurst) {
   EXPECT_LT(map->region().span.longitudeDelta, before.span.longitudeDelta);
 }
 
-TEST_F(MapViewGesture, HeldKeyIsOneMoveUntilItIsLetGo) {
+TEST_F(MapViewGestureTest, HeldKeyIsOneMoveUntilItIsLetGo) {
   QTest::mouseClick(&window, Qt::LeftButton, {}, kMiddle);
   QTest::keyPress(&window, Qt::Key_Left);
   MapView other(window.contentItem());
@@ -102,7 +103,7 @@ TEST_F(MapViewGesture, HeldKeyIsOneMoveUntilItIsLetGo) {
   EXPECT_TRUE(waitFor("wd")) << moves;
 }
 
-TEST_F(MapViewGesture, PinchZoomsAboutTheFingersAsOneMove) {
+TEST_F(MapViewGestureTest, PinchZoomsAboutTheFingersAsOneMove) {
   QPointingDevice* screen = QTest::createTouchDevice();
   const Coordinate left = map->coordinateAtPoint({150, 300});
   const Coordinate right = map->coordinateAtPoint({250, 300});
@@ -121,7 +122,62 @@ TEST_F(MapViewGesture, PinchZoomsAboutTheFingersAsOneMove) {
   EXPECT_EQ(taps, 0);
 }
 
-TEST_F(MapViewGesture, CommandDuringADragEndsItAndTheDragGoesOnAnew) {
+TEST_F(MapViewGestureTest, ZoomsAboutTheCentreMoveItNowhere) {
+  map->setZoomsAboutCenter(true);
+  QPointingDevice* screen = QTest::createTouchDevice();
+  QTest::mouseClick(&window, Qt::LeftButton, {}, {60, 60});
+  const auto pinch = [&] {
+    QTest::touchEvent(&window, screen).press(0, {40, 40}).press(1, {80, 40});
+    for (int i = 1; i <= 10; ++i) {
+      QTest::touchEvent(&window, screen).move(0, {40, 40}).move(1, {80 + 12 * i, 40 + 8 * i});
+    }
+    QTest::touchEvent(&window, screen).move(0, {40, 40}).release(1, {200, 120});
+    QTest::touchEvent(&window, screen).move(0, {42, 41});
+    QTest::touchEvent(&window, screen).release(0, {42, 41});
+  };
+  const auto tapTwice = [&] {
+    for (int i = 0; i < 2; ++i) {
+      QTest::touchEvent(&window, screen).press(0, {350, 500});
+      QTest::touchEvent(&window, screen).release(0, {350, 500});
+    }
+  };
+  const struct {
+    const char* what;
+    std::function<void()> zoom;
+  } cases[] = {
+      {"wheel",
+       [&] {
+         wheel({30, 550}, 240);
+       }},
+      {"wheel back",
+       [&] {
+         wheel({390, 10}, -120);
+       }},
+      {"double click",
+       [&] {
+         QTest::mouseDClick(&window, Qt::LeftButton, {}, {20, 580});
+       }},
+      {"pinch", pinch},
+      {"two taps", tapTwice},
+      {"key", [&] { QTest::keyClick(&window, Qt::Key_Minus); }},
+  };
+  constexpr double kMetre = 1 / 111'195.0;
+  for (const auto& test : cases) {
+    moves.clear();
+    const MapRegion before = map->region();
+    test.zoom();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return moves == "wd" || moves == "WD"; }))
+        << test.what << ": " << moves;
+    EXPECT_GT(std::abs(map->region().span.longitudeDelta / before.span.longitudeDelta - 1), 0.2)
+        << test.what;
+    EXPECT_NEAR(center().latitude, before.center.latitude, kMetre / 10) << test.what;
+    EXPECT_NEAR(center().longitude, before.center.longitude, kMetre / 10) << test.what;
+  }
+  drag(kMiddle, {260, 220}, 8, 0);
+  EXPECT_GT(std::abs(center().latitude - 57.7), kMetre) << "one finger moves it still";
+}
+
+TEST_F(MapViewGestureTest, CommandDuringADragEndsItAndTheDragGoesOnAnew) {
   QTest::mousePress(&window, Qt::LeftButton, {}, kMiddle);
   QTest::mouseMove(&window, {240, 300});
   map->setCenterCoordinate({48.85, 2.35}, Animated::No);
@@ -132,7 +188,7 @@ TEST_F(MapViewGesture, CommandDuringADragEndsItAndTheDragGoesOnAnew) {
   EXPECT_TRUE(waitFor("wdwdwd")) << moves;
 }
 
-TEST_F(MapViewGesture, PoleStopsTheDragAndTheDateLineDoesNot) {
+TEST_F(MapViewGestureTest, PoleStopsTheDragAndTheDateLineDoesNot) {
   map->setRegion(regionAround(80, 179.9, 20), Animated::No);
   bool hasCrossed = false;
   for (int i = 0; i < 6; ++i) {

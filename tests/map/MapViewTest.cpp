@@ -75,7 +75,7 @@ TEST_F(MapViewTest, SenselessRegionsAreIgnored) {
   EXPECT_EQ(map->region(), before);
 }
 
-TEST(MapViewLayout, RegionSetBeforeThereIsASizeIsFittedOnce) {
+TEST(MapViewLayoutTest, RegionSetBeforeThereIsASizeIsFittedOnce) {
   MapView map;
   std::string moves;
   QObject::connect(&map, &MapView::regionWillChange, [&](bool) { moves += 'w'; });

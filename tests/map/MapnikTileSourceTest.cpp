@@ -65,7 +65,7 @@ bool isOrange(const QColor& colour) {
   return colour.red() > colour.blue() + 60;
 }
 
-TEST(MapnikTileSource, DrawsSeaLandAndRoadWhereTheyAre) {
+TEST(MapnikTileSourceTest, DrawsSeaLandAndRoadWhereTheyAre) {
   const TemporaryFolder folder;
   MapnikTileSource source({write(folder.path() / "a.region", addLand, addRoad)});
   for (const double scale : {1.0, 2.0, 3.0}) {
@@ -84,7 +84,7 @@ TEST(MapnikTileSource, DrawsSeaLandAndRoadWhereTheyAre) {
   }
 }
 
-TEST(MapnikTileSource, ABrokenRegionTakesNothingFromTheOthers) {
+TEST(MapnikTileSourceTest, ABrokenRegionTakesNothingFromTheOthers) {
   const TemporaryFolder folder;
   const Region good = write(folder.path() / "good.region", addLand);
   const QImage alone = MapnikTileSource({good}).draw({1, 0, 0}, 1);
@@ -108,7 +108,7 @@ TEST(MapnikTileSource, ABrokenRegionTakesNothingFromTheOthers) {
   }
 }
 
-TEST(MapnikTileSource, DrawsOnWithTextThatIsNone) {
+TEST(MapnikTileSourceTest, DrawsOnWithTextThatIsNone) {
   const TemporaryFolder folder;
   const Region odd = write(folder.path() / "odd.region", addLand, [](Database& database) {
     EXPECT_TRUE(database.execute(
@@ -122,7 +122,7 @@ TEST(MapnikTileSource, DrawsOnWithTextThatIsNone) {
   EXPECT_FALSE(isBlue(colourAt(MapnikTileSource({odd}).draw(key, 1), key, -8, -8)));
 }
 
-TEST(MapnikTileSource, HasNoTileOutsideTheWorld) {
+TEST(MapnikTileSourceTest, HasNoTileOutsideTheWorld) {
   MapnikTileSource source({});
   for (const TileKey& key : {TileKey{-1, 0, 0}, TileKey{0, 1, 0}, TileKey{3, 0, 8},
                              TileKey{3, -1, 0}, TileKey{19, 0, 0}, TileKey{64, 0, 0}}) {
@@ -132,7 +132,7 @@ TEST(MapnikTileSource, HasNoTileOutsideTheWorld) {
   EXPECT_FALSE(source.draw({0, 0, 0}, 1).isNull());
 }
 
-TEST(MapnikTileSource, ThreadsDrawTheSameAtTheSameTime) {
+TEST(MapnikTileSourceTest, ThreadsDrawTheSameAtTheSameTime) {
   const TemporaryFolder folder;
   MapnikTileSource source({write(folder.path() / "a.region", addLand, addRoad)});
   const QImage expected = source.draw({8, 128, 124}, 1);
@@ -147,7 +147,7 @@ TEST(MapnikTileSource, ThreadsDrawTheSameAtTheSameTime) {
   for (const QImage& tile : tiles) EXPECT_EQ(tile, expected);
 }
 
-TEST(RegionTables, ChoosesTheTableOfTheZoom) {
+TEST(RegionTablesTest, ChoosesTheTableOfTheZoom) {
   const TemporaryFolder folder;
   const Region file = write(folder.path() / "a.region", [](Database& database) {
     DrawingTable(database, "land_z3", {"name"}).add({Kind::kPoint, {{{0, 0}}}}, {"far"});

@@ -38,7 +38,7 @@ qsizetype pointsOf(const std::vector<QPolygonF>& parts) {
   return count;
 }
 
-TEST(PolylinePath, PassesEveryPointInViewThoughItKeepsFew) {
+TEST(PolylinePathTest, PassesEveryPointInViewThoughItKeepsFew) {
   std::vector<Coordinate> wander{{57.7, 11.97}};
   std::mt19937 random(3);
   std::normal_distribution<double> turn(0, 0.4);
@@ -63,7 +63,7 @@ TEST(PolylinePath, PassesEveryPointInViewThoughItKeepsFew) {
   }
 }
 
-TEST(PolylinePath, WorkIsBoundedHoweverWildTheLine) {
+TEST(PolylinePathTest, WorkIsBoundedHoweverWildTheLine) {
   std::vector<Coordinate> wild;
   std::mt19937 random(4);
   std::uniform_real_distribution<double> part(-1, 1);
@@ -75,7 +75,7 @@ TEST(PolylinePath, WorkIsBoundedHoweverWildTheLine) {
   for (const QPolygonF& polygon : parts) EXPECT_GE(polygon.size(), 2);
 }
 
-TEST(PolylinePath, CrossesTheDateLineInOnePiece) {
+TEST(PolylinePathTest, CrossesTheDateLineInOnePiece) {
   const PolylinePath path({{0, 179}, {0, -179}, {0, -178}});
   for (double longitude : {179.9, -179.9, 180.0}) {
     const auto parts = path.inView(cameraOver({{0, longitude}, {0.1, 5}}), 5);
@@ -85,7 +85,7 @@ TEST(PolylinePath, CrossesTheDateLineInOnePiece) {
   }
 }
 
-TEST(PolylinePath, SenselessPointsAndShortLinesAreNothing) {
+TEST(PolylinePathTest, SenselessPointsAndShortLinesAreNothing) {
   const double nan = std::nan("");
   const MapCamera camera = cameraOver({{0, 0}, {1, 1}});
   const std::vector<std::vector<Coordinate>> cases = {

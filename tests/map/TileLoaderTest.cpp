@@ -21,7 +21,7 @@ bool waitFor(const TileLoader& loader, const std::vector<TileRequest>& tiles) {
   });
 }
 
-TEST(TileLoader, DrawsTheMostWantedFirstAndDropsWhatNobodyWants) {
+TEST(TileLoaderTest, DrawsTheMostWantedFirstAndDropsWhatNobodyWants) {
   const auto source = std::make_shared<FakeTileSource>();
   TileLoader loader(source);
   source->hold();
@@ -36,7 +36,7 @@ TEST(TileLoader, DrawsTheMostWantedFirstAndDropsWhatNobodyWants) {
   EXPECT_EQ(source->mostAtOnce(), 2);
 }
 
-TEST(TileLoader, KeepsItsMemoryBoundedButNeverDropsWhatIsWanted) {
+TEST(TileLoaderTest, KeepsItsMemoryBoundedButNeverDropsWhatIsWanted) {
   const auto source = std::make_shared<FakeTileSource>();
   const std::int64_t tileBytes = 512 * 512 * 4;
   TileLoader loader(source, 3 * tileBytes + 2000);
@@ -50,7 +50,7 @@ TEST(TileLoader, KeepsItsMemoryBoundedButNeverDropsWhatIsWanted) {
   EXPECT_LE(loader.cachedBytes(), 3 * tileBytes + 2000);
 }
 
-TEST(TileLoader, MissingAndFailingTilesAreKnownAndNotDrawnAgain) {
+TEST(TileLoaderTest, MissingAndFailingTilesAreKnownAndNotDrawnAgain) {
   struct Failing : FakeTileSource {
     QImage draw(const TileKey& key, double scale) override {
       FakeTileSource::draw(key, scale);
@@ -68,7 +68,7 @@ TEST(TileLoader, MissingAndFailingTilesAreKnownAndNotDrawnAgain) {
   EXPECT_TRUE(loader.image({{9, 0, 0}, 1}).isNull());
 }
 
-TEST(TileLoader, EndsWhileItsWorkersDraw) {
+TEST(TileLoaderTest, EndsWhileItsWorkersDraw) {
   const auto source = std::make_shared<FakeTileSource>();
   for (int i = 0; i < 20; ++i) {
     source->hold();

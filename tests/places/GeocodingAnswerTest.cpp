@@ -11,7 +11,7 @@ std::string repeated(std::string_view text, std::size_t times) {
   return all;
 }
 
-TEST(GeocodingAnswer, MakesTheServicesRefusalsErrors) {
+TEST(GeocodingAnswerTest, MakesTheServicesRefusalsErrors) {
   constexpr int kNone = 0;
   const struct {
     const char* status;
@@ -48,7 +48,7 @@ TEST(GeocodingAnswer, MakesTheServicesRefusalsErrors) {
   }
 }
 
-TEST(GeocodingAnswer, FindsNothingInOtherJson) {
+TEST(GeocodingAnswerTest, FindsNothingInOtherJson) {
   for (const char* text : {"null", "5", "\"results\"", "[]", "{}", R"({"results": null})",
                            R"({"results": {"0": {}}})", R"({"results": "x", "status": 5})"}) {
     const GeocodingAnswer answer = readGeocodingAnswer(text);
@@ -57,7 +57,7 @@ TEST(GeocodingAnswer, FindsNothingInOtherJson) {
   }
 }
 
-TEST(GeocodingAnswer, RefusesDamagedDeepAndHugeAnswers) {
+TEST(GeocodingAnswerTest, RefusesDamagedDeepAndHugeAnswers) {
   const std::size_t deep = 1'000'000;
   const std::string cases[] = {
       "",

@@ -145,9 +145,15 @@ TEST_F(LocationTest, GeocodingReportsToItsOwnDelegate) {
   location.addressWithCoordinate({57.5, 11}, gone.get());
   gone.reset();
   geocoder.coordinates[2].second(found);
+
+  location.addressWithCoordinate({57.5, 11}, nullptr);
+  location.coordinateWithAddress("avenyn", nullptr);
+  geocoder.coordinates[3].second(found);
+  geocoder.addresses[2].second(found);
+  EXPECT_EQ(listener.told.size(), 4U);
 }
 
-TEST(ReplaceUnicode, TurnsEscapesIntoCharacters) {
+TEST(ReplaceUnicodeTest, TurnsEscapesIntoCharacters) {
   const struct {
     const char* text;
     std::optional<std::string> replaced;

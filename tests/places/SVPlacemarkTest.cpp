@@ -31,7 +31,7 @@ SVPlacemark withComponents(
   return parsed("{\"address_components\": [" + result + "]}");
 }
 
-TEST(SVPlacemark, FillsEveryFieldFromItsComponent) {
+TEST(SVPlacemarkTest, FillsEveryFieldFromItsComponent) {
   const SVPlacemark place = withComponents({{{"street_number"}, "12"},
                                             {{"route"}, "Main St"},
                                             {{"neighborhood", "political"}, "Old Town"},
@@ -53,7 +53,7 @@ TEST(SVPlacemark, FillsEveryFieldFromItsComponent) {
   EXPECT_EQ(place.formattedAddress, std::nullopt);
 }
 
-TEST(SVPlacemark, NamesItselfByTheMostPrecisePart) {
+TEST(SVPlacemarkTest, NamesItselfByTheMostPrecisePart) {
   using Types = std::vector<const char*>;
   const Types number = {"street_number"}, route = {"route"}, part = {"sublocality"},
               city = {"locality"}, state = {"administrative_area_level_1"}, land = {"country"};
@@ -76,7 +76,7 @@ TEST(SVPlacemark, NamesItselfByTheMostPrecisePart) {
   }
 }
 
-TEST(SVPlacemark, ReadsPositionAndSpans) {
+TEST(SVPlacemarkTest, ReadsPositionAndSpans) {
   const SVPlacemark place = parsed(R"({"geometry": {
     "location": {"lat": "57.5", "lng": " 11.25 degrees"},
     "bounds": {"northeast": {"lat": 58, "lng": -179}, "southwest": {"lat": "57", "lng": 179.5}}}})");
@@ -85,7 +85,7 @@ TEST(SVPlacemark, ReadsPositionAndSpans) {
   EXPECT_EQ(place.region, (MapRegion{{57.5, 11.25}, {1, 358.5}}));
 }
 
-TEST(SVPlacemark, ReadsWhatIsMissingOrMistypedAsNothing) {
+TEST(SVPlacemarkTest, ReadsWhatIsMissingOrMistypedAsNothing) {
   const MapRegion nowhere;
   const MapRegion noSpan = {{1, 2}, {0, 0}};
   const struct {

@@ -156,7 +156,7 @@ TEST(ExtractCheckTest, RefusesWhatUnfoldsTooFarInLittleMemory) {
   };
   for (const auto& test : cases) {
     std::ofstream("/proc/self/clear_refs") << 5;  // What was used at most counts from here.
-    const std::int64_t before = memory("VmHWM:");
+    [[maybe_unused]] const std::int64_t before = memory("VmHWM:");
     EXPECT_THAT(importFault(test.file, test.bytes), HasSubstr(test.fault)) << test.file;
 #ifndef KEEPS_WHAT_WAS_FREED
     EXPECT_LT(memory("VmHWM:") - before, 64 << 20) << test.file;

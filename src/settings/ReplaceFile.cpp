@@ -62,16 +62,18 @@ class Temporary {
     return systemFailure("cannot create a file beside", mTarget);
   }
 
-  /// Makes it look to others as the target does, or as a new file shall.
+  /// Makes it look to others as the target does, or as a new file of the folder's owner shall.
   Status dress() {
     struct stat old = {};
     const bool isThere = ::lstat(mTarget.c_str(), &old) == 0;
     if (isThere && S_ISLNK(old.st_mode)) {
       return failed("cannot replace " + mTarget.string() + ": a symbolic link stands in its place");
     }
-    if (!isThere || !S_ISREG(old.st_mode)) return setMode(kNewFileMode);
+    const bool isReplaced = isThere && S_ISREG(old.st_mode);
+    if (!isReplaced && ::stat(folderOf(mTarget).c_str(), &old) != 0) old = {};
     // Only the superuser may give files away; for others the folder's owner writes, which is fine.
     [[maybe_unused]] const int ignored = ::fchown(mFile.get(), old.st_uid, old.st_gid);
+    if (!isReplaced) return setMode(kNewFileMode);
     if (Status set = setMode(old.st_mode & 0777); !set) return set;
     return copyExtendedAttributes(mTarget, mFile.get());
   }

@@ -74,19 +74,24 @@ void WriterTurns::end() {
 Status WriterTurns::openLock() {
   if (Status made = createFolder(mFolder, mSystem); !made) return made;
   const fs::path path = mFolder / kLockName;
-  mLock.reset(uninterrupted([&] {
+  const auto open = [&] {
     return mSystem.open(path, O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK,
                         S_IRUSR | S_IWUSR);
-  }));
-  if (mLock.get() < 0) return systemFailure("cannot take turns with other writers at", path);
+  };
+  mLock.reset(uninterrupted(open));
   struct stat folder = {};
   struct stat lock = {};
-  if (::stat(mFolder.c_str(), &folder) == 0 && ::fstat(mLock.get(), &lock) == 0 &&
-      folder.st_uid != lock.st_uid) {
+  const bool isForeign = ::stat(mFolder.c_str(), &folder) == 0 &&
+                         ::lstat(path.c_str(), &lock) == 0 && folder.st_uid != lock.st_uid;
+  if (mLock.get() >= 0 && isForeign) {
     // What the superuser makes, the folder's owner must be able to open.
     [[maybe_unused]] const int ignored = ::fchown(mLock.get(), folder.st_uid, folder.st_gid);
+  } else if (isForeign && folder.st_uid == ::geteuid() && mSystem.unlink(path) == 0) {
+    // Somebody else, who may write here too, left a lock that keeps the owner out.
+    mLock.reset(uninterrupted(open));
   }
-  return done();
+  return mLock.get() >= 0 ? done()
+                          : systemFailure("cannot take turns with other writers at", path);
 }
 
 Status WriterTurns::waitForLock() {

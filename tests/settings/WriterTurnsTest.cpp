@@ -5,6 +5,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "settings/ReplaceFile.h"
 #include "settings/WriterTurns.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -93,6 +94,28 @@ TEST_F(WriterTurnsTest, ALinkInTheLocksPlaceIsNotFollowed) {
   fs::create_symlink(elsewhere, mLock);
   EXPECT_FALSE(turns(30ms).take());
   EXPECT_FALSE(fs::exists(elsewhere));
+}
+
+TEST_F(WriterTurnsTest, BelongsToTheFoldersOwnerWhoeverWasThereFirst) {
+  if (::geteuid() != 0) GTEST_SKIP() << "only the superuser can be somebody else";
+  constexpr uid_t kOwner = 1000, kStranger = 2000;
+  const fs::path file = mFolder.path() / "com.quorvil.wl.master.plist";
+  ASSERT_EQ(::chown(mFolder.path().c_str(), kOwner, kOwner), 0);
+  const auto ownerOf = [](const fs::path& path) {
+    struct stat status = {};
+    return ::stat(path.c_str(), &status) == 0 ? status.st_uid : 0;
+  };
+  ASSERT_TRUE(turns(30ms).take());
+  ASSERT_TRUE(replaceFile(file, "the superuser's"));
+  EXPECT_EQ(ownerOf(mLock), kOwner);
+  EXPECT_EQ(ownerOf(file), kOwner);
+
+  ASSERT_EQ(::chown(mLock.c_str(), kStranger, kStranger), 0);
+  ASSERT_EQ(::seteuid(kOwner), 0);
+  const bool isTaken = static_cast<bool>(turns(30ms).take());
+  ASSERT_EQ(::seteuid(0), 0);
+  EXPECT_TRUE(isTaken);
+  EXPECT_EQ(ownerOf(mLock), kOwner);
 }
 
 }  // namespace

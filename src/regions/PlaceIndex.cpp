@@ -7,6 +7,8 @@
 
 #include "regions/GroundGeometry.h"
 #include "regions/SearchText.h"
+#include "settings/TrimmedText.h"
+#include "settings/Utf8.h"
 
 namespace wayloom {
 
@@ -30,6 +32,21 @@ constexpr double kFarMetres = 100000;
 
 bool isPosition(Coordinate position) {
   return std::abs(position.latitude) <= 90 && std::isfinite(position.longitude);
+}
+
+// Whether two texts have the same letters, small or capital.
+bool isSameText(std::string_view one, std::string_view other) {
+  const auto isCapital = [](char32_t letter) {
+    return (letter >= U'A' && letter <= U'Z') || (letter >= U'À' && letter <= U'Þ');
+  };
+  for (std::size_t at = 0; at < one.size() && at < other.size();) {
+    const Utf8Step first = utf8Step(one, at);
+    const Utf8Step second = utf8Step(other, at);
+    const auto small = [&](char32_t letter) { return isCapital(letter) ? letter + 0x20 : letter; };
+    if (small(first.character) != small(second.character)) return false;
+    at += first.length;
+  }
+  return one.size() == other.size();
 }
 
 // How far a position is outside a settlement, taking it for a disc that grows with its population
@@ -68,12 +85,18 @@ std::vector<Place> PlaceIndex::search(std::string_view text, std::optional<Coord
   if (near && !isPosition(*near)) near.reset();
   const SearchText typed(text, mFolder);
   if (typed.isEmpty()) return {};
-  const auto withoutNumbers = typed.withoutNumbers();
   std::vector<Candidate> found;
   for (const auto match :
        {SearchText::Match::kLastWordMayGoOn, SearchText::Match::kEveryWordMayGoOn}) {
     if (found.empty()) found = candidates({typed, match, near});
-    if (found.empty() && withoutNumbers) found = candidates({*withoutNumbers, match, near});
+  }
+  if (found.empty() && typed.hasHouseNumber()) found = streets(typed, near);
+  // Two letters are a name only if they are all of it, accents too: "a" is not Å, and nothing else.
+  if (!typed.saysSomething()) {
+    const std::string letters = trimmedText(text);
+    std::erase_if(found, [&](const Candidate& candidate) {
+      return letters.size() < 2 || !isSameText(candidate.place.name, letters);
+    });
   }
   std::stable_sort(found.begin(), found.end(),
                    [](const auto& a, const auto& b) { return a.score > b.score; });
@@ -88,6 +111,26 @@ std::vector<Place> PlaceIndex::search(std::string_view text, std::optional<Coord
     if (!isKnown) places.push_back(std::move(candidate.place));
   }
   return places;
+}
+
+std::vector<PlaceIndex::Candidate> PlaceIndex::streets(const SearchText& address,
+                                                       std::optional<Coordinate> near) {
+  const auto words = address.withoutNumbers();
+  if (!words || !words->saysSomething()) return {};
+  auto found = candidates({*words, SearchText::Match::kWholeWords, near});
+  std::erase_if(
+      found, [](const Candidate& candidate) { return candidate.place.kind != PlaceKind::kStreet; });
+  return found;
+}
+
+std::optional<Place> PlaceIndex::withoutNumbers(std::string_view text,
+                                                std::optional<Coordinate> near) {
+  const auto typed = SearchText(text, mFolder).withoutNumbers();
+  if (!typed || !typed->saysSomething()) return std::nullopt;
+  auto found = candidates({*typed, SearchText::Match::kLastWordMayGoOn, near});
+  const auto best = std::max_element(
+      found.begin(), found.end(), [](const auto& a, const auto& b) { return a.score < b.score; });
+  return best == found.end() ? std::nullopt : std::optional(std::move(best->place));
 }
 
 std::vector<PlaceIndex::Candidate> PlaceIndex::candidates(const Question& question) {

@@ -10,6 +10,7 @@
 #include "regions/Place.h"
 #include "regions/RegionPlaces.h"
 #include "regions/RegionStore.h"
+#include "regions/SearchText.h"
 
 namespace wayloom {
 
@@ -20,10 +21,15 @@ class PlaceIndex {
   static Result<PlaceIndex> open(const RegionStore& store);
 
   /// The places that a text names, best first: those of exactly this name, the important ones, and
-  /// those close to `near`. Case, accents and the order of words do not matter, and the last word
-  /// may be unfinished. Any text is allowed.
+  /// those close to `near`. Case, accents and the order of words do not matter, and words of three
+  /// letters and more may be unfinished; but each word must be found, numbers as they are, unless
+  /// one may be a house's and its street is found. Any text is allowed.
   std::vector<Place> search(std::string_view text, std::optional<Coordinate> near,
                             std::size_t limit = 20);
+
+  /// The best place for a text with numbers that no place has, taken without them. For telling what
+  /// there is instead: that it was meant is a guess.
+  std::optional<Place> withoutNumbers(std::string_view text, std::optional<Coordinate> near);
 
   /// The address of a position: the house or street there, else the settlement that the position
   /// belongs to or is nearest to, else the country. Nothing far out at sea. The coordinate of the
@@ -41,6 +47,8 @@ class PlaceIndex {
 
   explicit PlaceIndex(NameFolder folder) : mFolder(std::move(folder)) {}
   std::vector<Candidate> candidates(const Question& question);
+  /// The streets of an address whose numbers are not known.
+  std::vector<Candidate> streets(const SearchText& address, std::optional<Coordinate> near);
   double score(const PlaceRow& row, bool isNamed, const Question& question) const;
   std::optional<Place> streetAt(Coordinate position);
   std::optional<Place> settlementAt(Coordinate position, double radiusMetres,

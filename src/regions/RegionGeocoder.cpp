@@ -14,6 +14,14 @@ GeocoderAnswer noAnswer(std::string error) {
   return {std::nullopt, std::move(error)};
 }
 
+std::string nothingFound(PlaceIndex& index, const std::string& address,
+                         std::optional<Coordinate> near) {
+  std::string sentence = "No place of this name was found";
+  const auto similar = index.withoutNumbers(address, near);
+  if (similar) sentence += ", only " + addressLines(*similar).front();
+  return sentence;
+}
+
 }  // namespace
 
 RegionGeocoder::RegionGeocoder(RegionStore store, MainQueue& mainQueue) : mQuestions(mainQueue) {
@@ -26,7 +34,7 @@ void RegionGeocoder::geocodeAddress(const std::string& address, std::optional<Co
   ask(
       [address, near](PlaceIndex& index) {
         const auto found = index.search(address, near);
-        if (found.empty()) return noAnswer("No place of this name was found");
+        if (found.empty()) return noAnswer(nothingFound(index, address, near));
         std::vector<GeocodedPlace> places;
         for (const Place& place : found) places.push_back(geocoded(place));
         return GeocoderAnswer{std::move(places), std::nullopt};

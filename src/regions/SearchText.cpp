@@ -10,6 +10,12 @@ namespace {
 
 constexpr std::size_t kMostBytes = 400;
 constexpr std::size_t kMostWords = 12;
+// Shorter ones name houses, roads and floors, but no place by themselves.
+constexpr std::size_t kShortestNumber = 4;
+
+bool hasDigit(const std::string& word) {
+  return word.find_first_of("0123456789") != std::string::npos;
+}
 
 // The beginning of a text, never ending inside a character.
 std::string_view beginning(std::string_view text) {
@@ -39,6 +45,13 @@ std::string join(const std::vector<std::string>& parts, std::string_view separat
   return joined;
 }
 
+// Too little to guess the rest from, except in scripts whose characters are whole words or
+// syllables (three bytes each). Numbers do not go on at all: 1 is not the beginning of 15.
+bool isFragment(const std::string& word) {
+  constexpr std::size_t kShortestBeginning = 3;
+  return word.size() < kShortestBeginning || hasDigit(word);
+}
+
 // Folded words hold no quotes, so quoting them makes them text whatever they look like.
 std::string quoted(const std::string& word) {
   return std::string("\"").append(word).append("\"");
@@ -47,8 +60,9 @@ std::string quoted(const std::string& word) {
 std::vector<std::string> terms(const std::vector<std::string>& words, SearchText::Match match) {
   std::vector<std::string> terms;
   for (const auto& word : words) {
-    const bool mayGoOn = match == SearchText::Match::kEveryWordMayGoOn || &word == &words.back();
-    terms.push_back(quoted(word) + (mayGoOn ? "*" : ""));
+    const bool mayGoOn = match == SearchText::Match::kEveryWordMayGoOn ||
+                         (match == SearchText::Match::kLastWordMayGoOn && &word == &words.back());
+    terms.push_back(quoted(word) + (mayGoOn && !isFragment(word) ? "*" : ""));
   }
   return terms;
 }
@@ -68,10 +82,23 @@ bool SearchText::hasWord(const std::string& word) const {
   return std::find(mWords.begin(), mWords.end(), word) != mWords.end();
 }
 
+bool SearchText::saysSomething() const {
+  return std::any_of(mWords.begin(), mWords.end(), [](const auto& word) {
+    return !isFragment(word) || (hasDigit(word) && word.size() >= kShortestNumber);
+  });
+}
+
+bool SearchText::hasHouseNumber() const {
+  return std::any_of(mWords.begin(), mWords.end(), [](const std::string& word) {
+    const std::size_t digits = std::min(word.find_first_not_of("0123456789"), word.size());
+    return digits >= 1 && digits <= 4 && word[0] != '0' && word.size() <= digits + 1;
+  });
+}
+
 std::optional<SearchText> SearchText::withoutNumbers() const {
   std::vector<std::string> kept;
   for (const auto& word : mWords) {
-    if (word.find_first_of("0123456789") == std::string::npos) kept.push_back(word);
+    if (!hasDigit(word)) kept.push_back(word);
   }
   if (kept.empty() || kept.size() == mWords.size()) return std::nullopt;
   return SearchText(std::move(kept));

@@ -15,7 +15,7 @@ namespace wayloom {
 class SearchText {
  public:
   /// How much of a word must stand in the index.
-  enum class Match { kLastWordMayGoOn, kEveryWordMayGoOn };
+  enum class Match { kWholeWords, kLastWordMayGoOn, kEveryWordMayGoOn };
 
   SearchText(std::string_view text, const NameFolder& folder);
 
@@ -26,6 +26,12 @@ class SearchText {
 
   /// The words in the order they were typed, as place_key holds names.
   const std::string& key() const { return mKey; }
+
+  /// Whether there is more than fragments of one or two letters and short numbers.
+  bool saysSomething() const;
+
+  /// Whether a word looks like the number of a house: 7, 12b, 1024.
+  bool hasHouseNumber() const;
 
   /// Without words that hold a digit (house numbers, postal codes), when others are left.
   std::optional<SearchText> withoutNumbers() const;

@@ -1,5 +1,6 @@
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(Systemd REQUIRED IMPORTED_TARGET libsystemd)
+pkg_check_modules(GeographicLib REQUIRED IMPORTED_TARGET geographiclib)
 find_package(SQLite3 REQUIRED)
 find_package(EXPAT REQUIRED)
 find_package(ZLIB REQUIRED)

@@ -6,9 +6,11 @@
 
 #include "map/MapnikTileSource.h"
 #include "platform/ConfiguredPosition.h"
+#include "platform/PreferredLanguages.h"
 #include "platform/QtIconRasterizer.h"
 #include "platform/QtPositionSource.h"
 #include "regions/RegionDirectories.h"
+#include "regions/RegionGeocoder.h"
 #include "settings/SettingsRoot.h"
 
 namespace wayloom {
@@ -36,7 +38,8 @@ AppServices::AppServices(const Options& options)
     : files(settingsRoot(options.root), SettingsFiles::kPatience, options.fileSystem),
       notice(noticeCommand()),
       regions(regionDirectories(options.regions)),
-      geocoder(regions, mainQueue),
+      geocoder(std::make_unique<RegionGeocoder>(regions, mainQueue), mainQueue,
+               preferredLanguage()),
       directions(regions, mainQueue),
       location(locationPlatform(options.configuredPositionOnly)),
       tiles(std::make_shared<MapnikTileSource>(regions.regions())),

@@ -8,6 +8,7 @@
 #include "map/TileLoader.h"
 #include "map/TileSource.h"
 #include "places/LocationClass.h"
+#include "places/PlaceTextGeocoder.h"
 #include "platform/Clock.h"
 #include "platform/HomeScreen.h"
 #include "platform/QtAddressOpener.h"
@@ -15,7 +16,6 @@
 #include "platform/SettingsDefaults.h"
 #include "platform/SystemNotices.h"
 #include "regions/RegionDirections.h"
-#include "regions/RegionGeocoder.h"
 #include "regions/RegionStore.h"
 #include "settings/SettingsFiles.h"
 #include "settings/WorkQueue.h"
@@ -46,7 +46,7 @@ class AppServices {
   SystemClock clock;
   RegionStore regions;
   QtMainQueue mainQueue;
-  RegionGeocoder geocoder;
+  PlaceTextGeocoder geocoder;
   RegionDirections directions;
   SettingsDefaults defaults;
   AlertPresenter alerts;

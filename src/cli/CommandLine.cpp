@@ -3,6 +3,7 @@
 #include <iostream>
 
 #include "cli/TextForms.h"
+#include "places/PlaceTextGeocoder.h"
 #include "places/WebGeocoder.h"
 #include "platform/CurlWebRequests.h"
 #include "platform/OnlineServices.h"
@@ -26,8 +27,11 @@ ChangeNotice& CommandLine::notice() {
 }
 
 Geocoder& CommandLine::geocoder() {
-  if (!mGeocoder && mOptions.online) mGeocoder = makeOnlineGeocoder();
-  if (!mGeocoder) mGeocoder = std::make_unique<RegionGeocoder>(regions(), mLoop);
+  if (!mGeocoder) {
+    auto names =
+        mOptions.online ? makeOnlineGeocoder() : std::make_unique<RegionGeocoder>(regions(), mLoop);
+    mGeocoder = std::make_unique<PlaceTextGeocoder>(std::move(names), mLoop, preferredLanguage());
+  }
   return *mGeocoder;
 }
 

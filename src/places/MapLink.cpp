@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "places/DegreesText.h"
+#include "places/LinkParts.h"
 
 namespace wayloom {
 
@@ -64,70 +65,6 @@ constexpr std::string_view kWordForms[] = {"q", "query", "daddr", "destination",
 constexpr std::string_view kWordFolders[] = {"place", "search", "dir"};
 constexpr std::string_view kSchemes[] = {"geo:", "google.navigation:", "bingmaps:", "maps:"};
 
-using Parameters = std::vector<std::pair<std::string, std::string>>;
-
-struct Link {
-  std::string host;
-  std::vector<std::string> path;
-  Parameters parameters;
-  std::string fragment;
-};
-
-int hexDigit(char character) {
-  if (character >= '0' && character <= '9') return character - '0';
-  const int letter = character | 0x20;
-  return letter >= 'a' && letter <= 'f' ? letter - 'a' + 10 : -1;
-}
-
-std::string decoded(std::string_view text) {
-  std::string result;
-  for (std::size_t at = 0; at < text.size(); ++at) {
-    const bool isEscape = text[at] == '%' && at + 2 < text.size() && hexDigit(text[at + 1]) >= 0 &&
-                          hexDigit(text[at + 2]) >= 0;
-    if (isEscape) {
-      result += static_cast<char>(hexDigit(text[at + 1]) * 16 + hexDigit(text[at + 2]));
-      at += 2;
-    } else {
-      result += text[at] == '+' ? ' ' : text[at];
-    }
-  }
-  return result;
-}
-
-/// Cuts off what stands before `separator`, which goes too; everything if it is not there.
-std::string_view takeUntil(std::string_view& text, char separator) {
-  const std::size_t end = std::min(text.find(separator), text.size());
-  const std::string_view taken = text.substr(0, end);
-  text.remove_prefix(std::min(end + 1, text.size()));
-  return taken;
-}
-
-void addParameters(std::string_view text, Parameters& parameters) {
-  while (!text.empty()) {
-    std::string_view value = takeUntil(text, '&');
-    const std::string name = decoded(takeUntil(value, '='));
-    if (!value.empty()) parameters.emplace_back(name, decoded(value));
-  }
-}
-
-Link parsed(std::string_view text) {
-  Link link;
-  std::string_view fragment = text;
-  std::string_view query = takeUntil(fragment, '#');
-  std::string_view path = takeUntil(query, '?');
-  if (const std::size_t scheme = path.find("://"); scheme != path.npos) {
-    path.remove_prefix(scheme + 3);
-  } else if (const std::size_t colon = path.find(':'); colon != path.npos) {
-    addParameters(path.substr(colon + 1), link.parameters);  // "google.navigation:q=…"
-  }
-  link.host = takeUntil(path, '/');
-  while (!path.empty()) link.path.push_back(decoded(takeUntil(path, '/')));
-  addParameters(query, link.parameters);
-  link.fragment = decoded(fragment);
-  if (fragment.find('=') != fragment.npos) addParameters(fragment, link.parameters);
-  return link;
-}
-
 std::optional<double> takeNumber(std::string_view& text) {
   if (text.starts_with('+')) text.remove_prefix(1);
   double number = 0;
@@ -158,13 +95,6 @@ std::optional<Coordinate> leadingPair(std::string_view text, Order order) {
   return order == Order::LatitudeFirst ? Coordinate{*first, *second} : Coordinate{*second, *first};
 }
 
-const std::string* valueOf(const Parameters& parameters, std::string_view name) {
-  for (const auto& [key, value] : parameters) {
-    if (key == name) return &value;
-  }
-  return nullptr;
-}
-
 using Found = std::optional<Result<Coordinate>>;
 
 Found checkedPair(std::optional<Coordinate> pair) {
@@ -178,7 +108,7 @@ Found positionIn(const std::string& value, Order order) {
   return plain ? readDegrees(*plain, "") : std::nullopt;
 }
 
-Found splitPosition(const Link& link) {
+Found splitPosition(const LinkParts& link) {
   for (const SplitForm& form : kSplitForms) {
     if (link.host.find(form.host) == std::string::npos) continue;
     const std::string* latitude = valueOf(link.parameters, form.latitude);
@@ -190,7 +120,7 @@ Found splitPosition(const Link& link) {
 }
 
 /// "!3d57.7!4d11.97": the place itself, in a path whose "@" is the middle of the view.
-Found markedPosition(const Link& link) {
+Found markedPosition(const LinkParts& link) {
   for (const std::string& part : link.path) {
     const std::size_t latitude = part.rfind("!3d");
     const std::size_t longitude = part.find("!4d", latitude);
@@ -203,7 +133,7 @@ Found markedPosition(const Link& link) {
   return std::nullopt;
 }
 
-Found pairPosition(const Link& link) {
+Found pairPosition(const LinkParts& link) {
   for (const PairForm& form : kPairForms) {
     if (link.host.find(form.host) == std::string::npos) continue;
     const std::string* value = valueOf(link.parameters, form.name);
@@ -215,7 +145,7 @@ Found pairPosition(const Link& link) {
 }
 
 /// "params=57_42_27_N_11_58_03_E_type:city".
-Found encyclopediaPosition(const Link& link) {
+Found encyclopediaPosition(const LinkParts& link) {
   const std::string* value = valueOf(link.parameters, "params");
   if (!value) return std::nullopt;
   const std::size_t end = value->find_first_of("EWO");
@@ -226,7 +156,7 @@ Found encyclopediaPosition(const Link& link) {
 }
 
 /// A position in the path: the last one that is a place, or else the middle of the view.
-Found pathPosition(const Link& link) {
+Found pathPosition(const LinkParts& link) {
   const Order order =
       link.host.find("2gis.") == std::string::npos ? Order::LatitudeFirst : Order::LongitudeFirst;
   for (const bool isView : {false, true}) {
@@ -240,7 +170,7 @@ Found pathPosition(const Link& link) {
 }
 
 /// "#map=17/57.7/11.97" and "#17/57.7/11.97", as a parameter too.
-Found viewPosition(const Link& link) {
+Found viewPosition(const LinkParts& link) {
   const std::string* map = valueOf(link.parameters, "map");
   for (std::string_view view :
        {map ? std::string_view(*map) : "", std::string_view(link.fragment)}) {
@@ -255,7 +185,7 @@ Found viewPosition(const Link& link) {
 
 /// The short form of OpenStreetMap's links: digits of base 64, each three bits of longitude and
 /// latitude in turn, in fractions of the world's width and height.
-Found shortPosition(const Link& link) {
+Found shortPosition(const LinkParts& link) {
   constexpr std::string_view kDigits =
       "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789_~";
   if (!link.host.ends_with("osm.org") || link.path.size() < 2 || link.path[0] != "go") return {};
@@ -275,7 +205,7 @@ Found shortPosition(const Link& link) {
   return checkedPosition({north * 180 - 90 + part * 90, east * 360 - 180 + part * 180});
 }
 
-std::optional<std::string> words(const Link& link) {
+std::optional<std::string> words(const LinkParts& link) {
   for (const std::string_view name : kWordForms) {
     if (const std::string* value = valueOf(link.parameters, name)) return *value;
   }
@@ -293,8 +223,7 @@ Result<LinkTarget> readGeoAddress(std::string_view address) {
   address.remove_prefix(4);
   std::string_view query = address;
   std::string_view rest = takeUntil(query, '?');
-  Parameters parameters;
-  addParameters(query, parameters);
+  const LinkParameters parameters = linkParameters(query);
   const auto position = leadingPair(takeUntil(rest, ';'), Order::LatitudeFirst);
   while (!rest.empty()) {
     std::string_view value = takeUntil(rest, ';');
@@ -348,7 +277,7 @@ std::optional<std::string_view> linkIn(std::string_view text) {
 
 Result<LinkTarget> readMapLink(std::string_view text) {
   if (text.starts_with("geo:")) return readGeoAddress(text);
-  const Link link = parsed(text);
+  const LinkParts link = linkParts(text);
   for (const auto read : {splitPosition, markedPosition, pairPosition, encyclopediaPosition,
                           pathPosition, viewPosition, shortPosition}) {
     const Found found = read(link);

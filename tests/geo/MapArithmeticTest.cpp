@@ -14,11 +14,10 @@ TEST(WebMercatorTest, KeepsPolesAndHugeValuesOnTheSquare) {
 }
 
 TEST(WebMercatorTest, WrapsLongitudesAcrossTheAntimeridian) {
-  const struct {
-    double longitude, wrapped;
-  } cases[] = {{180, -180}, {-180, -180}, {181, -179}, {-181, 179}, {540, -180}, {11.97, 11.97}};
-  for (const auto& test : cases) {
-    EXPECT_NEAR(wrapLongitude(test.longitude), test.wrapped, 1e-12) << test.longitude;
+  const std::pair<double, double> cases[] = {{180, -180}, {-180, -180}, {181, -179},
+                                             {-181, 179}, {540, -180},  {11.97, 11.97}};
+  for (const auto& [longitude, wrapped] : cases) {
+    EXPECT_NEAR(wrapLongitude(longitude), wrapped, 1e-12) << longitude;
   }
 }
 

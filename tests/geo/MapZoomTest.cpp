@@ -12,24 +12,21 @@ constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 // Computed with the sine and logarithm of the C library in single precision; double precision
 // differs in all but the first two latitudes.
 TEST(MapZoomTest, PlacesCoordinatesOnTheGrid) {
-  const struct {
-    double longitude, x;
-  } longitudes[] = {{-180, 0},          {-90, 134217728},    {0, 268435456},   {0.1, 268584587},
-                    {11.97, 286286414}, {103.85, 423307801}, {180, 536870912}, {190, 551783993}};
-  for (const auto& test : longitudes) {
-    EXPECT_EQ(longitudeToPixelSpaceX(test.longitude), test.x) << test.longitude;
+  const std::pair<double, double> longitudes[] = {
+      {-180, 0},          {-90, 134217728},    {0, 268435456},   {0.1, 268584587},
+      {11.97, 286286414}, {103.85, 423307801}, {180, 536870912}, {190, 551783993}};
+  for (const auto& [longitude, x] : longitudes) {
+    EXPECT_EQ(longitudeToPixelSpaceX(longitude), x) << longitude;
   }
-  const struct {
-    double latitude, y;
-  } latitudes[] = {{0, 268435456},
-                   {-1e-9, 268435456},
-                   {-33.8688, 322172073},
-                   {57.7089, 162516023},
-                   {80, 60268878},
-                   {85.05112877980659, -130},
-                   {-85.05112877980659, 536871042}};
-  for (const auto& test : latitudes) {
-    EXPECT_EQ(latitudeToPixelSpaceY(test.latitude), test.y) << test.latitude;
+  const std::pair<double, double> latitudes[] = {{0, 268435456},
+                                                 {-1e-9, 268435456},
+                                                 {-33.8688, 322172073},
+                                                 {57.7089, 162516023},
+                                                 {80, 60268878},
+                                                 {85.05112877980659, -130},
+                                                 {-85.05112877980659, 536871042}};
+  for (const auto& [latitude, y] : latitudes) {
+    EXPECT_EQ(latitudeToPixelSpaceY(latitude), y) << latitude;
   }
 }
 

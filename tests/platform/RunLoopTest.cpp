@@ -1,7 +1,5 @@
-#include <algorithm>
 #include <chrono>
 #include <memory>
-#include <thread>
 #include <vector>
 
 #include "platform/RunLoop.h"
@@ -11,32 +9,6 @@ namespace {
 
 using namespace std::chrono_literals;
 constexpr auto kLimit = 30s;
-
-TEST(RunLoopTest, RunsWhatManyThreadsPostInEachThreadsOrder) {
-  constexpr int kThreads = 4;
-  constexpr int kEach = 500;
-  RunLoop loop;
-  std::vector<std::vector<int>> seen(kThreads);
-  std::vector<std::thread> threads;
-  for (int thread = 0; thread < kThreads; ++thread) {
-    threads.emplace_back([&, thread] {
-      EXPECT_FALSE(loop.isMainThread());
-      for (int i = 0; i < kEach; ++i) loop.post([&, thread, i] { seen[thread].push_back(i); });
-    });
-  }
-  EXPECT_TRUE(loop.runUntil(
-      [&] {
-        for (const auto& order : seen) {
-          if (order.size() != kEach) return false;
-        }
-        return true;
-      },
-      kLimit));
-  for (auto& thread : threads) thread.join();
-  for (int thread = 0; thread < kThreads; ++thread) {
-    EXPECT_TRUE(std::is_sorted(seen[thread].begin(), seen[thread].end())) << "thread " << thread;
-  }
-}
 
 TEST(RunLoopTest, FiresTimersByDelayAndOnlyOnce) {
   RunLoop loop;

@@ -13,20 +13,15 @@ MapCamera cameraOver(const MapRegion& region) {
   return camera;
 }
 
-double distanceTo(QPointF point, QPointF from, QPointF to) {
-  const QPointF way = to - from;
-  const double length = QPointF::dotProduct(way, way);
-  const double along =
-      length > 0 ? std::clamp(QPointF::dotProduct(point - from, way) / length, 0.0, 1.0) : 0;
-  const QPointF away = point - from - way * along;
-  return std::hypot(away.x(), away.y());
-}
-
 double distanceTo(QPointF point, const std::vector<QPolygonF>& parts) {
   double nearest = 1e9;
   for (const QPolygonF& part : parts) {
     for (qsizetype i = 1; i < part.size(); ++i) {
-      nearest = std::min(nearest, distanceTo(point, part[i - 1], part[i]));
+      const QPointF way = part[i] - part[i - 1], offset = point - part[i - 1];
+      const double length = std::max(QPointF::dotProduct(way, way), 1e-12);
+      const double along = std::clamp(QPointF::dotProduct(offset, way) / length, 0.0, 1.0);
+      const QPointF away = offset - way * along;
+      nearest = std::min(nearest, std::hypot(away.x(), away.y()));
     }
   }
   return nearest;

@@ -1,5 +1,4 @@
 #include <cmath>
-#include <fstream>
 #include <string>
 
 #include "tests/regions/SmallIndex.h"
@@ -103,27 +102,13 @@ TEST(PlaceSearchTest, FindsTheNearOneAmongThousands) {
 
 TEST(PlaceSearchTest, TakesAnyText) {
   SmallIndex index(someWorld());
+  std::string words;
+  for (int word = 0; word < 5000; ++word) words.append(std::to_string(word)).append("p ");
   const std::string hostile[] = {
-      "\"",
-      "paris\"",
-      "paris OR NOT * ( AND",
-      "NEAR(paris, 3)",
-      "name : paris",
-      "{name} : ^paris +",
-      "§275",
-      std::string(10000, 'a'),
-      std::string(10000, '"'),
-      [] {
-        std::string words;
-        for (int word = 0; word < 5000; ++word) words.append(std::to_string(word)).append("p ");
-        return words;
-      }(),
-      std::string("par\0is", 6),
-      "\x01\x02\x1b[31m\r\n\t",
-      "\xff\xfe\xc3",
-      "'; DROP TABLE place; --",
-      "%s%n",
-  };
+      "paris\"",      "paris OR NOT * ( AND",    "NEAR(paris, 3)",
+      "name : paris", "{name} : ^paris +",       std::string(10000, '"'),
+      words,          std::string("par\0is", 6), "\x01\x02\x1b[31m\r\n\t",
+      "\xff\xfe\xc3", "'; DROP TABLE place; --"};
   for (const auto& text : hostile) {
     (void)index->search(text, std::nullopt);
     (void)index->search(text, Coordinate{48, 2});
@@ -142,28 +127,6 @@ TEST(PlaceSearchTest, GivesOnePlaceOnceFromOverlappingRegions) {
   EXPECT_EQ(found[0].country, "France");
   EXPECT_EQ(found[1].country, "United States");
   EXPECT_EQ(found[2].name, "Parisot");
-}
-
-TEST(PlaceSearchTest, LivesWithAFileWhoseContentIsDamaged) {
-  SmallIndex whole(someWorld());
-  const auto path = whole.folder().path() / "0.region";
-  const auto size = std::filesystem::file_size(path);
-  std::size_t opened = 0;
-  for (std::uintmax_t offset = 4096; offset < size; offset += 4096) {
-    const TemporaryFolder folder;
-    std::filesystem::copy_file(path, folder.path() / "bad.region");
-    std::fstream file(folder.path() / "bad.region",
-                      std::ios::in | std::ios::out | std::ios::binary);
-    file.seekp(static_cast<std::streamoff>(offset)) << std::string(4096, '\x5a');
-    file.close();
-    auto index = PlaceIndex::open(RegionStore({folder.path()}));
-    ASSERT_TRUE(index);
-    for (const char* text : {"paris", "s", "drottninggatan göteborg"}) {
-      opened += index->search(text, Coordinate{48, 2}).size();
-    }
-    opened += index->placeAt({57.7061, 11.967}).has_value();
-  }
-  EXPECT_GT(opened, 0u) << "no damaged file was usable, so nothing was tried";
 }
 
 }  // namespace

@@ -1,8 +1,3 @@
-#include <memory>
-#include <string>
-#include <vector>
-
-#include <QtCore/QElapsedTimer>
 #include <QtTest/QTest>
 
 #include "ui/ViewFade.h"
@@ -10,31 +5,22 @@
 namespace wayloom {
 namespace {
 
-bool waitFor(const std::function<bool()>& condition) {
-  return QTest::qWaitFor(condition);
-}
-
 TEST(ViewFadeTest, EndsWhatItInterrupts) {
-  const struct {
-    std::string fades;
-    bool isVisible;
-  } cases[] = {{"sh", false}, {"hs", true}, {"ss", true}, {"hh", false}, {"hshs", true}};
-  for (const auto& test : cases) {
+  const std::pair<std::string, bool> cases[] = {
+      {"sh", false}, {"hs", true}, {"ss", true}, {"hh", false}, {"hshs", true}};
+  for (const auto& [fades, isVisible] : cases) {
     QQuickItem item;
     std::string ended;
-    for (const char kind : test.fades) {
-      const auto complete = [&ended, kind] { ended += kind; };
-      if (kind == 's') {
-        fadeShowAnimationDuration(item, 0.03, complete);
-      } else {
-        fadeHideAnimationDuration(item, 0.03, complete);
-      }
+    for (const char kind : fades) {
+      const auto fade = kind == 's' ? fadeShowAnimationDuration : fadeHideAnimationDuration;
+      fade(item, 0.03, [&ended, kind] { ended += kind; });
     }
-    EXPECT_EQ(ended, "") << test.fades;
-    EXPECT_TRUE(waitFor([&] { return ended.size() == test.fades.size(); })) << test.fades;
-    EXPECT_EQ(ended, test.fades);
-    EXPECT_EQ(item.isVisible(), test.isVisible) << test.fades;
-    EXPECT_EQ(item.opacity(), 1) << test.fades;
+    EXPECT_EQ(ended, "") << fades;
+    const std::size_t wanted = fades.size();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ended.size() == wanted; })) << fades;
+    EXPECT_EQ(ended, fades);
+    EXPECT_EQ(item.isVisible(), isVisible) << fades;
+    EXPECT_EQ(item.opacity(), 1) << fades;
   }
 }
 
@@ -47,12 +33,12 @@ TEST(ViewFadeTest, EndsWithItsItem) {
   bool isLater = false;
   QQuickItem other;
   fadeShowAnimationDuration(other, 0.03, [&] { isLater = true; });
-  ASSERT_TRUE(waitFor([&] { return isLater; }));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return isLater; }));
   EXPECT_EQ(completions, 0);
 
   auto last = std::make_unique<QQuickItem>();
   fadeHideAnimationDuration(*last, 0.01, [&] { last.reset(); });
-  EXPECT_TRUE(waitFor([&] { return !last; })) << "destroyed by its completion";
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !last; })) << "destroyed by its completion";
 }
 
 }  // namespace

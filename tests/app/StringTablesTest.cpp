@@ -102,7 +102,6 @@ TEST(StringTablesTest, TheFirstLanguageThatIsThereIsUsed) {
       {"de", {{"de-DE", "en"}, {"de_AT"}}},
       {"fr", {{"fr-CA"}, {"sv-SE", "fr"}}},
       {"es", {{"es-419"}}},
-      {"ja", {{"ja"}}},
       {"zh_Hans", {{"zh-Hans"}, {"zh-CN"}, {"zh"}, {"zh_SG"}, {"zh-Hans-HK"}}},
       {"zh_Hant", {{"zh-Hant"}, {"zh_TW"}, {"zh-HK"}, {"zh-Hant-CN"}}},
       {"en", {{"en-GB", "de"}, {"sv"}, {}, {"", "-", "_"}, {"C"}, {"deu"}}},

@@ -2,8 +2,8 @@
 #include <nlohmann/json.hpp>
 
 #include "regions/RegionStore.h"
+#include "tests/cli/CtlTest.h"
 #include "tests/import/OsmText.h"
-#include "tests/support/ShellRun.h"
 
 namespace wayloom {
 namespace {
@@ -11,8 +11,7 @@ namespace {
 namespace fs = std::filesystem;
 using testing::HasSubstr;
 
-/// Runs the real program as a shell does, with regions in the place of the user's own.
-class RegionCommandsTest : public testing::Test {
+class RegionCommandsTest : public CtlTest {
  protected:
   void SetUp() override {
     OsmText text;
@@ -25,14 +24,6 @@ class RegionCommandsTest : public testing::Test {
 
   std::string path(const std::string& name) const { return (root.path() / name).string(); }
   fs::path folder() const { return root.path() / "data/wayloom/regions"; }
-
-  ShellRun run(const std::string& arguments, const std::string& before = "") const {
-    return runInShell("WAYLOOM_REGIONS= XDG_DATA_HOME='" + path("data") + "' " + before +
-                          " '" WAYLOOMCTL "' --root '" + root.path().string() + "' " + arguments,
-                      root.path());
-  }
-
-  TemporaryRoot root;
 };
 
 TEST_F(RegionCommandsTest, ImportsListsPlansAndRemoves) {

@@ -36,7 +36,6 @@ TEST(FixedLocationTest, ReadsLenientlyWhateverTheFileHolds) {
     Coordinate coordinate;
   } cases[] = {
       {"empty", {}, false, false, 0, {0, 0}},
-      {"only drift", {{"a", "1"}, {"s", "0.5"}}, false, true, 0.5, {0, 0}},
       {"numbers where texts belong", numbers, true, true, 0.25, {-3.5, 7}},
       {"nonsense", nonsense, false, false, 0, {0, 0}},
       {"white space and letters", {{"enable", "  +007"}, {"a", "yes"}}, true, true, 0, {0, 0}},

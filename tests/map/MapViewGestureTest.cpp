@@ -119,11 +119,10 @@ TEST_F(MapViewGestureTest, ZoomsAboutTheCentreMoveItNowhere) {
       QTest::touchEvent(&window, screen).release(0, {350, 500});
     }
   };
-  const auto wheelIn = [&] { wheel({30, 550}, 240); };
-  const auto wheelOut = [&] { wheel({390, 10}, -120); };
+  const auto turn = [&] { wheel({30, 550}, 240); };
   const auto key = [&] { QTest::keyClick(&window, Qt::Key_Minus); };
   const std::pair<const char*, std::function<void()>> cases[] = {
-      {"wheel", wheelIn}, {"back", wheelOut}, {"pinch", pinch}, {"taps", tapTwice}, {"key", key}};
+      {"wheel", turn}, {"pinch", pinch}, {"taps", tapTwice}, {"key", key}};
   constexpr double kMetre = 1 / 111'195.0;
   for (const auto& [what, zoom] : cases) {
     moves.clear();

@@ -2,6 +2,7 @@
 #include <string>
 #include <thread>
 
+#include "places/GeocodingAnswer.h"
 #include "places/SVGeocoder.h"
 #include "platform/RunLoop.h"
 
@@ -127,10 +128,13 @@ TEST_F(SVGeocoderTest, GoesThroughItsStatesAndAnnouncesThem) {
 
 TEST_F(SVGeocoderTest, TurnsAnswersIntoOutcomes) {
   constexpr const char *kNone = "", *kRefused = "SVGeocoderErrorDomain",
-                       *kJson = "application/json";
+                       *kJson = "application/json", *kDamaged = "JSONErrorDomain";
+  std::string deep, huge(GeocodingAnswer::kBodyLimitBytes, ' ');
+  for (int i = 0; i < 1'000'000; ++i) deep += "{\"a\":[";
   const struct {
     int status;
-    const char *mimeType, *body;
+    const char* mimeType;
+    std::string body;
     bool hasPlacemarks;
     const char* domain;
     int code;
@@ -143,7 +147,15 @@ TEST_F(SVGeocoderTest, TurnsAnswersIntoOutcomes) {
       {501, "text/html", "<p>", false, kNone, 0},
       {200, "text/json", kFound, false, kNone, 0},
       {200, "", kFound, false, kNone, 0},
-      {200, kJson, "{\"results\": [", false, "JSONErrorDomain", 1},
+      {200, kJson, "{\"results\": [", false, kDamaged, 1},
+      {200, kJson, "{\"results\": []} more", false, kDamaged, 1},
+      {200, kJson, "{\"results\": [NaN]}", false, kDamaged, 1},
+      {200, kJson, "{\"results\": [1e999]}", false, kDamaged, 1},
+      {200, kJson, "{\"results\": [\"\xc3\x28\"]}", false, kDamaged, 1},
+      {200, kJson, deep, false, kDamaged, 1},
+      {200, kJson, huge + "{}", false, kDamaged, 1},
+      {200, kJson, "null", false, kNone, 0},
+      {200, kJson, R"({"results": {"0": {}}, "status": 5})", false, kNone, 0},
       {200, kJson, R"({"status": "OVER_QUERY_LIMIT", "results": []})", true, kRefused, 2},
       {200, kJson, R"({"status": "OVER_QUERY_LIMIT", "results": [{}, 5]})", true, kNone, 0},
       {200, kJson, R"({"status": "REQUEST_DENIED"})", false, kRefused, 3},
@@ -151,7 +163,7 @@ TEST_F(SVGeocoderTest, TurnsAnswersIntoOutcomes) {
       {200, kJson, R"({"status": "zero_results", "results": []})", true, kNone, 0},
   };
   for (const auto& test : cases) {
-    SCOPED_TRACE(std::to_string(test.status) + " " + test.mimeType + " " + test.body);
+    SCOPED_TRACE(std::to_string(test.status) + " " + test.mimeType + " " + test.body.substr(0, 60));
     outcomes.clear();
     const auto operation = SVGeocoder::geocode(environment, "x", handler());
     requests.answer(test.status, test.mimeType, test.body);

@@ -21,8 +21,8 @@ class PrivateBus {
  public:
   PrivateBus() {
     mDaemon = popen("exec dbus-daemon --session --print-address=1 --print-pid=1 --nofork", "r");
-    address = readLine();
-    mProcess = std::atoi(readLine().c_str());
+    char line[512] = "";
+    if (fscanf(mDaemon, "%511s %d", line, &mProcess) == 2) address = line;
   }
   ~PrivateBus() { stop(); }
 
@@ -36,14 +36,6 @@ class PrivateBus {
   std::string address;
 
  private:
-  std::string readLine() {
-    char line[512] = "";
-    if (!fgets(line, sizeof line, mDaemon)) return {};
-    std::string text = line;
-    while (!text.empty() && text.back() == '\n') text.pop_back();
-    return text;
-  }
-
   FILE* mDaemon = nullptr;
   pid_t mProcess = 0;
 };

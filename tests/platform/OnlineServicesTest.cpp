@@ -1,5 +1,3 @@
-#include <cstdlib>
-
 #include "platform/OnlineServices.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -51,24 +49,6 @@ TEST_F(OnlineServicesTest, ADamagedFileTurnsEverythingOffAndSaysWhy) {
   std::filesystem::remove(file);
   std::filesystem::create_directory(file);
   EXPECT_NE(OnlineServices::read(file).error(), "");
-}
-
-TEST_F(OnlineServicesTest, FindsTheFileInTheUsersConfiguration) {
-  const struct {
-    const char *configuration, *home, *expected;
-  } cases[] = {{"/c", "/h", "/c/wayloom/services.json"},
-               {"", "/h", "/h/.config/wayloom/services.json"},
-               {"relative", "/h", "/h/.config/wayloom/services.json"},
-               {"", "relative", ""}};
-  const std::string home = getenv("HOME") ? getenv("HOME") : "";
-  for (const auto& test : cases) {
-    setenv("XDG_CONFIG_HOME", test.configuration, 1);
-    setenv("HOME", test.home, 1);
-    EXPECT_EQ(OnlineServices::defaultFile(), test.expected)
-        << test.configuration << ' ' << test.home;
-  }
-  unsetenv("XDG_CONFIG_HOME");
-  setenv("HOME", home.c_str(), 1);
 }
 
 }  // namespace

@@ -22,7 +22,6 @@ TEST(DefaultRegionsTest, FindWhatPeopleLookForAndSayWhatIsHere) {
       {"Drottninggatan 5, 411 14 Göteborg", "Drottninggatan, Göteborg", {57.706, 11.968}},
       {"københavn", "Copenhagen, Capital Region, Denmark", {55.68, 12.57}},
       {"Sweden", "Sweden", {59.33, 18.07}},
-      {"lodz", "Łódź, Łódź Voivodeship, Poland", {51.77, 19.47}},
   };
   for (const auto& test : searches) {
     const auto found = index->search(test.text, std::nullopt);
@@ -33,7 +32,6 @@ TEST(DefaultRegionsTest, FindWhatPeopleLookForAndSayWhatIsHere) {
   }
   const std::pair<Coordinate, const char*> positions[] = {
       {{57.7045, 11.9685}, "Kungsgatan, Göteborg"},
-      {{57.65, 12.015}, "Mölndal, Västra Götaland, Sweden"},
       {{47.141, 9.521}, "Vaduz, Liechtenstein"},
       {{36.14, -5.353}, "Gibraltar"},
       {{-90, 0}, "Antarctica"},

@@ -103,26 +103,6 @@ TEST(RegionStoreTest, SurvivesAFileCutAnywhere) {
   }
 }
 
-TEST(RegionWriterTest, LeavesTheOldFileAndNothingElseWhenItIsNotCommitted) {
-  const TemporaryFolder folder;
-  const fs::path path = folder.path() / "kept.region";
-  writeFilledRegion(path);
-  const auto size = fs::file_size(path);
-  {
-    auto writer = RegionWriter::create(path, kAlps);
-    ASSERT_TRUE(writer);
-    ASSERT_TRUE(writer->database().execute("CREATE TABLE more(a)"));
-  }
-  {
-    auto unfinished = RegionWriter::create(path, kAlps);
-    ASSERT_TRUE(unfinished);
-    const auto statement = unfinished->database().prepare("SELECT 1");
-    EXPECT_FALSE(unfinished->commit()) << "with a statement still open";
-  }
-  EXPECT_EQ(fs::file_size(path), size);
-  EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), {}), 1);
-}
-
 TEST(RegionWriterTest, RefusesWhatItsReaderWouldRefuse) {
   const TemporaryFolder folder;
   const std::pair<const char*, RegionInfo> cases[] = {{"name.db", kAlps},

@@ -1,6 +1,7 @@
 #include <limits>
 
 #include "route/RoutePosition.h"
+#include "route/RouteSimulation.h"
 
 namespace wayloom {
 namespace {
@@ -20,7 +21,6 @@ TEST(RecordAtTest, FollowsTheRuleAndNeverLeavesTheList) {
       {150, 100, 200, 3, 1},
       {199, 100, 200, 3, 2},
       {100, 100, 100, 5, 4},
-      {99, 100, 100, 5, 0},
       {150, 200, 100, 5, 0},
       {250, 200, 100, 5, 4},
       {150, 100, 200, 0, std::nullopt},
@@ -31,7 +31,6 @@ TEST(RecordAtTest, FollowsTheRuleAndNeverLeavesTheList) {
       {90000, 0, 100000, 50000, 2050},
       // The span itself wraps to -1, and the product to the least number there is.
       {0, kLeast, kMost, 1, 0},
-      {kMost - 1, kLeast, kMost, 7, 6},
       {kMost, kLeast, kMost, 7, 6},
   };
   for (const auto& test : cases) {
@@ -54,6 +53,20 @@ TEST(PositionAtTest, HostileRecordsReadAsZeroAndNoRecordsAsNothing) {
     const RoutePreferences preferences{{{"start", "10"}, {"end", "20"}},
                                        std::make_shared<RoutePoints>(RoutePoints::stored(points))};
     EXPECT_EQ(positionAt(15, preferences), position);
+  }
+}
+
+TEST(StartTimeTest, IsNeitherInThePastNorAfterTheEnd) {
+  const RouteChoices chosen{.start = {57.7, 11.9},
+                            .end = {57.8, 12},
+                            .startTime = 1000,
+                            .endTime = 2000,
+                            .startText = "",
+                            .endText = ""};
+  const std::pair<std::int32_t, double> cases[] = {{500, 1000},  {1000, 1000}, {1500, 1500},
+                                                   {2000, 2000}, {2001, 1999}, {9999, 1999}};
+  for (const auto& [now, start] : cases) {
+    EXPECT_EQ(startTimeFrom(chosen, now), start) << "now " << now;
   }
 }
 

@@ -32,7 +32,6 @@ TEST(SettingsRootTest, FirstChoiceThatIsGivenWins) {
       {{}, {{"WAYLOOM_ROOT", "/env"}, {"XDG_DATA_HOME", "/xdg"}}, "/env"},
       {{}, {{"WAYLOOM_ROOT", ""}, {"XDG_DATA_HOME", "/xdg"}}, "/xdg/wayloom/phone"},
       {{}, {{"XDG_DATA_HOME", "relative"}, {"HOME", "/h"}}, "/h/.local/share/wayloom/phone"},
-      {{}, {{"XDG_DATA_HOME", ""}, {"HOME", "/h"}}, "/h/.local/share/wayloom/phone"},
       {{}, {{"HOME", "/h"}}, "/h/.local/share/wayloom/phone"}};
   for (const Choice& choice : choices) {
     const auto lookup = [&](const char* name) -> const char* {

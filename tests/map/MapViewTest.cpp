@@ -59,19 +59,6 @@ TEST_F(MapViewTest, CommandFromAReceiverWins) {
   EXPECT_NEAR(center().latitude, 1, 1e-9);
 }
 
-TEST_F(MapViewTest, SenselessRegionsAreIgnored) {
-  const MapRegion before = map->region();
-  for (double bad : {INFINITY, -INFINITY, NAN}) {
-    map->setRegion({{bad, 0}, {1, 1}}, Animated::No);
-    map->setRegion({{0, bad}, {1, 1}}, Animated::Yes);
-    map->setRegion({{0, 0}, {1, bad}}, Animated::No);
-    map->setCenterCoordinate({0, bad}, Animated::Yes);
-  }
-  map->setRegion({{0, 0}, {-1, 1}}, Animated::No);
-  EXPECT_EQ(moves, "");
-  EXPECT_EQ(map->region(), before);
-}
-
 TEST(MapViewLayoutTest, RegionSetBeforeThereIsASizeIsFittedOnce) {
   MapView map;
   std::string moves;

@@ -80,15 +80,5 @@ TEST(PolylinePathTest, CrossesTheDateLineInOnePiece) {
   }
 }
 
-TEST(PolylinePathTest, SenselessPointsAndShortLinesAreNothing) {
-  const double nan = std::nan("");
-  const MapCamera camera = cameraOver({{0, 0}, {1, 1}});
-  const std::vector<std::vector<Coordinate>> cases = {
-      {}, {{0, 0}}, {{nan, 0}, {0, 0}}, {{0, 5}, {0, 6}}, {{0, nan}, {nan, nan}}};
-  for (std::size_t i = 0; i < cases.size(); ++i) {
-    EXPECT_TRUE(PolylinePath(cases[i]).inView(camera, 5).empty()) << i;
-  }
-}
-
 }  // namespace
 }  // namespace wayloom

@@ -38,26 +38,13 @@ class Listener : public LocationDelegate {
 
 class LocationTest : public testing::Test {
  protected:
-  LocationPlatform platform() {
-    return {[this] { return isOn; },
-            [this] {
-              auto made = std::make_unique<FakePositionSource>();
-              source = made.get();
-              return made;
-            },
-            {},
-            geocoder,
-            defaults,
-            alerts};
-  }
-
   bool isOn = true;
   FakePositionSource* source = nullptr;
   FakeGeocoder geocoder;
   FakeDefaults defaults;
   FakeAlerts alerts;
   Listener listener;
-  LocationClass location{platform()};
+  LocationClass location{fakePlatform(isOn, source, geocoder, defaults, alerts)};
 };
 
 TEST_F(LocationTest, OneFixPerRequestIsReportedAndRemembered) {
@@ -70,7 +57,7 @@ TEST_F(LocationTest, OneFixPerRequestIsReportedAndRemembered) {
   EXPECT_THAT(listener.told, testing::ElementsAre("position 57.500000 11.250000 (sender)"));
   EXPECT_FALSE(source->isUpdating);
 
-  const LocationClass nextLaunch{platform()};
+  const LocationClass nextLaunch{fakePlatform(isOn, source, geocoder, defaults, alerts)};
   EXPECT_EQ(nextLaunch.latitude(), 57.5);
   EXPECT_EQ(nextLaunch.longitude(), 11.25);
 }

@@ -67,25 +67,22 @@ struct Difference {
   PropertyList read;
 };
 
-const std::vector<Difference>& knownDifferences() {
-  constexpr double kInfinity = std::numeric_limits<double>::infinity();
-  constexpr double kNotANumber = std::numeric_limits<double>::quiet_NaN();
-  static const std::vector<Difference> differences = {
-      {"npm", "\u0085", "\n"},
-      {"npm", "a\u0085b", "a\nb"},
-      {"npm", "\u2028", "\n"},
-      {"npm", "a\u2028b", "a\nb"},
-      {"npm", kInfinity, kNotANumber},
-      {"npm", -kInfinity, kNotANumber},
-      {"GNUstep", "\uFEFF", ""},
-      {"GNUstep", "\uFEFFa", "a"},
-      {"GNUstep", std::numeric_limits<std::uint64_t>::max(),
-       std::numeric_limits<std::int64_t>::max()},
-      {"plistlib writing XML", "\r", "\n"},
-      {"plistlib writing XML", "a\r\nb\rc\n", "a\nb\nc\n"},
-  };
-  return differences;
-}
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double kNotANumber = std::numeric_limits<double>::quiet_NaN();
+const Difference kKnownDifferences[] = {
+    {"npm", "\u0085", "\n"},
+    {"npm", "a\u0085b", "a\nb"},
+    {"npm", "\u2028", "\n"},
+    {"npm", "a\u2028b", "a\nb"},
+    {"npm", kInfinity, kNotANumber},
+    {"npm", -kInfinity, kNotANumber},
+    {"GNUstep", "\uFEFF", ""},
+    {"GNUstep", "\uFEFFa", "a"},
+    {"GNUstep", std::numeric_limits<std::uint64_t>::max(),
+     std::numeric_limits<std::int64_t>::max()},
+    {"plistlib writing XML", "\r", "\n"},
+    {"plistlib writing XML", "a\r\nb\rc\n", "a\nb\nc\n"},
+};
 
 /// JavaScript knows no numbers but reals.
 PropertyList asReal(const PropertyList& value) {
@@ -95,7 +92,7 @@ PropertyList asReal(const PropertyList& value) {
 }
 
 PropertyList asReadBy(const std::string& reader, const PropertyList& value) {
-  for (const Difference& difference : knownDifferences()) {
+  for (const Difference& difference : kKnownDifferences) {
     if (difference.reader == reader && form(difference.written) == form(value)) {
       return difference.read;
     }

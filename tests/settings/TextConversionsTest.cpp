@@ -19,12 +19,11 @@ std::string printed(double value) {
 }
 
 TEST(TextConversionsTest, RealsAreFormattedAsPrintfDoes) {
-  EXPECT_EQ(formatReal(48.85837), "48.858370");
   EXPECT_EQ(formatReal(-0.25), "-0.250000");
   using Limits = std::numeric_limits<double>;
-  for (const double value : {0.0, -0.0, 0.0000005, 2.5e-7, 1e300, Limits::max(), -Limits::max(),
-                             Limits::denorm_min(), -1e-9, kInfinity, -kInfinity, std::nan(""),
-                             -std::nan(""), 180.0, 0.1234565, 99999999.9999995}) {
+  for (const double value :
+       {0.0, -0.0, 0.0000005, 2.5e-7, 1e300, Limits::max(), -Limits::max(), Limits::denorm_min(),
+        -1e-9, kInfinity, -kInfinity, std::nan(""), -std::nan(""), 0.1234565, 99999999.9999995}) {
     EXPECT_EQ(formatReal(value), printed(value));
   }
   std::mt19937_64 random(1969);

@@ -80,5 +80,14 @@ TEST(PolylinePathTest, CrossesTheDateLineInOnePiece) {
   }
 }
 
+TEST(PolylinePathTest, SenselessPointsAndShortLinesAreNothing) {
+  const MapCamera camera = cameraOver({{0, 0}, {1, 1}});
+  const std::vector<Coordinate> cases[] = {{}, {{0, 0}}, {{NAN, 0}, {0, 0}}, {{0, 5}, {0, 6}}};
+  for (const auto& line : cases) EXPECT_TRUE(PolylinePath(line).inView(camera, 5).empty());
+  const auto parts = PolylinePath({{0, -1}, {NAN, NAN}, {0, 1}}).inView(camera, 5);
+  ASSERT_EQ(parts.size(), 1u);
+  EXPECT_GT(parts[0].boundingRect().width(), 300) << "what lies between two that make sense";
+}
+
 }  // namespace
 }  // namespace wayloom

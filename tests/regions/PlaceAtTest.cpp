@@ -1,5 +1,6 @@
 #include <cmath>
 
+#include "regions/ShapeBlob.h"
 #include "tests/regions/SmallIndex.h"
 
 namespace wayloom {
@@ -79,15 +80,26 @@ TEST(PlaceAtTest, KnowsCountriesAtTheEndsOfTheMap) {
 TEST(PlaceAtTest, CrossesTheAntimeridianAndThePole) {
   SmallIndex index({
       settlement("West", "", "", {-17, 179.99}, 100),
+      settlement("East", "", "", {-30, -179.99}, 100),
       settlement("Polar", "", "", {89.95, 120}, 10),
       street("Date Line Road", "", "", {{20, 179.99}, {20, -179.99}}),
   });
   EXPECT_EQ(index.at({-17, -179.95}), "West");
+  EXPECT_EQ(index.at({-30, 179.95}), "East");
   EXPECT_EQ(index.at({89.95, -60}), "Polar");
   EXPECT_EQ(index.at({90, 5}), "Polar");
   EXPECT_EQ(index.at({20.0005, 179.995}), "Date Line Road");
   EXPECT_EQ(index.at({20.0005, -179.995}), "Date Line Road");
   EXPECT_EQ(index.at({20.0005, 0}), "-");
+}
+
+TEST(ShapeBlobTest, ComesBackToACentimetre) {
+  const std::vector<Line> shape = {{{90, -180}, {57.7072345, 11.9668123}}, {{0, 191.5}}};
+  const auto back = decodeShape(encodeShape(shape));
+  ASSERT_TRUE(back && back->size() == 2u && back->front().size() == 2u);
+  EXPECT_NEAR(back->front()[1].latitude, 57.7072345, 1e-7);
+  EXPECT_NEAR(back->front()[1].longitude, 11.9668123, 1e-7);
+  EXPECT_NEAR(back->back()[0].longitude, 191.5, 1e-7);
 }
 
 }  // namespace

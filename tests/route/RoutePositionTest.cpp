@@ -2,6 +2,8 @@
 
 #include "route/RoutePosition.h"
 #include "route/RouteSimulation.h"
+#include "tests/support/FakePlatform.h"
+#include "tests/support/TemporaryRoot.h"
 
 namespace wayloom {
 namespace {
@@ -56,18 +58,32 @@ TEST(PositionAtTest, HostileRecordsReadAsZeroAndNoRecordsAsNothing) {
   }
 }
 
+const RouteChoices kChosen{.start = {57.7, 11.9},
+                           .end = {57.8, 12},
+                           .startTime = 1000,
+                           .endTime = 2000,
+                           .startText = "",
+                           .endText = ""};
+
 TEST(StartTimeTest, IsNeitherInThePastNorAfterTheEnd) {
-  const RouteChoices chosen{.start = {57.7, 11.9},
-                            .end = {57.8, 12},
-                            .startTime = 1000,
-                            .endTime = 2000,
-                            .startText = "",
-                            .endText = ""};
   const std::pair<std::int32_t, double> cases[] = {{500, 1000},  {1000, 1000}, {1500, 1500},
                                                    {2000, 2000}, {2001, 1999}, {9999, 1999}};
   for (const auto& [now, start] : cases) {
-    EXPECT_EQ(startTimeFrom(chosen, now), start) << "now " << now;
+    EXPECT_EQ(startTimeFrom(kChosen, now), start) << "now " << now;
   }
+}
+
+TEST(RouteSimulationTest, ANewPlanIsFollowedFromTheSharedList) {
+  const TemporaryRoot root;
+  SettingsFiles files(root.path());
+  FakeClock clock;
+  clock.seconds = 1000;
+  RouteSimulation simulation(files, clock);
+  const auto points = std::make_shared<RoutePoints>(RoutePoints::planned({{3, 3}, {4, 4}}));
+  simulation.turnOn(kChosen, points, false, [](const auto& start) { ASSERT_TRUE(start); });
+  *points = RoutePoints::planned({{1, 1}, {2, 2}});
+  clock.seconds = 1999.9;
+  EXPECT_EQ(simulation.position(), (Coordinate{2, 2}));
 }
 
 }  // namespace

@@ -7,26 +7,6 @@
 
 using namespace wayloom;
 
-namespace {
-
-/// What is printed while it lives.
-class Printed {
- public:
-  Printed() : mOut(std::cout.rdbuf(mText.rdbuf())), mErr(std::cerr.rdbuf(mText.rdbuf())) {}
-  ~Printed() {
-    std::cout.rdbuf(mOut);
-    std::cerr.rdbuf(mErr);
-  }
-  std::string text() const { return mText.str(); }
-
- private:
-  std::ostringstream mText;
-  std::streambuf* mOut;
-  std::streambuf* mErr;
-};
-
-}  // namespace
-
 /// A line of arguments, separated by zero bytes: it is a command, or help was asked for, or one
 /// line says what is wrong. A moment that is understood reads back from its own form.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t count) {
@@ -39,9 +19,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t cou
     require(*seconds >= INT32_MIN && *seconds <= INT32_MAX);
     require(parseTime(timeText(*seconds), 0).has_value());
   }
-  const Printed printed;
+  std::ostringstream printed;
+  auto* const out = std::cout.rdbuf(printed.rdbuf());
+  auto* const error = std::cerr.rdbuf(printed.rdbuf());
   const ParsedArguments parsed = parseArguments(std::move(arguments));
-  const std::string said = printed.text();
+  std::cout.rdbuf(out);
+  std::cerr.rdbuf(error);
+  const std::string said = printed.str();
   if (const auto* command = std::get_if<TypedCommand>(&parsed)) {
     require(command->run && said.empty());
     require(!command->options.root || !command->options.root->empty());

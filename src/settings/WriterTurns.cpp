@@ -90,8 +90,7 @@ Status WriterTurns::openLock() {
     // Somebody else, who may write here too, left a lock that keeps the owner out.
     mLock.reset(uninterrupted(open));
   }
-  return mLock.get() >= 0 ? done()
-                          : systemFailure("cannot take turns with other writers at", path);
+  return mLock.get() >= 0 ? done() : systemFailure("cannot take turns with other writers at", path);
 }
 
 Status WriterTurns::waitForLock() {

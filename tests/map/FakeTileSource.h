@@ -46,22 +46,18 @@ class FakeTileSource : public TileSource {
   bool waitUntilDrawing(int count) {
     return QTest::qWaitFor([&] { return drawing() >= count; });
   }
-  int drawing() const {
-    const std::lock_guard lock(mMutex);
-    return mDrawing;
-  }
-  std::vector<TileKey> drawn() const {
-    const std::lock_guard lock(mMutex);
-    return mDrawn;
-  }
-  int mostAtOnce() const {
-    const std::lock_guard lock(mMutex);
-    return mMostAtOnce;
-  }
+  int drawing() const { return locked(mDrawing); }
+  std::vector<TileKey> drawn() const { return locked(mDrawn); }
+  int mostAtOnce() const { return locked(mMostAtOnce); }
 
  private:
   static constexpr int kNothing = -1, kEverything = -2;
 
+  template <typename Value>
+  Value locked(const Value& value) const {
+    const std::lock_guard lock(mMutex);
+    return value;
+  }
   void setHeld(int zoom) {
     {
       const std::lock_guard lock(mMutex);

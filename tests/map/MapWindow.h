@@ -14,17 +14,13 @@ namespace wayloom {
 /// A shown window filled by a map, and a record of what the map said: W and D for "will" and
 /// "did", small when not animated.
 struct MapWindow {
-  explicit MapWindow(QSize size = {400, 600}) {
-    window.setGeometry(0, 0, size.width(), size.height());
+  MapWindow() {
+    window.setGeometry(0, 0, 400, 600);
     map = new MapView(window.contentItem());
-    map->setSize(size);
+    map->setSize({400, 600});
     map->setTileSource(source);
-    watch();
     window.show();
     EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
-  }
-
-  void watch() {
     QObject::connect(map, &MapView::regionWillChange, map,
                      [this](bool animated) { moves += animated ? 'W' : 'w'; });
     QObject::connect(map, &MapView::regionDidChange, map,

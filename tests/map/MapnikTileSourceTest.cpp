@@ -1,5 +1,4 @@
 #include <fstream>
-#include <thread>
 
 #include <QtGui/QColor>
 
@@ -61,9 +60,6 @@ QColor colourAt(const QImage& tile, const TileKey& key, double latitude, double 
 bool isBlue(const QColor& colour) {
   return colour.blue() > colour.red() + 20;
 }
-bool isOrange(const QColor& colour) {
-  return colour.red() > colour.blue() + 60;
-}
 
 TEST(MapnikTileSourceTest, DrawsSeaLandAndRoadWhereTheyAre) {
   const TemporaryFolder folder;
@@ -79,8 +75,9 @@ TEST(MapnikTileSourceTest, DrawsSeaLandAndRoadWhereTheyAre) {
 
     const TileKey street{8, 128, 124};
     const QImage tile = source.draw(street, scale);
-    EXPECT_TRUE(isOrange(colourAt(tile, street, 5, 0.7))) << scale;
-    EXPECT_FALSE(isOrange(colourAt(tile, street, 4.7, 0.7))) << scale;
+    const QColor road = colourAt(tile, street, 5, 0.7), beside = colourAt(tile, street, 4.7, 0.7);
+    EXPECT_GT(road.red(), road.blue() + 60) << scale;
+    EXPECT_LT(beside.red(), beside.blue() + 60) << scale;
   }
 }
 
@@ -106,45 +103,6 @@ TEST(MapnikTileSourceTest, ABrokenRegionTakesNothingFromTheOthers) {
     MapnikTileSource source({bad, good});
     EXPECT_EQ(source.draw({1, 0, 0}, 1), alone) << bad.path;
   }
-}
-
-TEST(MapnikTileSourceTest, DrawsOnWithTextThatIsNone) {
-  const TemporaryFolder folder;
-  const Region odd = write(folder.path() / "odd.region", addLand, [](Database& database) {
-    EXPECT_TRUE(database.execute(
-        "CREATE TABLE place_label(fid INTEGER PRIMARY KEY, geometry BLOB, name BLOB, size TEXT);"
-        "INSERT INTO place_label VALUES (1, x'010100000000000000000000000000000000000000', "
-        "x'ff00fe', 'large');"
-        "CREATE VIRTUAL TABLE idx_place_label_geometry USING rtree(pkid, xmin, xmax, ymin, ymax);"
-        "INSERT INTO idx_place_label_geometry VALUES (1, 0, 0, 0, 0)"));
-  });
-  const TileKey key{0, 0, 0};
-  EXPECT_FALSE(isBlue(colourAt(MapnikTileSource({odd}).draw(key, 1), key, -8, -8)));
-}
-
-TEST(MapnikTileSourceTest, HasNoTileOutsideTheWorld) {
-  MapnikTileSource source({});
-  for (const TileKey& key : {TileKey{-1, 0, 0}, TileKey{0, 1, 0}, TileKey{3, 0, 8},
-                             TileKey{3, -1, 0}, TileKey{19, 0, 0}, TileKey{64, 0, 0}}) {
-    EXPECT_TRUE(source.draw(key, 1).isNull()) << key.zoom << "/" << key.x << "/" << key.y;
-  }
-  EXPECT_TRUE(source.draw({0, 0, 0}, 0).isNull());
-  EXPECT_FALSE(source.draw({0, 0, 0}, 1).isNull());
-}
-
-TEST(MapnikTileSourceTest, ThreadsDrawTheSameAtTheSameTime) {
-  const TemporaryFolder folder;
-  MapnikTileSource source({write(folder.path() / "a.region", addLand, addRoad)});
-  const QImage expected = source.draw({8, 128, 124}, 1);
-  std::vector<std::thread> threads;
-  std::vector<QImage> tiles(4);
-  for (QImage& tile : tiles) {
-    threads.emplace_back([&] {
-      for (int round = 0; round < 3; ++round) tile = source.draw({8, 128, 124}, 1);
-    });
-  }
-  for (std::thread& thread : threads) thread.join();
-  for (const QImage& tile : tiles) EXPECT_EQ(tile, expected);
 }
 
 TEST(RegionTablesTest, ChoosesTheTableOfTheZoom) {

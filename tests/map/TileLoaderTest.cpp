@@ -1,5 +1,3 @@
-#include <thread>
-
 #include <QtTest/QTest>
 
 #include "map/TileLoader.h"
@@ -66,19 +64,6 @@ TEST(TileLoaderTest, MissingAndFailingTilesAreKnownAndNotDrawnAgain) {
   }
   EXPECT_EQ(source->drawn().size(), 2u);
   EXPECT_TRUE(loader.image({{9, 0, 0}, 1}).isNull());
-}
-
-TEST(TileLoaderTest, EndsWhileItsWorkersDraw) {
-  const auto source = std::make_shared<FakeTileSource>();
-  for (int i = 0; i < 20; ++i) {
-    source->hold();
-    auto loader = std::make_unique<TileLoader>(source);
-    loader->want(&loader, row(9, 10 * i, 10));
-    ASSERT_TRUE(source->waitUntilDrawing(2));
-    std::jthread releaser([&] { source->release(); });
-    loader.reset();
-    EXPECT_EQ(source->drawing(), 0) << i;
-  }
 }
 
 }  // namespace

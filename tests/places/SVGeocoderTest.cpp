@@ -2,6 +2,7 @@
 #include <string>
 #include <thread>
 
+#include "places/GeocodingAnswer.h"
 #include "places/SVGeocoder.h"
 #include "platform/RunLoop.h"
 
@@ -126,31 +127,43 @@ TEST_F(SVGeocoderTest, GoesThroughItsStatesAndAnnouncesThem) {
 }
 
 TEST_F(SVGeocoderTest, TurnsAnswersIntoOutcomes) {
-  constexpr const char* kNone = "";
+  constexpr const char *kNone = "", *kRefused = "SVGeocoderErrorDomain",
+                       *kJson = "application/json", *kDamaged = "JSONErrorDomain";
+  std::string deep, huge(GeocodingAnswer::kBodyLimitBytes, ' ');
+  for (int i = 0; i < 1'000'000; ++i) deep += "{\"a\":[";
   const struct {
     int status;
-    const char *mimeType, *body;
+    const char* mimeType;
+    std::string body;
     bool hasPlacemarks;
     const char* domain;
     int code;
   } cases[] = {
-      {200, "application/json", kFound, true, kNone, 0},
-      {404, "application/json", kFound, true, kNone, 0},
-      {500, "application/json", kFound, true, kUrlErrorDomain, -1011},
+      {200, kJson, kFound, true, kNone, 0},
+      {404, kJson, kFound, true, kNone, 0},
+      {500, kJson, kFound, true, kUrlErrorDomain, -1011},
       {500, "text/html", "<p>", false, kUrlErrorDomain, -1011},
-      {500, "application/json", R"({"status": "ZERO_RESULTS"})", false, "SVGeocoderErrorDomain", 1},
+      {500, kJson, R"({"status": "ZERO_RESULTS"})", false, kRefused, 1},
       {501, "text/html", "<p>", false, kNone, 0},
-      {404, "text/html", "<p>", false, kNone, 0},
       {200, "text/json", kFound, false, kNone, 0},
       {200, "", kFound, false, kNone, 0},
-      {200, "application/json", "", false, kNone, 0},
-      {200, "application/json", "{\"results\": [", false, "JSONErrorDomain", 1},
-      {200, "application/json", R"({"status": "OK", "results": []})", true, kNone, 0},
-      {200, "application/json", R"({"status": "OVER_QUERY_LIMIT", "results": []})", true,
-       "SVGeocoderErrorDomain", 2},
+      {200, kJson, "{\"results\": [", false, kDamaged, 1},
+      {200, kJson, "{\"results\": []} more", false, kDamaged, 1},
+      {200, kJson, "{\"results\": [NaN]}", false, kDamaged, 1},
+      {200, kJson, "{\"results\": [1e999]}", false, kDamaged, 1},
+      {200, kJson, "{\"results\": [\"\xc3\x28\"]}", false, kDamaged, 1},
+      {200, kJson, deep, false, kDamaged, 1},
+      {200, kJson, huge + "{}", false, kDamaged, 1},
+      {200, kJson, "null", false, kNone, 0},
+      {200, kJson, R"({"results": {"0": {}}, "status": 5})", false, kNone, 0},
+      {200, kJson, R"({"status": "OVER_QUERY_LIMIT", "results": []})", true, kRefused, 2},
+      {200, kJson, R"({"status": "OVER_QUERY_LIMIT", "results": [{}, 5]})", true, kNone, 0},
+      {200, kJson, R"({"status": "REQUEST_DENIED"})", false, kRefused, 3},
+      {200, kJson, R"({"status": "INVALID_REQUEST"})", false, kRefused, 4},
+      {200, kJson, R"({"status": "zero_results", "results": []})", true, kNone, 0},
   };
   for (const auto& test : cases) {
-    SCOPED_TRACE(std::to_string(test.status) + " " + test.mimeType + " " + test.body);
+    SCOPED_TRACE(std::to_string(test.status) + " " + test.mimeType + " " + test.body.substr(0, 60));
     outcomes.clear();
     const auto operation = SVGeocoder::geocode(environment, "x", handler());
     requests.answer(test.status, test.mimeType, test.body);
@@ -160,10 +173,6 @@ TEST_F(SVGeocoderTest, TurnsAnswersIntoOutcomes) {
     const ServiceError error = outcomes[0].error.value_or(ServiceError());
     EXPECT_EQ(error.domain, test.domain);
     EXPECT_EQ(error.code, test.code);
-    if (test.code == -1011) {
-      EXPECT_EQ(error.localizedDescription, "Bad Server Response.");
-      EXPECT_EQ(error.failingUrl, operation->operationRequest().url);
-    }
   }
 }
 
@@ -181,34 +190,23 @@ TEST_F(SVGeocoderTest, TheWatchEndsASilentRequestOnce) {
 }
 
 TEST_F(SVGeocoderTest, ACancelledOperationFinishesWithoutAWord) {
-  const auto before = make();
+  const auto before = make(), during = make(), answered = make();
   before->cancel();
   before->start();
-  const auto during = make();
   during->start();
   during->cancel();
   during->cancel();
   runPosted();
-  const auto answered = make();
   answered->start();
   requests.answer(200, "application/json", kFound);
   answered->cancel();
   runPosted();
   for (const auto& operation : {before, during, answered}) {
-    EXPECT_TRUE(operation->isFinished());
-    EXPECT_TRUE(operation->isCancelled());
+    EXPECT_TRUE(operation->isFinished() && operation->isCancelled());
     EXPECT_EQ(operation.use_count(), 2) << "someone still keeps it";  // this one and the list's
   }
   EXPECT_TRUE(outcomes.empty());
   EXPECT_EQ(requests.sent.size(), 2u);
-
-  const auto after = make();
-  after->start();
-  requests.answer(200, "application/json", kFound);
-  runPosted();
-  after->cancel();
-  EXPECT_FALSE(after->isCancelled());
-  EXPECT_EQ(outcomes.size(), 1u);
 }
 
 TEST_F(SVGeocoderTest, StartsAndCancelsFromAnyThread) {
@@ -224,7 +222,6 @@ TEST_F(SVGeocoderTest, StartsAndCancelsFromAnyThread) {
     starter.join();
     canceller.join();
     runPosted();
-    EXPECT_TRUE(operation->isFinished());
   }
   EXPECT_TRUE(outcomes.empty());
 }

@@ -16,33 +16,13 @@ namespace {
 
 constexpr const char* kName = "com.quorvil.wayloom.auto.changed";
 
-/// Sets a variable of the environment for one test.
-class Environment {
- public:
-  Environment(const char* name, const std::string& value) : mName(name) {
-    if (const char* before = std::getenv(name)) mBefore = before;
-    setenv(name, value.c_str(), 1);
-  }
-  ~Environment() {
-    if (mBefore) {
-      setenv(mName, mBefore->c_str(), 1);
-    } else {
-      unsetenv(mName);
-    }
-  }
-
- private:
-  const char* mName;
-  std::optional<std::string> mBefore;
-};
-
 /// A message bus of the test's own.
 class PrivateBus {
  public:
   PrivateBus() {
     mDaemon = popen("exec dbus-daemon --session --print-address=1 --print-pid=1 --nofork", "r");
-    address = readLine();
-    mProcess = std::atoi(readLine().c_str());
+    char line[512] = "";
+    if (fscanf(mDaemon, "%511s %d", line, &mProcess) == 2) address = line;
   }
   ~PrivateBus() { stop(); }
 
@@ -56,38 +36,32 @@ class PrivateBus {
   std::string address;
 
  private:
-  std::string readLine() {
-    char line[512] = "";
-    if (!fgets(line, sizeof line, mDaemon)) return {};
-    std::string text = line;
-    while (!text.empty() && text.back() == '\n') text.pop_back();
-    return text;
-  }
-
   FILE* mDaemon = nullptr;
   pid_t mProcess = 0;
 };
 
-struct Heard {
-  std::string path, interface, member;
-};
-
 int hear(sd_bus_message* message, void* heard, sd_bus_error* /*error*/) {
-  static_cast<std::vector<Heard>*>(heard)->push_back({sd_bus_message_get_path(message),
-                                                      sd_bus_message_get_interface(message),
-                                                      sd_bus_message_get_member(message)});
+  static_cast<std::vector<std::string>*>(heard)->emplace_back(sd_bus_message_get_path(message));
   return 0;
 }
 
-TEST(DBusNoticeTest, ReachesAListenerOnTheSessionBus) {
+class DBusNoticeTest : public testing::Test {
+ protected:
+  static void useBus(const std::string& address) {
+    ASSERT_FALSE(address.empty()) << "dbus-daemon did not start";
+    setenv("DBUS_SESSION_BUS_ADDRESS", address.c_str(), 1);
+  }
+  void TearDown() override { unsetenv("DBUS_SESSION_BUS_ADDRESS"); }
+};
+
+TEST_F(DBusNoticeTest, ReachesAListenerOnTheSessionBus) {
   const PrivateBus bus;
-  ASSERT_FALSE(bus.address.empty()) << "dbus-daemon did not start";
-  const Environment environment("DBUS_SESSION_BUS_ADDRESS", bus.address);
+  useBus(bus.address);
   sd_bus* raw = nullptr;
   ASSERT_GE(sd_bus_open_user(&raw), 0);
   const std::unique_ptr<sd_bus, decltype(&sd_bus_flush_close_unref)> listener(
       raw, sd_bus_flush_close_unref);
-  std::vector<Heard> heard;
+  std::vector<std::string> heard;
   ASSERT_GE(sd_bus_match_signal(raw, nullptr, nullptr, nullptr, "com.quorvil.wayloom.auto",
                                 "changed", hear, &heard),
             0);
@@ -98,19 +72,15 @@ TEST(DBusNoticeTest, ReachesAListenerOnTheSessionBus) {
   for (int turn = 0; turn < 1000 && heard.size() < 2; ++turn) {
     if (sd_bus_process(raw, nullptr) == 0) sd_bus_wait(raw, 10'000);
   }
-  ASSERT_EQ(heard.size(), 2U);
-  EXPECT_EQ(heard[0].path, "/com/quorvil/wayloom");
+  EXPECT_EQ(heard, std::vector<std::string>(2, "/com/quorvil/wayloom"));
 }
 
-TEST(DBusNoticeTest, ABusThatIsNotThereOrGoneHoldsNothingUp) {
+TEST_F(DBusNoticeTest, ABusThatIsNotThereOrGoneHoldsNothingUp) {
   const auto start = std::chrono::steady_clock::now();
-  {
-    const Environment environment("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent/bus");
-    DBusNotice().post(kName);
-  }
+  useBus("unix:path=/nonexistent/bus");
+  DBusNotice().post(kName);
   PrivateBus bus;
-  ASSERT_FALSE(bus.address.empty()) << "dbus-daemon did not start";
-  const Environment environment("DBUS_SESSION_BUS_ADDRESS", bus.address);
+  useBus(bus.address);
   DBusNotice notice;
   notice.post(kName);
   bus.stop();

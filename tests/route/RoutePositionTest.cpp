@@ -1,6 +1,9 @@
 #include <limits>
 
 #include "route/RoutePosition.h"
+#include "route/RouteSimulation.h"
+#include "tests/support/FakePlatform.h"
+#include "tests/support/TemporaryRoot.h"
 
 namespace wayloom {
 namespace {
@@ -15,17 +18,14 @@ TEST(RecordAtTest, FollowsTheRuleAndNeverLeavesTheList) {
     std::optional<std::size_t> record;
   } cases[] = {
       {50, 100, 200, 100, 0},
-      {100, 100, 200, 100, 0},
       {199, 100, 200, 100, 99},
       {200, 100, 200, 100, 99},
       {150, 100, 200, 3, 1},
       {199, 100, 200, 3, 2},
       {100, 100, 100, 5, 4},
-      {99, 100, 100, 5, 0},
       {150, 200, 100, 5, 0},
       {250, 200, 100, 5, 4},
       {150, 100, 200, 0, std::nullopt},
-      {50, 100, 200, 0, std::nullopt},
       // 50,000 seconds into a drive over 50,000 records: the product is 2,500,000,000, which wraps
       // to -1,794,967,296 and so to an index below the list.
       {50000, 0, 100000, 50000, 0},
@@ -33,7 +33,6 @@ TEST(RecordAtTest, FollowsTheRuleAndNeverLeavesTheList) {
       {90000, 0, 100000, 50000, 2050},
       // The span itself wraps to -1, and the product to the least number there is.
       {0, kLeast, kMost, 1, 0},
-      {kMost - 1, kLeast, kMost, 7, 6},
       {kMost, kLeast, kMost, 7, 6},
   };
   for (const auto& test : cases) {
@@ -42,32 +41,49 @@ TEST(RecordAtTest, FollowsTheRuleAndNeverLeavesTheList) {
   }
 }
 
-TEST(RecordAtTest, AdvancesEvenlyByWholeRecords) {
-  constexpr std::int32_t kStart = 1'700'000'000, kEnd = kStart + 3600;
-  std::map<std::size_t, int> seconds;
-  for (std::int32_t now = kStart; now < kEnd; ++now) ++seconds[*recordAt(now, kStart, kEnd, 700)];
-  EXPECT_EQ(seconds.size(), 700U);
-  for (const auto& [record, count] : seconds) {
-    EXPECT_TRUE(count == 5 || count == 6) << record << " holds for " << count << " s";
+TEST(PositionAtTest, HostileRecordsReadAsZeroAndNoRecordsAsNothing) {
+  using Array = PropertyList::Array;
+  using Dictionary = PropertyList::Dictionary;
+  const std::pair<PropertyList, std::optional<Coordinate>> cases[] = {
+      {"a text", std::nullopt},
+      {Dictionary{{"0", 1}}, std::nullopt},
+      {Array{}, std::nullopt},
+      {Array{"a text"}, Coordinate{}},
+      {Array{Dictionary{{"lat", "57.5 N"}, {"lng", Array{}}}}, Coordinate{57.5, 0}},
+  };
+  for (const auto& [points, position] : cases) {
+    const RoutePreferences preferences{{{"start", "10"}, {"end", "20"}},
+                                       std::make_shared<RoutePoints>(RoutePoints::stored(points))};
+    EXPECT_EQ(positionAt(15, preferences), position);
   }
 }
 
-TEST(PositionAtTest, HostileRecordsReadAsZeroAndNoRecordsAsNothing) {
-  using Dictionary = PropertyList::Dictionary;
-  const auto where = [](PropertyList points) {
-    RoutePreferences preferences{{{"start", "10"}, {"end", "20"}},
-                                 std::make_shared<RoutePoints>(RoutePoints::stored(points))};
-    return positionAt(15, preferences);
-  };
-  EXPECT_EQ(positionAt(15, {}), std::nullopt);
-  EXPECT_EQ(where("a text"), std::nullopt);
-  EXPECT_EQ(where(Dictionary{{"0", 1}}), std::nullopt);
-  EXPECT_EQ(where(PropertyList::Array{}), std::nullopt);
-  EXPECT_EQ(where(PropertyList::Array{"a text"}), Coordinate{});
-  EXPECT_EQ(where(PropertyList::Array{Dictionary{{"lat", 5}}}), (Coordinate{5, 0}));
-  EXPECT_EQ(
-      where(PropertyList::Array{Dictionary{{"lat", "57.5 N"}, {"lng", PropertyList::Array{}}}}),
-      (Coordinate{57.5, 0}));
+const RouteChoices kChosen{.start = {57.7, 11.9},
+                           .end = {57.8, 12},
+                           .startTime = 1000,
+                           .endTime = 2000,
+                           .startText = "",
+                           .endText = ""};
+
+TEST(StartTimeTest, IsNeitherInThePastNorAfterTheEnd) {
+  const std::pair<std::int32_t, double> cases[] = {{500, 1000},  {1000, 1000}, {1500, 1500},
+                                                   {2000, 2000}, {2001, 1999}, {9999, 1999}};
+  for (const auto& [now, start] : cases) {
+    EXPECT_EQ(startTimeFrom(kChosen, now), start) << "now " << now;
+  }
+}
+
+TEST(RouteSimulationTest, ANewPlanIsFollowedFromTheSharedList) {
+  const TemporaryRoot root;
+  SettingsFiles files(root.path());
+  FakeClock clock;
+  clock.seconds = 1000;
+  RouteSimulation simulation(files, clock);
+  const auto points = std::make_shared<RoutePoints>(RoutePoints::planned({{3, 3}, {4, 4}}));
+  simulation.turnOn(kChosen, points, false, [](const auto& start) { ASSERT_TRUE(start); });
+  *points = RoutePoints::planned({{1, 1}, {2, 2}});
+  clock.seconds = 1999.9;
+  EXPECT_EQ(simulation.position(), (Coordinate{2, 2}));
 }
 
 }  // namespace

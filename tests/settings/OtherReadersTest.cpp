@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <iomanip>
 #include <limits>
 #include <plist/plist.h>
@@ -68,25 +67,22 @@ struct Difference {
   PropertyList read;
 };
 
-const std::vector<Difference>& knownDifferences() {
-  constexpr double kInfinity = std::numeric_limits<double>::infinity();
-  constexpr double kNotANumber = std::numeric_limits<double>::quiet_NaN();
-  static const std::vector<Difference> differences = {
-      {"npm", "\u0085", "\n"},
-      {"npm", "a\u0085b", "a\nb"},
-      {"npm", "\u2028", "\n"},
-      {"npm", "a\u2028b", "a\nb"},
-      {"npm", kInfinity, kNotANumber},
-      {"npm", -kInfinity, kNotANumber},
-      {"GNUstep", "\uFEFF", ""},
-      {"GNUstep", "\uFEFFa", "a"},
-      {"GNUstep", std::numeric_limits<std::uint64_t>::max(),
-       std::numeric_limits<std::int64_t>::max()},
-      {"plistlib writing XML", "\r", "\n"},
-      {"plistlib writing XML", "a\r\nb\rc\n", "a\nb\nc\n"},
-  };
-  return differences;
-}
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double kNotANumber = std::numeric_limits<double>::quiet_NaN();
+const Difference kKnownDifferences[] = {
+    {"npm", "\u0085", "\n"},
+    {"npm", "a\u0085b", "a\nb"},
+    {"npm", "\u2028", "\n"},
+    {"npm", "a\u2028b", "a\nb"},
+    {"npm", kInfinity, kNotANumber},
+    {"npm", -kInfinity, kNotANumber},
+    {"GNUstep", "\uFEFF", ""},
+    {"GNUstep", "\uFEFFa", "a"},
+    {"GNUstep", std::numeric_limits<std::uint64_t>::max(),
+     std::numeric_limits<std::int64_t>::max()},
+    {"plistlib writing XML", "\r", "\n"},
+    {"plistlib writing XML", "a\r\nb\rc\n", "a\nb\nc\n"},
+};
 
 /// JavaScript knows no numbers but reals.
 PropertyList asReal(const PropertyList& value) {
@@ -96,7 +92,7 @@ PropertyList asReal(const PropertyList& value) {
 }
 
 PropertyList asReadBy(const std::string& reader, const PropertyList& value) {
-  for (const Difference& difference : knownDifferences()) {
+  for (const Difference& difference : kKnownDifferences) {
     if (difference.reader == reader && form(difference.written) == form(value)) {
       return difference.read;
     }
@@ -115,46 +111,61 @@ PropertyList asReadBy(const std::string& reader, const PropertyList& value) {
   return read;
 }
 
-/// Texts that a reader may get wrong, as a value and as a key, and the other types' edges.
-std::vector<PropertyList> documents() {
+/// A text as a value and as a key.
+void addText(std::vector<PropertyList>& documents, const std::string& text) {
+  documents.push_back(Dictionary{{"value", text}});
+  documents.push_back(Dictionary{{text, "value"}});
+}
+
+/// Texts that a reader may get wrong, and the other types' edges: all that XML can hold.
+std::vector<PropertyList> wholeDocuments() {
   const std::vector<const char*> kinds[] = {
       {"", " ", " a ", "\t", "\n", "\r", "a\r\nb\rc\n", "\u00A0a", "\u200Ba"},
       {"\u0085", "a\u0085b", "\u2028", "a\u2028b", "\u2029", "\uFEFF", "\uFEFFa", "a\uFEFF"},
       {"\x7f", "\u009F", "\u202Eabc", "\uFFFD", "\U0001FFFE", "\U0010FFFF"},
       {"&<>\"'", "&amp;&#65;&lt;", "]]>", "<![CDATA[x]]>", "<!-- x -->", "<?x?>", "\\u0041%s"},
       {"e\u0301", "\u00E9", "\uD55C", "\u1112\u1161\u11AB", "\u212B", "\U0001F469\u200D\U0001F680"},
-      {"\x01\x1F", "\uFFFE\uFFFF", "a\xFF", "\xC3", "\xC0\x80", "\xED\xA0\x80"},
-      {"\xED\xA0\xBD\xED\xB8\x80", "constructor", "0"},
+      {"constructor", "0", "CF$UID"},
   };
   std::vector<PropertyList> documents;
-  const auto add = [&](const std::string& text) {
-    documents.push_back(Dictionary{{"value", text}});
-    documents.push_back(Dictionary{{text, "value"}});
-  };
-  for (const auto& texts : kinds) std::for_each(texts.begin(), texts.end(), add);
-  add(std::string("a\0b", 3));
-  add(std::string(200'000, 'a') + "\u00E9");
-  add(std::string(70'000, '&'));
+  for (const auto& texts : kinds) {
+    for (const char* const text : texts) addText(documents, text);
+  }
+  addText(documents, std::string(200'000, 'a') + "\u00E9");
+  addText(documents, std::string(70'000, '&'));
   using Integers = std::numeric_limits<std::int64_t>;
   using Reals = std::numeric_limits<double>;
   const PropertyList noBytes = Value(PropertyList::Data{});
   const PropertyList noEntries = Array();
   const PropertyList noKeys = Dictionary();
   const PropertyList bytes = Value(PropertyList::Data{{0, 1, 0xFF}});
+  const PropertyList oneByte = Value(PropertyList::Data{{7}});
+  const PropertyList manyBytes = Value(PropertyList::Data{std::vector<std::uint8_t>(1000, 0xA5)});
+  const PropertyList many = Array(300, Dictionary{{"lat", 0.3}, {"lng", -1e-7}});
   const PropertyList later = Value(PropertyList::Date{789012345});
   const PropertyList earlier = Value(PropertyList::Date{-1e9});
   const PropertyList nested = Array{noEntries, Dictionary{{"", Array{""}}}};
   const PropertyList alike = Dictionary{{"e\u0301", 1}, {"\u00E9", 2}, {"A", 3}, {"a", 4}};
   const auto most = std::numeric_limits<std::uint64_t>::max();
   const Array values[] = {
-      {true, false, 0, -1, 1'700'000'000, Integers::min(), Integers::max(), most},
+      {true, false, 0, -1, 255, 65536, 1'700'000'000, Integers::min(), Integers::max(), most},
       {0.1, 11.9671, 5.0, -0.0, Reals::max(), Reals::denorm_min()},
       {Reals::infinity(), -Reals::infinity(), Reals::quiet_NaN()},
-      {bytes, noBytes, later, earlier, noEntries, noKeys, nested, alike},
+      {bytes, noBytes, oneByte, manyBytes, later, earlier, noEntries, noKeys, nested, alike, many},
   };
   for (const Array& row : values) {
     for (const PropertyList& value : row) documents.push_back(Dictionary{{"value", value}});
   }
+  return documents;
+}
+
+std::vector<PropertyList> documents() {
+  std::vector<PropertyList> documents = wholeDocuments();
+  for (const char* const text : {"\x01\x1F", "\uFFFE\uFFFF", "a\xFF", "\xC3", "\xC0\x80",
+                                 "\xED\xA0\x80", "\xED\xA0\xBD\xED\xB8\x80"}) {
+    addText(documents, text);
+  }
+  addText(documents, std::string("a\0b", 3));
   return documents;
 }
 
@@ -227,6 +238,12 @@ TEST_P(OtherWritersTest, WriteWhatWeRead) {
       EXPECT_TRUE(form(ours.value.value_or("nothing")) == expected)
           << writer << ' ' << ours.damage << ' ' << expected.substr(0, 200);
     }
+  }
+}
+
+TEST(OtherReadersTest, WeReadOursValueByValue) {
+  for (const PropertyList& document : wholeDocuments()) {
+    EXPECT_EQ(form(kept(document)), form(document));
   }
 }
 

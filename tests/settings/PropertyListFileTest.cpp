@@ -43,6 +43,8 @@ TEST_F(PropertyListFileTest, TellsMissingFromDamagedFromLoaded) {
     EXPECT_EQ(contents.state, State::Damaged) << bytes;
     EXPECT_THAT(contents.problem, testing::HasSubstr(message)) << bytes;
   }
+  fs::resize_file(mPath, std::uintmax_t{1} << 40);
+  EXPECT_THAT(mFile.read().problem, testing::HasSubstr("too large")) << "not parsed";
 }
 
 TEST_F(PropertyListFileTest, WhatIsNoFileIsUnreadableAndDoesNotBlock) {
@@ -55,64 +57,35 @@ TEST_F(PropertyListFileTest, WhatIsNoFileIsUnreadableAndDoesNotBlock) {
   EXPECT_TRUE(fs::exists(mPath / "inner"));
 }
 
-TEST_F(PropertyListFileTest, FileBeyondTheSizeLimitIsDamagedWithoutBeingParsed) {
-  writeBytes(mPath, "<plist>");
-  fs::resize_file(mPath, std::uintmax_t{1} << 40);
-  EXPECT_THAT(mFile.read().problem, testing::HasSubstr("too large"));
-}
-
-TEST_F(PropertyListFileTest, DamagedFileIsKeptByTheWriteThatReplacesIt) {
-  writeBytes(mPath, kDamaged);
-  EXPECT_EQ(mFile.read().state, State::Damaged);
-  EXPECT_EQ(mFolder.entryCount(), 1u) << "reading must not move anything";
-  ASSERT_TRUE(mFile.write(mValue));
-  EXPECT_EQ(bytesOf(setAside(1)), kDamaged);
-  EXPECT_EQ(mFile.read().value, mValue);
-
-  ASSERT_TRUE(mFile.write(mValue));
-  EXPECT_EQ(mFolder.entryCount(), 2u) << "a sound file needs no keeping";
-
-  writeBytes(mPath, "second");
-  ASSERT_TRUE(mFile.write(mValue)) << "written without a read";
-  EXPECT_EQ(bytesOf(setAside(1)), kDamaged);
-  EXPECT_EQ(bytesOf(setAside(2)), "second");
-}
-
-TEST_F(PropertyListFileTest, FileOfAnotherRootIsKept) {
-  ASSERT_TRUE(mFile.write(mValue));
-  PropertyListFile asArray(mPath, PropertyListFile::Root::Array);
-  ASSERT_TRUE(asArray.write(Array{"x"}));
-  EXPECT_EQ(asArray.read().value, PropertyList(Array{"x"}));
-  EXPECT_EQ(PropertyListFile(setAside(1), PropertyListFile::Root::Dictionary).read().value, mValue);
+TEST_F(PropertyListFileTest, EachDamagedFileIsKeptByTheWriteThatReplacesIt) {
+  const std::string sound = *serializePropertyList(mValue).bytes;
+  const std::string anotherRoot = *serializePropertyList(Array{"x"}).bytes;
+  int kept = 0;
+  for (const std::string& damaged : {std::string(kDamaged), std::string("second"), anotherRoot}) {
+    writeBytes(mPath, damaged);
+    ASSERT_TRUE(mFile.write(mValue));
+    ASSERT_TRUE(mFile.write(mValue)) << "a sound file needs no keeping";
+    EXPECT_EQ(bytesOf(setAside(++kept)), damaged);
+    EXPECT_EQ(bytesOf(mPath), sound);
+    EXPECT_EQ(mFolder.entryCount(), 1U + kept);
+  }
 }
 
 TEST_F(PropertyListFileTest, RefusedValueChangesNothing) {
   writeBytes(mPath, kDamaged);
   PropertyList deep = Array{};
-  for (std::size_t depth = 0; depth < kMaximumPropertyListDepth; ++depth) {
-    deep = Array{deep};
-  }
-  for (const PropertyList& value :
-       {PropertyList(Array{}), PropertyList("text"), PropertyList(Dictionary{{"deep", deep}})}) {
-    const Status result = mFile.write(value);
-    EXPECT_FALSE(result);
-    EXPECT_THAT(result.message(), testing::HasSubstr(mPath.string()));
+  for (std::size_t depth = 0; depth < kMaximumPropertyListDepth; ++depth) deep = Array{deep};
+  for (const PropertyList& value : {PropertyList("text"), PropertyList(Dictionary{{"", deep}})}) {
+    EXPECT_THAT(mFile.write(value).message(), testing::HasSubstr(mPath.string()));
   }
   EXPECT_EQ(bytesOf(mPath), kDamaged);
   EXPECT_EQ(mFolder.entryCount(), 1u);
 }
 
 TEST_F(PropertyListFileTest, WriteFailsWhenNoNumberIsFree) {
-  for (int number = 1; number <= 998; ++number) {
-    writeBytes(setAside(number), "kept");
-  }
-  writeBytes(mPath, kDamaged);
-  ASSERT_TRUE(mFile.write(mValue));
-  EXPECT_EQ(bytesOf(setAside(999)), kDamaged);
-
+  for (int number = 1; number <= 999; ++number) writeBytes(setAside(number), "kept");
   writeBytes(mPath, "once more");
-  const Status result = mFile.write(mValue);
-  EXPECT_THAT(result.message(), testing::HasSubstr("remove some"));
+  EXPECT_THAT(mFile.write(mValue).message(), testing::HasSubstr("remove some"));
   EXPECT_EQ(bytesOf(mPath), "once more");
 }
 

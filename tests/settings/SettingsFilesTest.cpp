@@ -1,27 +1,13 @@
-#include <fstream>
-#include <iterator>
+#include <map>
+#include <string>
 
 #include "settings/SettingsFiles.h"
-#include "tests/support/TemporaryRoot.h"
+#include "settings/SettingsRoot.h"
 
 namespace wayloom {
 namespace {
 
-namespace fs = std::filesystem;
-using Dictionary = PropertyList::Dictionary;
-
-class SettingsFilesTest : public testing::Test {
- protected:
-  void putMode(const PropertyList& mode) {
-    ASSERT_TRUE(mFiles.save(SettingsFile::Master, Dictionary{{"mode", mode}, {"other", "x"}}));
-  }
-
-  TemporaryFolder mFolder;
-  SettingsFiles mFiles{mFolder.path() / "phone"};
-};
-
-TEST_F(SettingsFilesTest, EachFileStandsWhereOtherProgramsLookForIt) {
-  const fs::path folder = mFolder.path() / "phone/var/mobile/Library/Preferences";
+TEST(SettingsFilesTest, EachFileStandsWhereOtherProgramsLookForIt) {
   const std::pair<SettingsFile, const char*> kFiles[] = {
       {SettingsFile::Master, "com.quorvil.wl.master.plist"},
       {SettingsFile::Location, "com.quorvil.wl.location.plist"},
@@ -29,21 +15,34 @@ TEST_F(SettingsFilesTest, EachFileStandsWhereOtherProgramsLookForIt) {
       {SettingsFile::Favorites, "com.quorvil.wl.favorites.plist"},
       {SettingsFile::Whitelist, "com.quorvil.wl.whitelist.plist"}};
   for (const auto& [name, file] : kFiles) {
-    EXPECT_EQ(mFiles.path(name), folder / file);
+    EXPECT_EQ(SettingsFiles("/").path(name).string(),
+              std::string("/var/mobile/Library/Preferences/") + file);
   }
-  EXPECT_EQ(SettingsFiles("/").path(SettingsFile::Master),
-            "/var/mobile/Library/Preferences/com.quorvil.wl.master.plist");
 }
 
-TEST_F(SettingsFilesTest, SavingNoLocationSettingsWritesNothing) {
-  EXPECT_TRUE(mFiles.saveLocationSettings(std::nullopt));
-  EXPECT_FALSE(fs::exists(mFolder.path() / "phone"));
-  EXPECT_EQ(dictionaryIn(mFiles, SettingsFile::Location), std::nullopt);
-
-  const Dictionary settings{{"a", "1"}, {"s", "0.500000"}};
-  ASSERT_TRUE(mFiles.saveLocationSettings(settings));
-  ASSERT_TRUE(mFiles.saveLocationSettings(std::nullopt));
-  EXPECT_EQ(dictionaryIn(mFiles, SettingsFile::Location), settings);
+TEST(SettingsRootTest, FirstChoiceThatIsGivenWins) {
+  struct Choice {
+    std::optional<std::filesystem::path> argument;
+    std::map<std::string, const char*> environment;
+    const char* root;
+  };
+  const Choice choices[] = {
+      {"/", {{"WAYLOOM_ROOT", "/env"}}, "/"},
+      {"", {{"WAYLOOM_ROOT", "/env"}}, "/env"},
+      {{}, {{"WAYLOOM_ROOT", "/env"}, {"XDG_DATA_HOME", "/xdg"}}, "/env"},
+      {{}, {{"WAYLOOM_ROOT", ""}, {"XDG_DATA_HOME", "/xdg"}}, "/xdg/wayloom/phone"},
+      {{}, {{"XDG_DATA_HOME", "relative"}, {"HOME", "/h"}}, "/h/.local/share/wayloom/phone"},
+      {{}, {{"HOME", "/h"}}, "/h/.local/share/wayloom/phone"}};
+  for (const Choice& choice : choices) {
+    const auto lookup = [&](const char* name) -> const char* {
+      const auto found = choice.environment.find(name);
+      return found == choice.environment.end() ? nullptr : found->second;
+    };
+    EXPECT_EQ(settingsRoot(choice.argument, lookup), choice.root);
+  }
+  const std::filesystem::path homeless =
+      settingsRoot(std::nullopt, [](const char*) -> const char* { return nullptr; });
+  EXPECT_TRUE(homeless.is_absolute()) << homeless;
 }
 
 }  // namespace

@@ -72,12 +72,10 @@ TEST_F(WriterTurnsTest, RemovesOldTemporariesOfItsOwnFormOnly) {
     bool isOld, stays;
   } cases[] = {
       {"com.quorvil.wl.master.plist.0123456789abcdef.tmp", true, false},
-      {"com.quorvil.wl.route.plist.fedcba9876543210.tmp", true, false},
       {"com.quorvil.wl.route.plist.0000000000000000.tmp", false, true},
       {"com.quorvil.wl.master.plist.0123456789abcdeX.tmp", true, true},
       {"com.quorvil.wl.master.plist.damaged-1", true, true},
       {"com.example.plist.0123456789abcdef.tmp", true, true},
-      {"com.quorvil.wl.master.plist", true, true},
   };
   for (const auto& test : cases) {
     writeBytes(mFolder.path() / test.name, "x");

@@ -43,6 +43,17 @@ class FakeGeocoder : public Geocoder {
   std::vector<std::pair<Coordinate, Completion>> coordinates;
 };
 
+/// A platform of fakes; the position source that it made last is left in `source`.
+inline LocationPlatform fakePlatform(const bool& isOn, FakePositionSource*& source,
+                                     Geocoder& geocoder, UserDefaults& defaults, Alerts& alerts) {
+  const auto make = [&source] {
+    auto made = std::make_unique<FakePositionSource>();
+    source = made.get();
+    return made;
+  };
+  return {[&isOn] { return isOn; }, make, {}, geocoder, defaults, alerts};
+}
+
 /// Directions that keep the requests until the test answers them.
 class FakeDirections : public Directions {
  public:

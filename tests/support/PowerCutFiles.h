@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <fcntl.h>
-#include <fstream>
 #include <functional>
 #include <map>
 #include <optional>
@@ -10,6 +9,7 @@
 #include <vector>
 
 #include "settings/FileSystem.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace wayloom {
 
@@ -53,7 +53,7 @@ class PowerCutFiles : public FileSystem {
       mPending.push_back({path, static_cast<int>(mFiles.size()) - 1});
       mNow[path] = static_cast<int>(mFiles.size()) - 1;
     } else if (std::filesystem::is_regular_file(path) && !mNow.contains(path)) {
-      const std::string bytes = bytesAt(path);
+      const std::string bytes = bytesOf(path);
       mFiles.push_back({bytes, bytes});
       mNow[path] = mDurable[path] = static_cast<int>(mFiles.size()) - 1;
     }
@@ -112,10 +112,6 @@ class PowerCutFiles : public FileSystem {
   static void apply(const Change& change, Names& names) {
     if (!change.former.empty()) names.erase(change.former);
     names[change.path] = change.file;
-  }
-  static std::string bytesAt(const std::filesystem::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
   }
   void cut() const {
     if (check) forEachDisk(check);

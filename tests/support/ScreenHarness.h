@@ -45,16 +45,8 @@ class ScreenHarness {
   AlertPresenter alerts;
   ModalPresenter modals;
   FakePositionSource* position = nullptr;
-  LocationClass location{LocationPlatform{[] { return true; },
-                                          [this] {
-                                            auto made = std::make_unique<FakePositionSource>();
-                                            position = made.get();
-                                            return made;
-                                          },
-                                          {},
-                                          geocoder,
-                                          defaults,
-                                          alerts}};
+  const bool locationIsOn = true;
+  LocationClass location{fakePlatform(locationIsOn, position, geocoder, defaults, alerts)};
   std::shared_ptr<TileSource> tiles = std::make_shared<PlainTiles>();
   QQuickView view;
 

@@ -15,12 +15,10 @@ struct ShellRun {
   std::string out, err;
 };
 
-/// Runs `command` with no bus to reach; what it prints passes through files in `folder` whose names
-/// begin with `tag`, so that runs with different tags may overlap.
-inline ShellRun runInShell(const std::string& command, const std::filesystem::path& folder,
-                           const std::string& tag = "run") {
-  const auto out = folder / (tag + ".out");
-  const auto err = folder / (tag + ".err");
+/// Runs `command` with no bus to reach; what it prints passes through files in `folder`.
+inline ShellRun runInShell(const std::string& command, const std::filesystem::path& folder) {
+  const auto out = folder / "run.out";
+  const auto err = folder / "run.err";
   const std::string line = "DBUS_SESSION_BUS_ADDRESS=unix:path=/nonexistent " + command + " > '" +
                            out.string() + "' 2> '" + err.string() + "'";
   const int status = std::system(line.c_str());

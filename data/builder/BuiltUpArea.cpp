@@ -19,13 +19,13 @@ constexpr double kSmallestRingCells = 220;
 // One pass of a running mean along rows (step 1) or columns (step = columns).
 void blurLine(float* line, int count, int step, std::vector<float>& copy) {
   copy.resize(static_cast<std::size_t>(count));
-  for (int i = 0; i < count; ++i)
-    copy[static_cast<std::size_t>(i)] = line[std::ptrdiff_t{i} * step];
+  float* const before = copy.data();
+  for (std::ptrdiff_t i = 0; i < count; ++i) before[i] = line[i * step];
   float sum = 0;
-  for (int i = -kBlurCells; i < count; ++i) {
-    if (i + kBlurCells < count) sum += copy[static_cast<std::size_t>(i + kBlurCells)];
-    if (i > kBlurCells) sum -= copy[static_cast<std::size_t>(i - kBlurCells - 1)];
-    if (i >= 0) line[std::ptrdiff_t{i} * step] = sum / (2 * kBlurCells + 1);
+  for (std::ptrdiff_t i = -kBlurCells; i < count; ++i) {
+    if (i + kBlurCells < count) sum += before[i + kBlurCells];
+    if (i > kBlurCells) sum -= before[i - kBlurCells - 1];
+    if (i >= 0) line[i * step] = sum / (2 * kBlurCells + 1);
   }
 }
 

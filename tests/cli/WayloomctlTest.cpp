@@ -64,7 +64,8 @@ TEST_F(WayloomctlTest, WhatIsNoPositionIsNeitherTurnedOnNorWrittenBackNorShown) 
   EXPECT_EQ(location().at("latitude"), "-0.500000");
 }
 
-TEST_F(WayloomctlTest, AnswersBadInputInOneLine) {
+TEST_F(WayloomctlTest, AnswersBadInputInOneShortLine) {
+  const std::string longest = "fixed on " + std::string(5000, 'x');
   const struct {
     const char* arguments;
     int status;
@@ -77,6 +78,8 @@ TEST_F(WayloomctlTest, AnswersBadInputInOneLine) {
       {"fixed on '#:nan,1'", 2, "no position"},
       {"fixed on 1e400,0", 2, "no position"},
       {"fixed on ' '", 2, "empty"},
+      {"fixed on 'latitude 95, longitude 11'", 1, "latitude 95 is beyond 90 degrees"},
+      {longest.c_str(), 1, "xxx…'"},
       {"'a\nb'", 2, "a b"},
       {"fixed on 'no such place at all'", 1, "no such place at all"},
       {"fixed speed fast", 2, "fast"},
@@ -90,6 +93,7 @@ TEST_F(WayloomctlTest, AnswersBadInputInOneLine) {
     EXPECT_EQ(answer.status, test.status) << test.arguments;
     EXPECT_EQ(answer.out, "") << test.arguments;
     EXPECT_EQ(std::count(answer.err.begin(), answer.err.end(), '\n'), 1) << answer.err;
+    EXPECT_LT(answer.err.size(), 400U);
     EXPECT_THAT(answer.err, HasSubstr(test.says)) << test.arguments;
   }
 }

@@ -51,6 +51,10 @@ Result<FixedLocationState> FixedLocation::refresh() {
   return stateOf(*mPreferences);
 }
 
+FixedLocationState FixedLocation::known() const {
+  return mPreferences ? stateOf(*mPreferences) : FixedLocationState();
+}
+
 const char* FixedLocation::refusalToLeave() const {
   return mPreferences ? wayloom::refusalToLeave(Mode::FixedLocation, *mPreferences) : nullptr;
 }

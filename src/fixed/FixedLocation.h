@@ -57,6 +57,9 @@ class FixedLocation {
   /// Whether the file is the one that was last read or written here.
   bool isCurrent() const { return mVersion == mFiles.currentVersion(SettingsFile::Location); }
 
+  /// What the copy says.
+  FixedLocationState known() const;
+
   /// The message that keeps the screen in its mode while the copy, which is not read again, says
   /// that the position is on; null otherwise.
   const char* refusalToLeave() const;

@@ -70,7 +70,7 @@ class FailedWritesTest : public testing::Test {
         const bool isWritten = stored(name, key) == wished;
         EXPECT_EQ(shown(), isWritten) << what;
         if (!isWritten) {
-          EXPECT_TRUE(window->isShown("statusLine")) << what;
+          EXPECT_TRUE(window->property("statusLine", "isFailure").toBool()) << what;
         }
       }
     }

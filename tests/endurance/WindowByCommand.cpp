@@ -41,8 +41,9 @@ class Commands {
       mWindow.click("alertButton");
       return "refused " + message.toStdString();
     }
-    const QString status = mWindow.property("statusLine", "text").toString();
-    return status.isEmpty() ? "done" : "failed " + status.toStdString();
+    const std::string status = mWindow.property("statusLine", "text").toString().toStdString();
+    const bool isFailure = mWindow.property("statusLine", "isFailure").toBool();
+    return isFailure ? "failed " + status : "done";
   }
 
  private:
@@ -55,9 +56,9 @@ class Commands {
     QMetaObject::invokeMethod(mWindow.find("favoritesNameField"), "selectAll");
     mWindow.type(name);
     if (!mWindow.click("okButton")) return false;
-    return mWindow.isShown("statusLine") || mWindow.waitUntil("the name panel's end", [this] {
-      return !mWindow.isShown("alertView");
-    });
+    return mWindow.property("statusLine", "isFailure").toBool() ||
+           mWindow.waitUntil("the name panel's end",
+                             [this] { return !mWindow.isShown("alertView"); });
   }
 
   bool deleteFirst() {

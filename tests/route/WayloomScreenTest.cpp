@@ -255,7 +255,7 @@ TEST_F(WayloomScreenTest, ADriveThatCannotBeWrittenIsNotShownAsOn) {
 
   screen.click("enableSwitch");
   EXPECT_TRUE(isOn());
-  EXPECT_EQ(textOf("statusLine"), "");
+  EXPECT_EQ(textOf("statusLine"), "Arrived");
 }
 
 TEST_F(WayloomScreenTest, WhileItDrivesEveryChoiceIsRefused) {

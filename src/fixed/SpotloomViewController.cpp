@@ -39,6 +39,7 @@ void SpotloomViewController::followFiles() {
     refreshViewByStatusWithLocation(false);
   }
   followPosition();
+  showStatus();
 }
 
 bool SpotloomViewController::followPosition() {
@@ -125,8 +126,10 @@ bool SpotloomViewController::report(const Status& status) {
 void SpotloomViewController::showStatus() {
   const FixedLocationState state = mFixedLocation.known();
   const bool isThere = isSamePosition(state.coordinate, mAddressPlace);
-  mStatus.show(fixedStatus(state, isThere ? mAddress : std::string(), mActivity), std::nullopt,
-               mServices.files, {SettingsFile::Location, SettingsFile::Master});
+  const bool isOther = !state.enabled && mServices.isDriving && mServices.isDriving();
+  mStatus.show(isOther ? Phrase{kWayloomIsWorking}
+                       : fixedStatus(state, isThere ? mAddress : std::string(), mActivity),
+               std::nullopt, mServices.files, {SettingsFile::Location, SettingsFile::Master});
 }
 
 void SpotloomViewController::begin(FixedActivity activity) {
@@ -162,9 +165,8 @@ void SpotloomViewController::regionDidChange() {
   // A position that no map shows stays where it is until the map is moved away from it.
   const bool stays = isBeyondTheEdge(*mMainMapView, mFixedLocation.coordinate());
   const Coordinate center = stays ? mFixedLocation.coordinate() : mMainMapView->region().center;
-  mAddress.clear();
-  mAddressPlace = center;
   if (!mIsFollowing && !stays) moved(mFixedLocation.centerMoved(center));
+  mAsked.push_back(center);
   mServices.location.addressWithCoordinate(center, this);
 }
 

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <deque>
+#include <functional>
+
 #include <QtCore/QObject>
 #include <QtCore/QPointer>
 #include <QtCore/QString>
@@ -48,6 +51,8 @@ class SpotloomViewController : public QObject, public LocationDelegate, public F
     Alerts& alerts;
     ScreenSwitcher& screens;
     std::shared_ptr<TileSource> tiles;
+    /// Whether the route file says that a drive is on; may be left out.
+    std::function<bool()> isDriving = {};
   };
 
   explicit SpotloomViewController(const Services& services, QObject* parent = nullptr);
@@ -157,6 +162,7 @@ class SpotloomViewController : public QObject, public LocationDelegate, public F
   void regionWillChange();
   void regionDidChange();
   void moved(const Status& written);
+  void addressKnown(const std::string& address);
   /// An empty address is one that is still being looked up.
   void showAddress(const QString& address);
   void startLocation();
@@ -168,7 +174,9 @@ class SpotloomViewController : public QObject, public LocationDelegate, public F
   View mView;
   StatusText mStatus;
   FixedActivity mActivity;
-  /// The address that was last asked for, empty until it is known, and of which place.
+  /// Whose addresses were asked for and are not known yet; the answers come in this order.
+  std::deque<Coordinate> mAsked;
+  /// The address that came last, empty where there is none, and of which place.
   std::string mAddress;
   Coordinate mAddressPlace;
   /// A move of the map is under way.

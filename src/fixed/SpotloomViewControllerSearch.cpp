@@ -44,13 +44,21 @@ void SpotloomViewController::reverseGeocoderSuccess(Location* /*location*/,
     view.addressText = QString::fromStdString(address);
     view.spinning = false;
   });
+  addressKnown(address);
+}
+
+void SpotloomViewController::addressKnown(const std::string& address) {
+  if (mAsked.empty()) return;
   mAddress = address;
+  mAddressPlace = mAsked.front();
+  mAsked.pop_front();
   showStatus();
 }
 
 void SpotloomViewController::reverseGeocoderFailed(Location* /*location*/,
                                                    const std::optional<std::string>& /*error*/) {
   showAddress(localizedText("Unknow"));
+  addressKnown({});
 }
 
 void SpotloomViewController::geocoderSuccess(Location* /*location*/, Coordinate coordinate) {
@@ -61,10 +69,10 @@ void SpotloomViewController::geocoderSuccess(Location* /*location*/, Coordinate 
   report(mFixedLocation.endAddressSearch(mView.enabled));
 }
 
-void SpotloomViewController::geocoderFailed(Location* location,
-                                            const std::optional<std::string>& error) {
+void SpotloomViewController::geocoderFailed(Location* /*location*/,
+                                            const std::optional<std::string>& /*error*/) {
   begin({FixedActivity::Kind::NothingFound, mActivity.searched});
-  reverseGeocoderFailed(location, error);
+  showAddress(localizedText("Unknow"));
 }
 
 void SpotloomViewController::geocoderSuccess(Location* location, const std::string& address) {

@@ -2,6 +2,7 @@
 
 #include <chrono>
 
+#include "fixed/FixedStatus.h"
 #include "kit/FailureText.h"
 #include "kit/LocalizedText.h"
 #include "kit/ShownText.h"
@@ -95,6 +96,7 @@ void WayloomViewController::followFiles() {
   if (!mv_main || mSimulation.isWriting()) return;
   if (!mSimulation.isCurrent()) refresh();
   const RoutePreferences& preferences = mSimulation.preferences();
+  showStatus();
   if (std::exchange(mShownVersion, preferences.version) == preferences.version) return;
   mStatus.setFailure({});
   showSwitch();
@@ -116,14 +118,24 @@ bool WayloomViewController::report(const Status& status) {
   return static_cast<bool>(status);
 }
 
+bool WayloomViewController::isDriving() {
+  if (!mSimulation.isCurrent()) refresh();
+  return mSimulation.preferences().enabled();
+}
+
+Phrase WayloomViewController::statusPhrase() const {
+  const RoutePreferences& preferences = mSimulation.preferences();
+  if (preferences.enabled()) return driveStatus(mSimulation.now(), preferences);
+  // The other simulation may be on all the same.
+  const auto fixed = readFixedLocation(mServices.files);
+  if (fixed && fixed->enabled) return fixedStatus(*fixed, {});
+  return mIsChoosing ? choiceStatus(choices(), mPlan.drive()) : Phrase{"Off"};
+}
+
 void WayloomViewController::showStatus() {
   if (mSimulation.isWriting()) return;
-  const RoutePreferences& preferences = mSimulation.preferences();
-  const std::int32_t now = mSimulation.now();
-  const bool isChosen = mIsChoosing && !preferences.enabled();
-  mStatus.show(isChosen ? choiceStatus(choices(), mPlan.drive()) : driveStatus(now, preferences),
-               progressAt(now, preferences), mServices.files,
-               {SettingsFile::Route, SettingsFile::Master});
+  mStatus.show(statusPhrase(), progressAt(mSimulation.now(), mSimulation.preferences()),
+               mServices.files, {SettingsFile::Route, SettingsFile::Master});
 }
 
 void WayloomViewController::showChoices() {

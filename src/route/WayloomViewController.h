@@ -58,6 +58,8 @@ class WayloomViewController : public wayloom::BaseViewController, public Locatio
   /// Another program may have changed the route file: a drive that was turned on there goes on here
   /// as after a start, one that was turned off ends.
   void followFiles() override;
+  /// Whether the route file says that a drive is on, shown or not.
+  bool isDriving();
 
   Q_INVOKABLE void setEnable(bool on);
   /// Shows where the drive is now.
@@ -133,6 +135,7 @@ class WayloomViewController : public wayloom::BaseViewController, public Locatio
   /// Reads the file again.
   void refresh();
   void showStatus();
+  Phrase statusPhrase() const;
   /// The status line says what is chosen, from now on.
   void showChoices();
   /// The switch shows what the file says.

@@ -120,7 +120,7 @@ class Commands {
 
   bool choose() {
     return pressFirst(Qt::Key_Return) && mWindow.waitUntil("the screen below", [this] {
-      return mWindow.isShown("alertButton") || isBack();
+      return !text("statusLine").empty() && (screen() == "modal" || isBack());
     });
   }
 

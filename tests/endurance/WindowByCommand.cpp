@@ -2,7 +2,7 @@
 // by one on standard output when what it asked for is over: "done SCREEN SWITCH", with the screen
 // that was touched and what the touched switch then shows, "refused TEXT" after an alert, "failed
 // TEXT" when the status line says so, "cannot LINE"; "shown" by the screen, its switch and the
-// status line.
+// status line, "say LABEL" by its text.
 //   window_by_command ROOT REGIONS
 
 #include <cstdio>
@@ -26,6 +26,7 @@ class Commands {
 
   std::string answer(const std::string& line) {
     if (line == "shown") return shown();
+    if (line.starts_with("say ")) return text(line.substr(4).c_str());
     mTouched = screen();
     const bool isRun = run(line);
     QCoreApplication::processEvents();
@@ -40,7 +41,6 @@ class Commands {
     const QString rest = QString::fromStdString(blank == line.npos ? "" : line.substr(blank + 1));
     if (word == "add") return add(rest);
     if (word == "find") return find(rest);
-    if (word == "zoom") return zoom();
     if (word == "enable") return toggle("enableSwitch");
     if (word == "drift") return toggle("s_auto");
     if (word == "exchange") return exchange();
@@ -129,17 +129,6 @@ class Commands {
     mWindow.type("#:" + position);
     mWindow.press(Qt::Key_Return);
     return true;
-  }
-
-  /// Three notches, far from the middle.
-  bool zoom() {
-    const QQuickItem* map = mWindow.find("mainMapView");
-    if (!map || !map->isVisible()) return false;
-    const QPointF point = map->mapToScene({30, 30});
-    QWheelEvent event(point, point, {}, {0, 3 * QWheelEvent::DefaultDeltasPerStep}, Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(map->window(), &event);
-    return mWindow.waitForMap("mainMapView");
   }
 
   bool add(const QString& name) {

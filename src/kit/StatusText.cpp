@@ -55,7 +55,11 @@ void StatusText::update() {
                           mShown.progress > 0 && now.progress < 1;
   const bool isNew = now.text != std::exchange(mShown, std::move(now)).text;
   Q_EMIT changed();
-  if (isNew && !onlyGoesOn && mLine) announce(mLine);
+  if (isNew && !onlyGoesOn) Q_EMIT announced();
+}
+
+void StatusText::announceFrom(QQuickItem* line) {
+  connect(this, &StatusText::announced, line, [line] { announce(line); });
 }
 
 }  // namespace wayloom

@@ -39,12 +39,13 @@ class StatusText : public QObject {
   bool isFailure() const { return mShown.isFailure; }
   double progress() const { return mShown.progress; }
 
-  /// Lets screen readers hear the text from now on when `line`, which shows it, has another one;
-  /// not each percent of a drive.
-  Q_INVOKABLE void announceFrom(QQuickItem* line) { mLine = line; }
+  /// Lets screen readers hear each announced text from `line`, which shows it.
+  Q_INVOKABLE void announceFrom(QQuickItem* line);
 
  Q_SIGNALS:
   void changed();
+  /// The text has become another one that is worth hearing: not each percent of a drive.
+  void announced();
 
  private:
   struct Shown {
@@ -60,7 +61,6 @@ class StatusText : public QObject {
   QString mFailure, mUnread, mState;
   double mProgress = -1;
   Shown mShown;
-  QPointer<QQuickItem> mLine;
 };
 
 }  // namespace wayloom

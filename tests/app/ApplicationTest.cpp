@@ -56,24 +56,6 @@ class ApplicationTest : public testing::Test {
   std::optional<WindowDriver> window;
 };
 
-TEST_F(ApplicationTest, TheMasterFileNamesTheScreenOfTheStart) {
-  const struct {
-    std::optional<PropertyList> mode;
-    bool isFixed;
-  } cases[] = {{std::nullopt, false}, {"0", false}, {"1", true}, {"x", false},
-               {"-2", true},          {7, true},    {true, true}};
-  int number = 0;
-  for (const auto& test : cases) {
-    if (test.mode) {
-      ASSERT_TRUE(files.save(SettingsFile::Master, Dictionary{{"mode", *test.mode}}));
-    }
-    start();
-    EXPECT_EQ(isIn("mainMapView"), test.isFixed) << "case " << number;
-    EXPECT_EQ(isIn("mv_main"), !test.isFixed) << "case " << number++;
-    stop();
-  }
-}
-
 TEST_F(ApplicationTest, TheFirstMapShowsTwoKilometresAroundTheDevice) {
   std::filesystem::create_directories(root.path() / "regions");
   auto region =

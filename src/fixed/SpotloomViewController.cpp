@@ -118,6 +118,9 @@ void SpotloomViewController::autoSlide(double speed) {
 }
 
 bool SpotloomViewController::report(const Status& status) {
+  // What failed may be in the file all the same, and is followed before it is named.
+  if (!status && !status.isRefused()) refreshViewByStatusWithLocation(false);
+  if (status) mStatus.setReading(status);
   mStatus.setFailure(failureText(status, mServices.alerts));
   showStatus();
   return static_cast<bool>(status);

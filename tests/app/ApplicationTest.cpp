@@ -12,7 +12,6 @@
 namespace wayloom {
 namespace {
 
-using Texts = std::map<std::string, std::string>;
 using Dictionary = PropertyList::Dictionary;
 constexpr auto kFatal = QAbstractItemModelTester::FailureReportingMode::Fatal;
 
@@ -106,36 +105,6 @@ TEST_F(ApplicationTest, ComingToTheFrontRefreshesTheScreenOfTheModeOnly) {
   EXPECT_TRUE(window->find("enableSwitch")->property("checked").toBool());
 }
 
-TEST_F(ApplicationTest, AFavouriteIsSwipedAwayAndAnotherChosen) {
-  ASSERT_TRUE(files.writeMasterMode(Mode::FixedLocation));
-  const PropertyList home =
-      Dictionary{{"name", "Home"}, {"latitude", "57.700000"}, {"longitude", "11.900000"}};
-  const PropertyList work =
-      Dictionary{{"name", "Work"}, {"latitude", "57.800000"}, {"longitude", "12.000000"}};
-  ASSERT_TRUE(files.save(SettingsFile::Favorites, PropertyList::Array{home, work}));
-  start();
-  ASSERT_TRUE(window->click("favoritesButton"));
-  ASSERT_TRUE(window->waitForScreen("mainTableView"));
-
-  const QPoint from = window->find("mainTableView")->mapToScene({340, 20}).toPoint();
-  QTest::mousePress(&application->window(), Qt::LeftButton, Qt::NoModifier, from);
-  for (int step = 1; step <= 10; ++step) {
-    QTest::mouseMove(&application->window(), from - QPoint(20 * step, 0), 10);
-  }
-  QTest::mouseRelease(&application->window(), Qt::LeftButton, Qt::NoModifier,
-                      from - QPoint(200, 0));
-  ASSERT_TRUE(
-      window->waitUntil("the delete button", [&] { return window->click("deleteButton"); }));
-  EXPECT_EQ(arrayIn(files, SettingsFile::Favorites), PropertyList::Array{work});
-
-  window->press(Qt::Key_Down);
-  window->press(Qt::Key_Return);
-  ASSERT_TRUE(window->waitUntil("the screen below", [&] { return isIn("mainMapView"); }));
-  EXPECT_TRUE(window->property("enableSwitch", "checked").toBool());
-  EXPECT_EQ(textsIn(files, SettingsFile::Location),
-            (Texts{{"enable", "1"}, {"latitude", "57.800000"}, {"longitude", "12.000000"}}));
-}
-
 TEST_F(ApplicationTest, ModalScreensLieOverOneAnotherAndLeaveByKey) {
   start();
   ASSERT_TRUE(window->click("btn_info"));
@@ -148,15 +117,6 @@ TEST_F(ApplicationTest, ModalScreensLieOverOneAnotherAndLeaveByKey) {
   window->press(Qt::Key_Escape);
   ASSERT_TRUE(window->waitUntil(
       "the route screen", [&] { return isIn("mv_main") && window->find("mv_main")->isEnabled(); }));
-
-  ASSERT_TRUE(files.save(SettingsFile::Route, Dictionary{{"enable", "0"}}));
-  ASSERT_TRUE(window->click("lb_start"));
-  ASSERT_TRUE(window->waitForScreen("buttonBar"));
-  ASSERT_TRUE(files.save(SettingsFile::Route, Dictionary{{"enable", "1"}}));
-  ASSERT_TRUE(window->click("btn_cancel"));
-  EXPECT_TRUE(window->waitUntil("the switch", [&] {
-    return window->find("enableSwitch")->property("checked").toBool();
-  })) << "the screen below appears again, and reads its file";
 }
 
 }  // namespace

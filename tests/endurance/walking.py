@@ -9,8 +9,18 @@ from programs import SEED, Window, check
 DRIVE = ["route", "on", "--from", "57.70,11.97", "--to", "57.71,11.96", "--start", "now", "--end", "+30m"]
 
 
+def texts(place):
+    latitude, longitude = place.split(",")
+    return {"latitude": f"{float(latitude):f}", "longitude": f"{float(longitude):f}"}
+
+
+def first_chosen(state):
+    first = state["favorites"][0]
+    return {"enable": "1", "latitude": first["latitude"], "longitude": first["longitude"]}
+
+
 def after(state, words):
-    """What the files hold when a command is done, of those that it may change."""
+    """What the files hold when a command is done, of those that it may change; of a drive some entries."""
     location, favorites = dict(state["location"] or {}), list(state["favorites"] or [])
     ticks = dict(state["whitelist"] or {})
     match words:
@@ -26,29 +36,6 @@ def after(state, words):
             return {"location": {**location, "enable": "0"}}
         case ["fixed", "drift", "on", "--speed", speed]:
             return {"location": {**location, "a": "1", "s": f"{float(speed):f}"}}
-
-
-def random_command(chance, number):
-    place = f"{chance.randrange(-80, 80)},{chance.randrange(-170, 170)}"
-    return chance.choice([
-        ["favorites", "add", f"place {number}", place], ["favorites", "remove", "1"],
-        ["whitelist", "toggle", f"app{chance.randrange(9)}"], ["fixed", "on", place], ["fixed", "off"],
-        ["fixed", "drift", "on", "--speed", f"0.{chance.randrange(1, 9)}"]])
-
-
-def texts(place):
-    latitude, longitude = place.split(",")
-    return {"latitude": f"{float(latitude):f}", "longitude": f"{float(longitude):f}"}
-
-
-def first_chosen(state):
-    first = state["favorites"][0]
-    return {"enable": "1", "latitude": first["latitude"], "longitude": first["longitude"]}
-
-
-def walked(state, words):
-    """The same for the commands of a walk; of dictionaries only some entries."""
-    match words:
         case ["mode", mode]:
             return {"master": {"mode": "1" if mode == "fixed" else "0"}}
         case ["route", "on", *_]:
@@ -59,11 +46,19 @@ def walked(state, words):
             return {"master": {"mode": "1"}, "location": first_chosen(state)}
         case ["fixed", "move", place]:
             return {"location": texts(place)}
-    return after(state, words)
+    return {}
+
+
+def random_command(chance, number):
+    place = f"{chance.randrange(-80, 80)},{chance.randrange(-170, 170)}"
+    return chance.choice([
+        ["favorites", "add", f"place {number}", place], ["favorites", "remove", "1"],
+        ["whitelist", "toggle", f"app{chance.randrange(9)}"], ["fixed", "on", place], ["fixed", "off"],
+        ["fixed", "drift", "on", "--speed", f"0.{chance.randrange(1, 9)}"]])
 
 
 def touched(state, touch, screen, switch):
-    """The same for a touch on a screen, whose switch then shows `switch`."""
+    """Some of that for a touch on a screen, whose switch then shows `switch`."""
     match touch.split(" ", 1):
         case ["enable"]:
             return {"location" if screen == "fixed" else "route": {"enable": switch}}
@@ -124,7 +119,7 @@ def walk(count, chance, root):
                 random_command(chance, number), ["mode", "fixed"], ["mode", "route"], DRIVE, DRIVE, ["route", "off"],
                 ["favorites", "choose", "1"], ["fixed", "move", place], ["fixed", "on", place]])
             is_done = root.run(*step).returncode == 0
-            wanted = walked(before, step) if is_done else {}
+            wanted = after(before, step) if is_done else {}
         else:
             step = random_touch(chance, number, window.shown()[0] == "modal")
             answer = window.do(step).split(" ")

@@ -53,7 +53,8 @@ void StatusText::update() {
   if (now == mShown) return;
   const bool onlyGoesOn = !now.isFailure && !mShown.isFailure && now.progress > mShown.progress &&
                           mShown.progress > 0 && now.progress < 1;
-  const bool isNew = now.text != std::exchange(mShown, std::move(now)).text;
+  const bool isNew = now.text != mShown.text;
+  mShown = std::move(now);
   Q_EMIT changed();
   if (isNew && !onlyGoesOn) Q_EMIT announced();
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <string>
-#include <string_view>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -23,14 +23,21 @@ struct Phrase {
   };
   struct Gap;
 
-  const char* key = "";
-  std::vector<Gap> gaps = {};
+  explicit Phrase(const char* phraseKey);
+  Phrase(const char* phraseKey, std::vector<Gap> inGaps);
+
+  const char* key;
+  std::vector<Gap> gaps;
 };
 
 /// A text stands there as it is, a phrase as the language says it.
 struct Phrase::Gap : std::variant<std::string, Number, Moment, Phrase> {
   using variant::variant;
 };
+
+inline Phrase::Phrase(const char* phraseKey) : key(phraseKey) {}
+inline Phrase::Phrase(const char* phraseKey, std::vector<Gap> inGaps)
+    : key(phraseKey), gaps(std::move(inGaps)) {}
 
 /// How a language says the parts of a phrase, UTF-8.
 class Wording {

@@ -87,7 +87,7 @@ void CommandLine::warn(const std::string& what) const {
 void CommandLine::warnOfDamage() const {
   for (const SettingsFile name : {SettingsFile::Master, SettingsFile::Location, SettingsFile::Route,
                                   SettingsFile::Favorites, SettingsFile::Whitelist}) {
-    const auto& damage = mFiles.file(name).damage();
+    const auto damage = mFiles.file(name).damage();
     if (!damage || !mNamed.insert(name).second) continue;
     warn(mFiles.path(name).string() + " is damaged and reads as nothing: " + damage->problem +
          (damage->keptAs.empty() ? "" : "; it was kept as " + damage->keptAs.string()));

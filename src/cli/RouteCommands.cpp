@@ -6,6 +6,7 @@
 #include "cli/TimeArgument.h"
 #include "route/RouteSimulation.h"
 #include "settings/ModeSwitch.h"
+#include "settings/Phrase.h"
 
 namespace wayloom {
 
@@ -23,12 +24,6 @@ DirectionsAnswer directionsNow(CommandLine& line, const DirectionsRequest& reque
   return std::move(*answer);
 }
 
-std::string distanceText(double metres) {
-  if (metres < 1000) return std::to_string(std::lround(metres)) + " m";
-  const long tenths = std::lround(metres / 100);
-  return std::to_string(tenths / 10) + '.' + std::to_string(tenths % 10) + " km";
-}
-
 std::string durationText(double seconds) {
   const long whole = std::lround(seconds);
   return whole < 60 ? std::to_string(whole) + " s"
@@ -38,9 +33,9 @@ std::string durationText(double seconds) {
 Answer summaryOf(const Route& route) {
   nlohmann::json points = nlohmann::json::array();
   for (const Coordinate& position : route.polyline) points.push_back(toJson(position));
-  return {distanceText(route.distanceMetres) + ", " + durationText(route.expectedSeconds) + ", " +
-              std::to_string(route.polyline.size()) + " points\nfrom " +
-              coordinateText(route.polyline.front()) + "\nto   " +
+  return {englishText(distancePhrase(route.distanceMetres)) + ", " +
+              durationText(route.expectedSeconds) + ", " + std::to_string(route.polyline.size()) +
+              " points\nfrom " + coordinateText(route.polyline.front()) + "\nto   " +
               coordinateText(route.polyline.back()),
           {{"metres", route.distanceMetres},
            {"seconds", route.expectedSeconds},

@@ -11,7 +11,7 @@ namespace wayloom {
 namespace {
 
 using Dictionary = PropertyList::Dictionary;
-constexpr auto kFatal = QAbstractItemModelTester::FailureReportingMode::Fatal;
+constexpr auto kFatalFault = QAbstractItemModelTester::FailureReportingMode::Fatal;
 
 /// A picture of one colour, as the home screen gives it.
 std::string square(const char* colour) {
@@ -27,7 +27,7 @@ class WhitelistScreenTest : public testing::Test {
     screen.view.engine()->addImageProvider(ApplicationIcons::providerName(),
                                            new ApplicationIcons(home));
     controller.emplace(screen.files, home);
-    new QAbstractItemModelTester(controller->appArray(), kFatal, controller->appArray());
+    new QAbstractItemModelTester(controller->appArray(), kFatalFault, controller->appArray());
     QObject::connect(&*controller, &ModalViewController::dismissed, [this] { dismissed = true; });
     ASSERT_TRUE(screen.show("WhitelistViewController",
                             {{"controller", QVariant::fromValue(&*controller)}}));

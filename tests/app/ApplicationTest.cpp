@@ -1,5 +1,4 @@
 #include <QtCore/QSettings>
-#include <QtTest/QAbstractItemModelTester>
 #include <QtTest/QTest>
 
 #include "app/AppDelegate.h"
@@ -7,14 +6,13 @@
 #include "map/MapView.h"
 #include "regions/RegionWriter.h"
 #include "settings/ModeSwitch.h"
+#include "tests/support/CheckedModel.h"
 #include "tests/support/TemporaryRoot.h"
 
 namespace wayloom {
 namespace {
 
 using Dictionary = PropertyList::Dictionary;
-constexpr auto kFatal = QAbstractItemModelTester::FailureReportingMode::Fatal;
-
 void collect(const QQuickItem* item, const QString& name, QList<const QQuickItem*>& found) {
   if (item->objectName() == name) found.append(item);
   for (const QQuickItem* child : item->childItems()) collect(child, name, found);
@@ -37,7 +35,7 @@ class ApplicationTest : public testing::Test {
     const QVariant modals = application->window().rootObject()->property("modals");
     auto* model = modals.value<QAbstractItemModel*>();
     ASSERT_NE(model, nullptr);
-    new QAbstractItemModelTester(model, kFatal, model);
+    checkModel(model);
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&application->window()));
   }
   void stop() {

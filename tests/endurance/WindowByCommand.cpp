@@ -2,7 +2,7 @@
 // by one on standard output when what it asked for is over: "done SCREEN SWITCH", with the screen
 // that was touched and what the touched switch then shows, "refused TEXT" after an alert, "failed
 // TEXT" when the status line says so, "cannot LINE"; "shown" by the screen, its switch and the
-// status line, "say LABEL" by its text.
+// status line, "say LABEL" by its text, "rows" by how many the list has.
 //   window_by_command ROOT REGIONS
 
 #include <cstdio>
@@ -27,6 +27,7 @@ class Commands {
   std::string answer(const std::string& line) {
     if (line == "shown") return shown();
     if (line.starts_with("say ")) return text(line.substr(4).c_str());
+    if (line == "rows") return std::to_string(mWindow.property("mainTableView", "count").toInt());
     mTouched = screen();
     const bool isRun = run(line);
     QCoreApplication::processEvents();

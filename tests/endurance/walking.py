@@ -107,6 +107,13 @@ def follow(root, window):
         check(seconds < 5, f"the files say {mode} {enable} {said}, the window {screen} {switch} {words}")
 
 
+def follow_list(root, window):
+    """Who touches a row means what stands there; so the walk waits until that is what the file says."""
+    begin = time.monotonic()
+    while window.do("rows") != str(len(root.read("favorites"))):
+        check(time.monotonic() - begin < 5, "the list does not follow its file")
+
+
 def walk(count, chance, root):
     for words in (["favorites", "add", "first", "3,4"], ["whitelist", "toggle", "app1"], ["fixed", "on", "1,2"]):
         check(root.run(*words).returncode == 0, f"{words} failed")
@@ -122,6 +129,8 @@ def walk(count, chance, root):
             wanted = after(before, step) if is_done else {}
         else:
             step = random_touch(chance, number, window.shown()[0] == "modal")
+            if step in ("choose", "remove") and window.do("rows") != "0":
+                follow_list(root, window)
             answer = window.do(step).split(" ")
             check(answer != [""], f"the window ended at step {number}, {step}")
             is_done = answer[0] == "done"

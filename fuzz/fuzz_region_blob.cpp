@@ -2,9 +2,9 @@
 
 #include "fuzz/Fuzzing.h"
 #include "regions/DrawingShape.h"
-#include "regions/RoadGraph.h"
-#include "regions/RoadGraphFile.h"
 #include "regions/ShapeBlob.h"
+#include "roads/RoadGraph.h"
+#include "roads/RoadGraphFile.h"
 
 using namespace wayloom;
 

@@ -4,8 +4,8 @@
 
 #include "GeoJson.h"
 #include "ReadFile.h"
-#include "regions/CarProfile.h"
-#include "regions/RoadGraphBuilder.h"
+#include "roads/CarProfile.h"
+#include "roads/RoadGraphBuilder.h"
 
 namespace wayloom {
 

@@ -1,6 +1,6 @@
 #include "import/ExtractRoads.h"
 
-#include "regions/CarAccess.h"
+#include "roads/CarAccess.h"
 
 namespace wayloom {
 

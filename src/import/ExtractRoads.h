@@ -5,7 +5,7 @@
 
 #include "import/Extract.h"
 #include "regions/Database.h"
-#include "regions/RoadGraphBuilder.h"
+#include "roads/RoadGraphBuilder.h"
 
 namespace wayloom {
 

@@ -6,7 +6,7 @@
 #include "regions/DrawingShape.h"
 #include "regions/PlaceIndex.h"
 #include "regions/RegionWriter.h"
-#include "regions/Router.h"
+#include "roads/Router.h"
 #include "tests/import/OsmText.h"
 #include "tests/regions/SmallIndex.h"
 

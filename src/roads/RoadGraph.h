@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "regions/GroundGeometry.h"
-#include "regions/RoadGraphComponents.h"
-#include "regions/RoadGraphFile.h"
-#include "regions/RoadGraphTree.h"
+#include "roads/RoadGraphComponents.h"
+#include "roads/RoadGraphFile.h"
+#include "roads/RoadGraphTree.h"
 
 namespace wayloom {
 

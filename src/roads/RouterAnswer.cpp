@@ -1,4 +1,4 @@
-#include "regions/RouterAnswer.h"
+#include "roads/RouterAnswer.h"
 
 #include <algorithm>
 #include <cmath>
@@ -8,7 +8,7 @@
 #include <unordered_set>
 #include <utility>
 
-#include "regions/RouterSearch.h"
+#include "roads/RouterSearch.h"
 
 namespace wayloom {
 

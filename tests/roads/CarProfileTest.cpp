@@ -1,4 +1,4 @@
-#include "regions/CarProfile.h"
+#include "roads/CarProfile.h"
 
 namespace wayloom {
 namespace {

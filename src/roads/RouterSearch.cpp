@@ -1,4 +1,4 @@
-#include "regions/RouterSearch.h"
+#include "roads/RouterSearch.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,9 +1,9 @@
 #include <random>
 
-#include "regions/RoadGraphBuilder.h"
-#include "regions/RoadGraphFile.h"
-#include "regions/RouterAnswer.h"
-#include "tests/regions/AsciiRoads.h"
+#include "roads/RoadGraphBuilder.h"
+#include "roads/RoadGraphFile.h"
+#include "roads/RouterAnswer.h"
+#include "tests/roads/AsciiRoads.h"
 
 namespace wayloom {
 namespace {

@@ -3,8 +3,8 @@
 #include <set>
 
 #include "regions/RegionStore.h"
-#include "regions/RoadGraph.h"
-#include "regions/RouterAnswer.h"
+#include "roads/RoadGraph.h"
+#include "roads/RouterAnswer.h"
 
 namespace wayloom {
 namespace {

@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "geo/Route.h"
-#include "regions/RoadGraph.h"
+#include "roads/RoadGraph.h"
 #include "settings/Result.h"
 
 namespace wayloom {

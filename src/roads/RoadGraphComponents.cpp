@@ -1,4 +1,4 @@
-#include "regions/RoadGraphComponents.h"
+#include "roads/RoadGraphComponents.h"
 
 #include <algorithm>
 #include <limits>

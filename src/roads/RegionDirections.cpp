@@ -1,4 +1,4 @@
-#include "regions/RegionDirections.h"
+#include "roads/RegionDirections.h"
 
 #include <utility>
 

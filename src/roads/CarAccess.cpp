@@ -1,4 +1,4 @@
-#include "regions/CarAccess.h"
+#include "roads/CarAccess.h"
 
 namespace wayloom {
 

@@ -1,4 +1,4 @@
-#include "regions/RoadGraph.h"
+#include "roads/RoadGraph.h"
 
 #include <algorithm>
 #include <cmath>

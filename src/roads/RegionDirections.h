@@ -4,7 +4,7 @@
 #include "platform/MainQueue.h"
 #include "regions/RegionQuestions.h"
 #include "regions/RegionStore.h"
-#include "regions/Router.h"
+#include "roads/Router.h"
 
 namespace wayloom {
 

@@ -3,9 +3,9 @@
 #include <cstddef>
 #include <vector>
 
-#include "regions/CarProfile.h"
 #include "regions/GroundGeometry.h"
-#include "regions/RoadGraphFile.h"
+#include "roads/CarProfile.h"
+#include "roads/RoadGraphFile.h"
 
 namespace wayloom {
 

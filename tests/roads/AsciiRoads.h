@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "regions/RoadGraph.h"
-#include "regions/RoadGraphBuilder.h"
+#include "roads/RoadGraph.h"
+#include "roads/RoadGraphBuilder.h"
 
 namespace wayloom {
 

@@ -1,9 +1,9 @@
 #include <memory>
 
 #include "platform/RunLoop.h"
-#include "regions/RegionDirections.h"
 #include "regions/RegionWriter.h"
-#include "tests/regions/AsciiRoads.h"
+#include "roads/RegionDirections.h"
+#include "tests/roads/AsciiRoads.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace wayloom {

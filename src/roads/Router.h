@@ -6,7 +6,7 @@
 
 #include "geo/Route.h"
 #include "regions/RegionStore.h"
-#include "regions/RoadGraph.h"
+#include "roads/RoadGraph.h"
 
 namespace wayloom {
 

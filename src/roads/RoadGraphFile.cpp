@@ -1,4 +1,4 @@
-#include "regions/RoadGraphFile.h"
+#include "roads/RoadGraphFile.h"
 
 #include <cmath>
 #include <string_view>

@@ -1,4 +1,4 @@
-#include "regions/RoadGraphBuilder.h"
+#include "roads/RoadGraphBuilder.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -1,4 +1,4 @@
-#include "regions/CarProfile.h"
+#include "roads/CarProfile.h"
 
 #include <algorithm>
 #include <array>
@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "regions/CarAccess.h"
+#include "roads/CarAccess.h"
 
 namespace wayloom {
 

@@ -1,9 +1,9 @@
 #include <random>
 
 #include "regions/RegionWriter.h"
-#include "regions/Router.h"
-#include "regions/RouterAnswer.h"
-#include "tests/regions/AsciiRoads.h"
+#include "roads/Router.h"
+#include "roads/RouterAnswer.h"
+#include "tests/roads/AsciiRoads.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace wayloom {

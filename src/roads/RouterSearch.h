@@ -4,7 +4,7 @@
 #include <optional>
 #include <vector>
 
-#include "regions/RoadGraph.h"
+#include "roads/RoadGraph.h"
 
 namespace wayloom {
 

@@ -1,11 +1,11 @@
-#include "regions/Router.h"
+#include "roads/Router.h"
 
 #include <algorithm>
 #include <limits>
 #include <utility>
 
 #include "regions/GroundGeometry.h"
-#include "regions/RouterAnswer.h"
+#include "roads/RouterAnswer.h"
 
 namespace wayloom {
 

@@ -1,4 +1,4 @@
-#include "regions/RoadGraphTree.h"
+#include "roads/RoadGraphTree.h"
 
 #include <algorithm>
 #include <utility>

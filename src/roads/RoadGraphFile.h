@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "geo/Coordinate.h"
-#include "regions/CarProfile.h"
 #include "regions/Database.h"
+#include "roads/CarProfile.h"
 
 namespace wayloom {
 

@@ -6,6 +6,7 @@
 #include "ReadFile.h"
 #include "roads/CarProfile.h"
 #include "roads/RoadGraphBuilder.h"
+#include "roads/RoadGraphFile.h"
 
 namespace wayloom {
 

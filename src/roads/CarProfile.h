@@ -16,6 +16,8 @@ struct RoadUse {
   std::uint8_t kmPerHour = 50;
   /// Over water: nobody gets on or off on the way.
   bool isFerry = false;
+  /// One drives on its left side.
+  bool keepsLeft = false;
 
   bool operator==(const RoadUse&) const = default;
 };

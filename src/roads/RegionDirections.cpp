@@ -11,7 +11,9 @@ constexpr int kAlternates = 2;
 
 DirectionsAnswer answerTo(const DirectionsRequest& request, Router& router) {
   const int alternates = request.requestsAlternateRoutes ? kAlternates : 0;
-  auto routes = router.plan(request.source, request.destination, alternates);
+  std::optional<RoadTime> start;
+  if (request.startTime) start = roadTime(*request.startTime);
+  auto routes = router.plan(request.source, request.destination, alternates, start);
   if (!routes) return {{}, routes.message()};
   return {std::move(*routes), std::nullopt};
 }

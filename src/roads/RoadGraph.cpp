@@ -2,10 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
-#include <map>
 #include <numbers>
 #include <numeric>
-#include <set>
 #include <utility>
 
 namespace wayloom {
@@ -30,7 +28,33 @@ double metresTo(const Line& line, std::size_t position) {
   return metres;
 }
 
+// Where a line heads at its beginning: to the first position that is another.
+template <typename Iterator>
+Heading headingAlong(Iterator begin, Iterator end) {
+  const auto next = std::find_if(begin, end, [&](Coordinate each) { return each != *begin; });
+  if (next == end) return {};
+  const double east = (next->longitude - begin->longitude) * std::cos(begin->latitude * kRadians);
+  const double north = next->latitude - begin->latitude;
+  const double length = std::hypot(east, north);
+  if (!(length > 0)) return {};
+  return {static_cast<float>(east / length), static_cast<float>(north / length)};
+}
+
 }  // namespace
+
+Coordinate positionAlong(const Line& line, double metres) {
+  for (std::size_t at = 1; at < line.size(); ++at) {
+    const double step = distanceMetres(line[at - 1], line[at]);
+    if (metres > step) {
+      metres -= step;
+      continue;
+    }
+    const double share = step > 0 ? std::max(metres, 0.0) / step : 0;
+    return {std::lerp(line[at - 1].latitude, line[at].latitude, share),
+            std::lerp(line[at - 1].longitude, line[at].longitude, share)};
+  }
+  return line.back();
+}
 
 SpacePoint spaceOf(Coordinate coordinate) {
   const double latitude = coordinate.latitude * kRadians;
@@ -40,126 +64,141 @@ SpacePoint spaceOf(Coordinate coordinate) {
           kEarthRadiusMetres * std::sin(latitude)};
 }
 
-double chordMetres(const SpacePoint& a, const SpacePoint& b) {
-  const double x = a[0] - b[0];
-  const double y = a[1] - b[1];
-  const double z = a[2] - b[2];
-  return std::sqrt(x * x + y * y + z * z);
-}
-
-RoadGraph::RoadGraph(RoadNetwork network) : mNetwork(std::move(network)) {
+RoadGraph::RoadGraph(RoadNetwork network)
+    : mNetwork(std::move(network)), mRules(mNetwork.rules, 2 * mNetwork.edges.size()) {
   measure();
-  findArcs();
-  mComponents = RoadGraphComponents(mArcs);
+  findBlindArcs();
+  findArrivals();
+  findDepartures();
+  findThroughArcs();
+  std::vector<std::uint32_t> heads;
+  heads.reserve(mDepartures.size());
+  for (const Departure& departure : mDepartures) {
+    heads.push_back(mArrivals[departure.arc].junction);
+  }
+  mComponents = RoadGraphComponents({mFirst, heads});
 }
 
 void RoadGraph::measure() {
-  mSpace.reserve(junctionCount());
+  mSpace.reserve(mNetwork.junctions.size());
   for (const RoadPoint& junction : mNetwork.junctions) {
     mSpace.push_back(spaceOf(coordinateOf(junction)));
   }
   std::vector<RegionBounds> boxes;
   boxes.reserve(edges().size());
   mMetres.reserve(edges().size());
+  mHeadings.reserve(2 * edges().size());
   for (std::uint32_t edge = 0; edge < edges().size(); ++edge) {
     const Line positions = line(edge);
     mMetres.push_back(metresTo(positions, positions.size() - 1));
+    mHeadings.push_back(headingAlong(positions.begin(), positions.end()));
+    mHeadings.push_back(headingAlong(positions.rbegin(), positions.rend()));
     boxes.push_back(boundsOf(positions));
     mFastest = std::max(mFastest, metresPerSecond(edges()[edge].use));
   }
   mTree = RoadGraphTree(std::move(boxes));
 }
 
-void RoadGraph::findArcs() {
+// Takes away what ends in a dead end, again and again. Nobody turns round on a ferry, so what lies
+// behind one stays.
+void RoadGraph::findBlindArcs() {
+  mIsBlind.assign(2 * edges().size(), false);
+  std::vector<std::uint32_t> roadsAt(mNetwork.junctions.size());
+  // The exclusive or of the roads that are left: the road, once it is one.
+  std::vector<std::uint32_t> lastAt(mNetwork.junctions.size());
+  for (std::uint32_t edge = 0; edge < edges().size(); ++edge) {
+    for (const std::uint32_t junction : {edges()[edge].from, edges()[edge].to}) {
+      ++roadsAt[junction];
+      lastAt[junction] ^= edge;
+    }
+  }
+  for (std::uint32_t first = 0; first < roadsAt.size(); ++first) {
+    for (std::uint32_t junction = first; roadsAt[junction] == 1;) {
+      const RoadEdge& edge = edges()[lastAt[junction]];
+      if (edge.use.isFerry) break;
+      const RoadArc blind = roadArc(lastAt[junction], edge.to == junction);
+      mIsBlind[blind] = true;
+      mBlindArcs.emplace(junction, blind);
+      roadsAt[junction] = 0;
+      junction = mNetwork.tail(blind);
+      --roadsAt[junction];
+      lastAt[junction] ^= edgeOf(blind);
+    }
+  }
+}
+
+std::vector<RoadArc> RoadGraph::blindArcsTo(const RoadSpot& spot) const {
   std::vector<RoadArc> arcs;
-  std::vector<std::uint32_t> sources;
-  arcs.reserve(2 * edges().size());
-  sources.reserve(2 * edges().size());
-  for (std::uint32_t number = 0; number < edges().size(); ++number) {
-    const RoadEdge& edge = edges()[number];
-    const auto taken = static_cast<float>(seconds(number));
-    const bool residents = edge.use.destinationOnly;
-    if (edge.use.forward) {
-      arcs.push_back({edge.to, number, taken, true, residents});
-      sources.push_back(edge.from);
-    }
-    if (edge.use.backward) {
-      arcs.push_back({edge.from, number, taken, false, residents});
-      sources.push_back(edge.to);
+  const RoadEdge& edge = edges()[spot.edge];
+  // The road itself leads to one of its ends, if it is blind.
+  for (const std::uint32_t end : {edge.from, edge.to}) {
+    for (auto found = mBlindArcs.find(end); found != mBlindArcs.end();
+         found = mBlindArcs.find(mNetwork.tail(found->second))) {
+      arcs.push_back(found->second);
     }
   }
-  mJunctionOf.resize(junctionCount());
-  std::iota(mJunctionOf.begin(), mJunctionOf.end(), 0U);
-  if (!mNetwork.turns.empty()) addTurnNodes(arcs, sources);
-
-  mArcs.first.assign(nodeCount() + 1, 0);
-  for (const std::uint32_t source : sources) ++mArcs.first[source + 1];
-  std::partial_sum(mArcs.first.begin(), mArcs.first.end(), mArcs.first.begin());
-  mArcs.all.resize(arcs.size());
-  std::vector<std::uint32_t> next(mArcs.first);
-  for (std::size_t arc = 0; arc < arcs.size(); ++arc) mArcs.all[next[sources[arc]]++] = arcs[arc];
+  return arcs;
 }
 
-void RoadGraph::addTurnNodes(std::vector<RoadArc>& arcs, std::vector<std::uint32_t>& sources) {
-  // By junction and the edge on which one comes.
-  std::map<std::pair<std::uint32_t, std::uint32_t>, std::set<std::uint32_t>> forbidden;
-  for (const ForbiddenTurn& turn : mNetwork.turns) {
-    forbidden[{turn.junction, turn.fromEdge}].insert(turn.toEdge);
+void RoadGraph::findArrivals() {
+  std::vector<std::uint8_t> roadsAt(mNetwork.junctions.size());
+  for (const RoadEdge& edge : edges()) {
+    ++roadsAt[edge.from];
+    ++roadsAt[edge.to];
   }
-  std::map<std::pair<std::uint32_t, std::uint32_t>, std::uint32_t> nodes;
-  for (const auto& [coming, edges] : forbidden) {
-    const auto node = static_cast<std::uint32_t>(nodeCount());
-    nodes.emplace(coming, node);
-    mJunctionOf.push_back(coming.first);
-    mTurnNodes.push_back(node);
-    mSpace.push_back(SpacePoint(mSpace[coming.first]));
-  }
-  std::map<std::uint32_t, std::vector<std::size_t>> leaving;
-  for (const auto& [coming, edges] : forbidden) leaving[coming.first];
-  for (std::size_t arc = 0; arc < arcs.size(); ++arc) {
-    const auto found = leaving.find(sources[arc]);
-    if (found != leaving.end()) found->second.push_back(arc);
-    const auto node = nodes.find({arcs[arc].target, arcs[arc].edge});
-    if (node != nodes.end()) arcs[arc].target = node->second;
-  }
-  for (const auto& [coming, edges] : forbidden) {
-    for (const std::size_t arc : leaving[coming.first]) {
-      if (edges.contains(arcs[arc].edge)) continue;
-      arcs.push_back(RoadArc(arcs[arc]));
-      sources.push_back(nodes[coming]);
-    }
+  mArrivals.reserve(2 * edges().size());
+  for (RoadArc arc = 0; arc < 2 * edges().size(); ++arc) {
+    const RoadEdge& edge = edges()[edgeOf(arc)];
+    const std::uint32_t head = mNetwork.head(arc);
+    const Heading back = mHeadings[reversed(arc)];
+    mArrivals.push_back({head,
+                         {-back.east, -back.north},
+                         isForward(arc) ? edge.signalAtEnd : edge.signalAtBegin,
+                         edge.use.keepsLeft,
+                         roadsAt[head] == 1,
+                         roadsAt[head] > 2,
+                         edge.use.isFerry || mRules.isBound(arc)});
   }
 }
 
-std::span<const std::uint32_t> RoadGraph::turnNodes(std::uint32_t junction) const {
-  const auto before = [this](std::uint32_t a, std::uint32_t b) {
-    return mJunctionOf[a] < mJunctionOf[b];
-  };
-  // A junction is its own node, so it can be compared with the others.
-  const auto [first, last] =
-      std::equal_range(mTurnNodes.begin(), mTurnNodes.end(), junction, before);
-  return {first, last};
+void RoadGraph::findDepartures() {
+  mFirst.assign(mNetwork.junctions.size() + 1, 0);
+  const auto arcCount = static_cast<RoadArc>(2 * edges().size());
+  for (RoadArc arc = 0; arc < arcCount; ++arc) {
+    if (mNetwork.mayDrive(arc)) ++mFirst[mNetwork.tail(arc) + 1];
+  }
+  std::partial_sum(mFirst.begin(), mFirst.end(), mFirst.begin());
+  mDepartures.resize(mFirst.back());
+  std::vector<std::uint32_t> next(mFirst);
+  for (RoadArc arc = 0; arc < arcCount; ++arc) {
+    if (!mNetwork.mayDrive(arc)) continue;
+    const std::uint32_t edge = edgeOf(arc);
+    const double factor = edges()[edge].use.destinationOnly ? kResidentsFactor : 1;
+    mDepartures[next[mNetwork.tail(arc)]++] = {arc,
+                                               static_cast<float>(seconds(edge) * factor),
+                                               mHeadings[arc],
+                                               mArrivals[arc].junction,
+                                               mIsBlind[arc],
+                                               false};
+  }
 }
 
-const RoadArc* RoadGraph::arcOf(std::uint32_t edge, bool isForward) const {
-  const RoadEdge& road = edges()[edge];
-  for (const RoadArc& arc : arcs(isForward ? road.from : road.to)) {
-    if (arc.edge == edge && arc.isForward == isForward) return &arc;
+void RoadGraph::findThroughArcs() {
+  for (Departure& departure : mDepartures) {
+    const auto onward = departures(departure.head);
+    const auto isOpen = [&](const Departure& each) {
+      return !each.isBlind && each.arc != reversed(departure.arc);
+    };
+    departure.isThrough = !mArrivals[departure.arc].isBound &&
+                          std::count_if(onward.begin(), onward.end(), isOpen) == 1;
   }
-  return nullptr;
 }
 
 Line RoadGraph::line(std::uint32_t edge) const {
-  const RoadEdge& road = edges()[edge];
-  const std::size_t end =
-      edge + 1 < edges().size() ? edges()[edge + 1].firstBend : mNetwork.bends.size();
   Line line;
-  line.reserve(end - road.firstBend + 2);
-  line.push_back(coordinateOf(mNetwork.junctions[road.from]));
-  for (std::size_t bend = road.firstBend; bend < end; ++bend) {
-    line.push_back(coordinateOf(mNetwork.bends[bend]));
-  }
-  line.push_back(coordinateOf(mNetwork.junctions[road.to]));
+  const auto points = mNetwork.points(edge);
+  line.reserve(points.size());
+  for (const RoadPoint& point : points) line.push_back(coordinateOf(point));
   return line;
 }
 
@@ -172,16 +211,17 @@ std::optional<RoadSpot> RoadGraph::spotOn(std::uint32_t edge, Coordinate positio
   const Line positions = line(edge);
   const NearestSpot nearest = nearestSpot(position, positions);
   if (nearest.metres > radiusMetres) return std::nullopt;
-  RoadSpot spot{edge, nearest.coordinate, nearest.position + 1, 0, nearest.metres};
+  RoadSpot spot{edge, nearest.coordinate, 0, nearest.metres};
+  std::size_t before = nearest.position;
   for (std::size_t next = nearest.position; next < positions.size(); ++next) {
     if (next > nearest.position + 1) break;
     if (distanceMetres(positions[next], nearest.coordinate) > kSameSpotMetres) continue;
     spot.coordinate = positions[next];
-    spot.passed = next + 1;
+    before = next;
     break;
   }
-  spot.alongMetres = metresTo(positions, spot.passed - 1) +
-                     distanceMetres(positions[spot.passed - 1], spot.coordinate);
+  spot.alongMetres =
+      metresTo(positions, before) + distanceMetres(positions[before], spot.coordinate);
   spot.alongMetres = std::min(spot.alongMetres, mMetres[edge]);
   return spot;
 }
@@ -209,26 +249,15 @@ std::optional<std::uint32_t> RoadGraph::junctionAt(const RoadSpot& spot) const {
 
 RoadSpotPlace RoadGraph::placeOf(const RoadSpot& spot) const {
   RoadSpotPlace place;
-  const auto enter = [&](std::uint32_t junction, std::optional<std::uint32_t> edge) {
-    const auto addNode = [&](std::uint32_t node) {
-      const auto leaving = arcs(node);
-      const bool isOpen = !edge || std::any_of(leaving.begin(), leaving.end(),
-                                               [&](const auto& arc) { return arc.edge == *edge; });
-      if (isOpen) place.entries.push_back(mComponents.of(node));
-    };
-    addNode(junction);
-    for (const std::uint32_t node : turnNodes(junction)) addNode(node);
-  };
   if (const auto junction = junctionAt(spot)) {
     place.exits.push_back(mComponents.of(*junction));
-    enter(*junction, std::nullopt);
-  } else {
-    for (const bool isForward : {true, false}) {
-      const RoadArc* arc = arcOf(spot.edge, isForward);
-      if (!arc) continue;
-      place.exits.push_back(mComponents.of(arc->target));
-      enter(isForward ? edges()[spot.edge].from : edges()[spot.edge].to, spot.edge);
-    }
+    place.entries = place.exits;
+    return place;
+  }
+  for (const RoadArc arc : {roadArc(spot.edge, true), roadArc(spot.edge, false)}) {
+    if (!mNetwork.mayDrive(arc)) continue;
+    place.exits.push_back(mComponents.of(mNetwork.head(arc)));
+    place.entries.push_back(mComponents.of(mNetwork.tail(arc)));
   }
   for (auto* components : {&place.exits, &place.entries}) {
     std::sort(components->begin(), components->end());

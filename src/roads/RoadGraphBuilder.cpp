@@ -2,63 +2,77 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <set>
+#include <numeric>
+#include <optional>
 #include <unordered_map>
 
 namespace wayloom {
 
 namespace {
 
-struct PointHash {
-  std::size_t operator()(RoadPoint point) const {
-    const auto key = static_cast<std::uint64_t>(static_cast<std::uint32_t>(point.longitude)) << 32 |
-                     static_cast<std::uint32_t>(point.latitude);
-    return std::hash<std::uint64_t>()(key * 0x9E3779B97F4A7C15U);
-  }
-};
-
-// More than meet anywhere. Where thousands did, the turns from each to each would take gigabytes.
-constexpr std::size_t kMostRoadsAtATurn = 64;
-
-using Points = std::vector<RoadPoint>;
-using Numbers = std::unordered_map<RoadPoint, std::uint32_t, PointHash>;
+using Node = std::int64_t;
 
 /// A part of a way from one junction to the next.
 struct Stretch {
-  Points points;
-  RoadUse use;
+  std::vector<RoadPoint> points;
+  Node from = 0;
+  Node to = 0;
   std::size_t way = 0;
 };
 
-Points pointsOf(const RoadWay& way) {
-  Points points;
-  for (const Coordinate& position : way.line) {
-    const RoadPoint point = roadPoint(position);
-    if (points.empty() || point != points.back()) points.push_back(point);
-  }
-  return points;
+std::uint64_t packed(RoadPoint point) {
+  return static_cast<std::uint64_t>(static_cast<std::uint32_t>(point.longitude)) << 32 |
+         static_cast<std::uint32_t>(point.latitude);
 }
 
-std::vector<Stretch> stretches(const std::vector<RoadWay>& ways,
-                               const std::set<RoadPoint>& barriers) {
-  std::vector<Points> lines;
-  Numbers uses;
-  for (const RoadWay& way : ways) {
-    const Points& points = lines.emplace_back(pointsOf(way));
-    for (const RoadPoint& point : points) ++uses[point];
+struct NodeHash {
+  std::size_t operator()(Node node) const {
+    return static_cast<std::size_t>(static_cast<std::uint64_t>(node) * 0x9E3779B97F4A7C15U >> 16);
   }
-  for (const RoadPoint& barrier : barriers) uses[barrier] += 2;
+};
+template <typename Value>
+using ByNode = std::unordered_map<Node, Value, NodeHash>;
+
+/// A way node by node, none twice in a row.
+struct Course {
+  explicit Course(const RoadWay& way) {
+    for (std::size_t at = 0; at < way.line.size(); ++at) {
+      const Node node = way.nodes.empty() ? roadNodeAt(way.line[at]) : way.nodes[at];
+      if (!nodes.empty() && nodes.back() == node) continue;
+      nodes.push_back(node);
+      points.push_back(roadPoint(way.line[at]));
+    }
+  }
+
+  Stretch part(std::size_t begin, std::size_t end, std::size_t way) const {
+    return {{points.begin() + static_cast<std::ptrdiff_t>(begin),
+             points.begin() + static_cast<std::ptrdiff_t>(end) + 1},
+            nodes[begin],
+            nodes[end],
+            way};
+  }
+
+  std::vector<Node> nodes;
+  std::vector<RoadPoint> points;
+};
+
+std::vector<Stretch> stretches(const std::vector<RoadWay>& ways, const RoadRules& rules) {
+  std::vector<Course> courses;
+  courses.reserve(ways.size());
+  ByNode<std::uint32_t> uses;
+  for (const RoadWay& way : ways) {
+    for (const Node node : courses.emplace_back(way).nodes) ++uses[node];
+  }
+  for (const Node node : rules.barriers) uses[node] += 2;
+  for (const auto& [node, signal] : rules.signals) uses[node] += 2;
   std::vector<Stretch> result;
   for (std::size_t way = 0; way < ways.size(); ++way) {
-    const Points& points = lines[way];
+    const Course& course = courses[way];
     std::size_t begin = 0;
-    for (std::size_t index = 1; index < points.size(); ++index) {
-      if (index + 1 < points.size() && uses[points[index]] < 2) continue;
-      result.push_back({{points.begin() + static_cast<std::ptrdiff_t>(begin),
-                         points.begin() + static_cast<std::ptrdiff_t>(index) + 1},
-                        ways[way].use,
-                        way});
-      begin = index;
+    for (std::size_t at = 1; at < course.nodes.size(); ++at) {
+      if (at + 1 < course.nodes.size() && uses[course.nodes[at]] < 2) continue;
+      result.push_back(course.part(begin, at, way));
+      begin = at;
     }
   }
   return result;
@@ -83,90 +97,108 @@ std::uint64_t placeInOrder(RoadPoint point) {
 // The network in the making, and which way each edge is of.
 class Network {
  public:
-  explicit Network(const std::set<RoadPoint>& barriers) : mBarriers(barriers) {}
+  Network(const std::vector<RoadWay>& ways, const RoadRules& rules) : mWays(ways), mRules(rules) {}
 
   void add(const Stretch& part) {
-    const std::uint32_t from = junction(part.points.front());
-    const std::uint32_t to = junction(part.points.back());
-    mNetwork.edges.push_back(
-        {from, to, static_cast<std::uint32_t>(mNetwork.bends.size()), part.use});
+    const RoadWay& way = mWays[part.way];
+    RoadEdge edge;
+    edge.from = junction(part.from, part.points.front(), way);
+    edge.to = junction(part.to, part.points.back(), way);
+    edge.firstBend = static_cast<std::uint32_t>(mNetwork.bends.size());
+    edge.use = way.use;
+    const auto atEnd = mRules.signals.find(part.to);
+    edge.signalAtEnd = atEnd != mRules.signals.end() && atEnd->second.forward;
+    const auto atBegin = mRules.signals.find(part.from);
+    edge.signalAtBegin = atBegin != mRules.signals.end() && atBegin->second.backward;
+    mNetwork.edges.push_back(edge);
     mNetwork.bends.insert(mNetwork.bends.end(), part.points.begin() + 1, part.points.end() - 1);
-    mWays.push_back(part.way);
   }
 
-  void forbid(const std::vector<RoadRules::Turn>& turns) {
-    for (std::uint32_t edge = 0; edge < mWays.size(); ++edge) {
-      mEdgesAt[mNetwork.edges[edge].from].push_back(edge);
-      if (mNetwork.edges[edge].to != mNetwork.edges[edge].from) {
-        mEdgesAt[mNetwork.edges[edge].to].push_back(edge);
+  /// `edges` are numbers of edges in the order of the ways.
+  void restrict(const std::vector<std::pair<std::size_t, std::uint32_t>>& edges) {
+    RestrictionFitter::WayEdges wayEdges;
+    for (const RoadRestriction& each : mRules.restrictions) {
+      for (const auto* numbers : {&each.from, &each.viaWays, &each.to}) {
+        for (const std::int64_t number : *numbers) wayEdges[number];
       }
     }
-    for (const RoadRules::Turn& turn : turns) forbid(turn);
-    std::sort(mNetwork.turns.begin(), mNetwork.turns.end());
-    mNetwork.turns.erase(std::unique(mNetwork.turns.begin(), mNetwork.turns.end()),
-                         mNetwork.turns.end());
+    for (const auto& [way, edge] : edges) {
+      const auto found = wayEdges.find(mWays[way].number);
+      if (found != wayEdges.end()) found->second.push_back(edge);
+    }
+    std::erase_if(wayEdges, [](const auto& each) { return each.second.empty(); });
+    const RestrictionFitter fitter(mNetwork, wayEdges);
+    for (const RoadRestriction& each : mRules.restrictions) restrict(fitter, each);
+    auto& rules = mNetwork.rules;
+    std::sort(rules.begin(), rules.end());
+    rules.erase(std::unique(rules.begin(), rules.end()), rules.end());
   }
 
   RoadNetwork take() { return std::move(mNetwork); }
+  const RoadFaults& faults() const { return mFaults; }
 
  private:
-  // Nothing leads from one side of a barrier to the other: each road ends there by itself.
-  std::uint32_t junction(RoadPoint point) {
-    const auto next = static_cast<std::uint32_t>(mNetwork.junctions.size());
-    if (mBarriers.contains(point)) {
+  // Nobody passes a barrier, so each road that reaches it ends at a junction of its own.
+  std::uint32_t junction(Node node, RoadPoint point, const RoadWay& way) {
+    const bool isBarrier = mRules.barriers.contains(node);
+    const auto fresh = static_cast<std::uint32_t>(mNetwork.junctions.size());
+    std::uint32_t number = isBarrier ? fresh : mJunctions.emplace(node, fresh).first->second;
+    const bool isFull = number != fresh && mRoadsAt[number] >= kMostRoadsAtAJunction;
+    mFaults.unjoinedRoads += isFull ? 1 : 0;
+    if (isFull) number = fresh;
+    if (number == fresh) {
       mNetwork.junctions.push_back(point);
-      return next;
+      mNetwork.numbers.push_back(isBarrier || isFull || way.nodes.empty() ? 0 : node);
+      mRoadsAt.push_back(0);
     }
-    const auto [found, isNew] = mJunctions.emplace(point, next);
-    if (isNew) mNetwork.junctions.push_back(point);
-    return found->second;
+    ++mRoadsAt[number];
+    return number;
   }
 
-  std::vector<std::uint32_t> edgesOf(std::size_t way, std::uint32_t at) {
-    std::vector<std::uint32_t> edges;
-    for (const std::uint32_t edge : mEdgesAt[at]) {
-      if (mWays[edge] == way) edges.push_back(edge);
+  void restrict(const RestrictionFitter& fitter, const RoadRestriction& restriction) {
+    std::optional<std::uint32_t> via;
+    if (restriction.viaNode) {
+      const auto found = mJunctions.find(*restriction.viaNode);
+      // No road that cars use leads there.
+      if (found == mJunctions.end()) return;
+      via = found->second;
     }
-    return edges;
+    if (!fitter.fit(restriction, via, mNetwork.rules)) ++mFaults.unfitRestrictions;
   }
 
-  void forbid(const RoadRules::Turn& turn) {
-    const auto via = mJunctions.find(roadPoint(turn.via));
-    if (via == mJunctions.end() || mEdgesAt[via->second].size() > kMostRoadsAtATurn) return;
-    const auto from = edgesOf(turn.fromWay, via->second);
-    const auto to = edgesOf(turn.toWay, via->second);
-    if (from.size() != 1 || to.size() != 1) return;
-    if (!turn.isOnly) {
-      mNetwork.turns.push_back({from.front(), via->second, to.front()});
-      return;
-    }
-    for (const std::uint32_t edge : mEdgesAt[via->second]) {
-      if (edge != to.front()) mNetwork.turns.push_back({from.front(), via->second, edge});
-    }
-  }
-
-  const std::set<RoadPoint>& mBarriers;
+  const std::vector<RoadWay>& mWays;
+  const RoadRules& mRules;
   RoadNetwork mNetwork;
-  Numbers mJunctions;
-  std::vector<std::size_t> mWays;
-  std::unordered_map<std::uint32_t, std::vector<std::uint32_t>> mEdgesAt;
+  ByNode<std::uint32_t> mJunctions;
+  std::vector<std::uint8_t> mRoadsAt;
+  RoadFaults mFaults;
 };
 
 }  // namespace
 
-RoadNetwork roadNetwork(const std::vector<RoadWay>& ways, const RoadRules& rules) {
-  std::set<RoadPoint> barriers;
-  for (const Coordinate& barrier : rules.barriers) barriers.insert(roadPoint(barrier));
-  std::vector<Stretch> parts = stretches(ways, barriers);
+std::int64_t roadNodeAt(Coordinate position) {
+  return static_cast<std::int64_t>(packed(roadPoint(position)));
+}
+
+RoadNetwork roadNetwork(const std::vector<RoadWay>& ways, const RoadRules& rules,
+                        RoadFaults* faults) {
+  const std::vector<Stretch> parts = stretches(ways, rules);
   // Neighbours in the file are neighbours on the ground: the index of the edges relies on it, and
   // a search then reads little memory.
-  std::stable_sort(parts.begin(), parts.end(), [](const Stretch& a, const Stretch& b) {
-    return placeInOrder(a.points[a.points.size() / 2]) <
-           placeInOrder(b.points[b.points.size() / 2]);
+  std::vector<std::size_t> order(parts.size());
+  std::iota(order.begin(), order.end(), std::size_t{0});
+  std::stable_sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
+    return placeInOrder(parts[a].points[parts[a].points.size() / 2]) <
+           placeInOrder(parts[b].points[parts[b].points.size() / 2]);
   });
-  Network network(barriers);
-  for (const Stretch& part : parts) network.add(part);
-  if (!rules.turns.empty()) network.forbid(rules.turns);
+  Network network(ways, rules);
+  std::vector<std::pair<std::size_t, std::uint32_t>> edges(parts.size());
+  for (std::uint32_t edge = 0; edge < order.size(); ++edge) {
+    network.add(parts[order[edge]]);
+    edges[order[edge]] = {parts[order[edge]].way, edge};
+  }
+  if (!rules.restrictions.empty()) network.restrict(edges);
+  if (faults) *faults = network.faults();
   return network.take();
 }
 

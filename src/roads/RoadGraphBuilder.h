@@ -1,11 +1,13 @@
 #pragma once
 
 #include <cstddef>
+#include <map>
+#include <set>
 #include <vector>
 
 #include "regions/GroundGeometry.h"
-#include "roads/CarProfile.h"
-#include "roads/RoadGraphFile.h"
+#include "roads/RoadNetwork.h"
+#include "roads/RoadRestriction.h"
 
 namespace wayloom {
 
@@ -13,27 +15,41 @@ namespace wayloom {
 struct RoadWay {
   Line line;
   RoadUse use;
+  /// By which restrictions name it; parts of one way share it.
+  std::int64_t number = 0;
+  /// The node of each position. Without nodes, ways are joined where they share a position.
+  std::vector<std::int64_t> nodes = {};
 };
 
-/// What must not be done where ways meet.
+/// The number that stands for the node at a position in ways without nodes.
+std::int64_t roadNodeAt(Coordinate position);
+
+/// Which way the signals at a node look; both unless the survey says otherwise.
+struct RoadSignal {
+  bool forward = true;
+  bool backward = true;
+};
+
+/// What stands on ways, and what must not be done where they meet.
 struct RoadRules {
-  /// A turn between two ways, which are given by number.
-  struct Turn {
-    std::size_t fromWay = 0;
-    std::size_t toWay = 0;
-    Coordinate via;
-    /// Whether every other turn is forbidden rather than this one.
-    bool isOnly = false;
-  };
-
-  std::vector<Turn> turns;
-  /// Positions that no car passes.
-  std::vector<Coordinate> barriers;
+  std::vector<RoadRestriction> restrictions;
+  /// Nodes that no car passes.
+  std::set<std::int64_t> barriers;
+  /// By node. Forward is the direction of the way on which they stand.
+  std::map<std::int64_t, RoadSignal> signals;
 };
 
-/// The network of these ways. They are joined where they share a position, and cut there; ways that
-/// only cross each other are a bridge and its underpass. A rule for a turn counts where both ways
-/// end at its position.
-RoadNetwork roadNetwork(const std::vector<RoadWay>& ways, const RoadRules& rules = {});
+/// What could not be taken as it was surveyed.
+struct RoadFaults {
+  /// Restrictions whose ways do not meet as they say, or that leave open which turn is meant.
+  std::size_t unfitRestrictions = 0;
+  /// Ends of roads that were not joined since more met there than meet anywhere.
+  std::size_t unjoinedRoads = 0;
+};
+
+/// The network of these ways. They are joined where they share a node, and cut there; ways that
+/// only cross each other are a bridge and its underpass.
+RoadNetwork roadNetwork(const std::vector<RoadWay>& ways, const RoadRules& rules = {},
+                        RoadFaults* faults = nullptr);
 
 }  // namespace wayloom

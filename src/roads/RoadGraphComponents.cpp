@@ -14,8 +14,8 @@ constexpr std::uint32_t kNone = std::numeric_limits<std::uint32_t>::max();
 /// Components are numbered such that none leads to one with a higher number.
 class ComponentSearch {
  public:
-  explicit ComponentSearch(const RoadArcs& arcs)
-      : mArcs(arcs), mOrder(arcs.first.size() - 1, kNone), mLow(mOrder.size()) {
+  explicit ComponentSearch(const RoadSteps& steps)
+      : mRoads(steps), mOrder(steps.first.size() - 1, kNone), mLow(mOrder.size()) {
     mComponent.assign(mOrder.size(), kNone);
   }
 
@@ -29,7 +29,7 @@ class ComponentSearch {
  private:
   struct Visit {
     std::uint32_t junction;
-    std::uint32_t nextArc;
+    std::uint32_t nextStep;
   };
 
   void visit(std::uint32_t root) {
@@ -37,11 +37,11 @@ class ComponentSearch {
     while (!mVisits.empty()) {
       Visit& visit = mVisits.back();
       const std::uint32_t junction = visit.junction;
-      if (visit.nextArc == mArcs.first[junction + 1]) {
+      if (visit.nextStep == mRoads.first[junction + 1]) {
         leave(junction);
         continue;
       }
-      const std::uint32_t target = mArcs.all[visit.nextArc++].target;
+      const std::uint32_t target = mRoads.heads[visit.nextStep++];
       if (mOrder[target] == kNone) {
         enter(target);
       } else if (mComponent[target] == kNone) {
@@ -53,7 +53,7 @@ class ComponentSearch {
   void enter(std::uint32_t junction) {
     mOrder[junction] = mLow[junction] = mEntered++;
     mOpen.push_back(junction);
-    mVisits.push_back({junction, mArcs.first[junction]});
+    mVisits.push_back({junction, mRoads.first[junction]});
   }
 
   void leave(std::uint32_t junction) {
@@ -72,7 +72,7 @@ class ComponentSearch {
     ++mComponents;
   }
 
-  const RoadArcs& mArcs;
+  const RoadSteps& mRoads;
   std::vector<std::uint32_t> mOrder;
   std::vector<std::uint32_t> mLow;
   std::vector<std::uint32_t> mComponent;
@@ -84,10 +84,12 @@ class ComponentSearch {
 
 }  // namespace
 
-RoadGraphComponents::RoadGraphComponents(const RoadArcs& arcs) : mOf(ComponentSearch(arcs).run()) {
+RoadGraphComponents::RoadGraphComponents(const RoadSteps& steps)
+    : mOf(ComponentSearch(steps).run()) {
   for (std::uint32_t junction = 0; junction < mOf.size(); ++junction) {
-    for (const RoadArc& arc : arcs.from(junction)) {
-      if (mOf[junction] != mOf[arc.target]) mSteps.emplace_back(mOf[junction], mOf[arc.target]);
+    for (std::uint32_t step = steps.first[junction]; step < steps.first[junction + 1]; ++step) {
+      const std::uint32_t head = steps.heads[step];
+      if (mOf[junction] != mOf[head]) mSteps.emplace_back(mOf[junction], mOf[head]);
     }
   }
   std::sort(mSteps.begin(), mSteps.end());

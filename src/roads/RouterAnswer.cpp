@@ -2,13 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
-#include <optional>
+#include <span>
 #include <string>
 #include <unordered_set>
 #include <utility>
-
-#include "roads/RouterSearch.h"
 
 namespace wayloom {
 
@@ -19,6 +16,8 @@ constexpr double kMostShared = 0.7;
 constexpr int kTriesForAnAlternate = 3;
 // More parts of a network than this do not meet in one place.
 constexpr std::size_t kMostUnlikeSpots = 16;
+// Of pairs of spots that rules keep apart, only so many are asked about.
+constexpr std::size_t kMostTries = 8;
 
 using Spots = std::vector<RoadSpot>;
 using SpotPair = std::pair<RoadSpot, RoadSpot>;
@@ -42,19 +41,18 @@ Spots unlike(const RoadGraph& graph, Spots spots) {
   return result;
 }
 
-std::optional<SpotPair> nearestJoined(const RoadGraph& graph, const Spots& starts,
-                                      const Spots& ends) {
-  std::optional<SpotPair> best;
-  double bestMetres = std::numeric_limits<double>::infinity();
+// The pairs between which a way leads unless rules forbid it, the nearest first.
+std::vector<SpotPair> joined(const RoadGraph& graph, const Spots& starts, const Spots& ends) {
+  std::vector<SpotPair> pairs;
   for (const RoadSpot& start : starts) {
     for (const RoadSpot& end : ends) {
-      const double metres = start.awayMetres + end.awayMetres;
-      if (metres >= bestMetres || !graph.leads(start, end)) continue;
-      best.emplace(start, end);
-      bestMetres = metres;
+      if (graph.leads(start, end)) pairs.emplace_back(start, end);
     }
   }
-  return best;
+  std::stable_sort(pairs.begin(), pairs.end(), [](const SpotPair& a, const SpotPair& b) {
+    return a.first.awayMetres + a.second.awayMetres < b.first.awayMetres + b.second.awayMetres;
+  });
+  return pairs;
 }
 
 // Most places have a road at hand; looking wider costs much more.
@@ -66,17 +64,30 @@ Spots spotsNear(const RoadGraph& graph, Coordinate position) {
   return unlike(graph, graph.spotsAround(position, kFarthestRoadMetres));
 }
 
-Result<SpotPair> endsOf(const RoadGraph& graph, Coordinate from, Coordinate to) {
+// Asks about the nearest pairs first. Almost always the first has an answer.
+std::optional<RoadPath> findBetween(RouterSearch& search, const Spots& starts, const Spots& ends,
+                                    const std::optional<RoadTime>& time) {
+  const auto pairs = joined(search.graph(), starts, ends);
+  for (const auto& [start, end] : std::span(pairs).first(std::min(pairs.size(), kMostTries))) {
+    search.ask(start, end, time);
+    if (auto path = search.find()) return path;
+  }
+  return std::nullopt;
+}
+
+Result<RoadPath> quickest(RouterSearch& search, Coordinate from, Coordinate to,
+                          const std::optional<RoadTime>& time) {
+  const RoadGraph& graph = search.graph();
   const std::string metres = std::to_string(static_cast<int>(kFarthestRoadMetres));
   const Spots starts = spotsNear(graph, from);
   if (starts.empty()) return Failure{"there is no road within " + metres + " m of the start"};
   const Spots ends = spotsNear(graph, to);
   if (ends.empty()) return Failure{"there is no road within " + metres + " m of the end"};
-  if (const auto pair = nearestJoined(graph, starts, ends)) return *pair;
+  if (auto path = findBetween(search, starts, ends, time)) return std::move(*path);
   const auto allNear = [&](Coordinate position) {
     return unlike(graph, graph.spotsAround(position, kFarthestRoadMetres));
   };
-  if (const auto pair = nearestJoined(graph, allNear(from), allNear(to))) return *pair;
+  if (auto path = findBetween(search, allNear(from), allNear(to), time)) return std::move(*path);
   return Failure{"no road leads from the start to the end"};
 }
 
@@ -84,42 +95,50 @@ void append(Line& line, Coordinate position) {
   if (line.empty() || line.back() != position) line.push_back(position);
 }
 
-// The positions of an edge between two spots on it, in the direction of driving.
-void appendStep(const RoadGraph& graph, const RoadPath& path, std::size_t step, Line& line) {
-  const auto [edge, isForward] = path.steps[step];
-  const bool isLast = step + 1 == path.steps.size();
-  const Line positions = graph.line(edge);
-  std::size_t first = 0;
-  std::size_t end = positions.size();
-  // What lies before the start and behind the end is not driven.
-  if (step == 0 && path.startsWithinEdge) (isForward ? first : end) = path.from.passed;
-  if (isLast && path.endsWithinEdge) (isForward ? end : first) = path.to.passed;
-  if (isForward) {
-    for (std::size_t index = first; index < end; ++index) append(line, positions[index]);
-  } else {
-    for (std::size_t index = end; index > first; --index) append(line, positions[index - 1]);
+// The positions of an edge on a step of a path, but not where the step begins, nor where the last
+// one ends.
+void appendStep(const RoadGraph& graph, const RoadPath::Step& step, bool isLast, Line& line) {
+  Line positions = graph.line(edgeOf(step.arc));
+  const double whole = graph.metres(edgeOf(step.arc));
+  double begin = step.begin;
+  double end = step.end;
+  if (!isForward(step.arc)) {
+    std::reverse(positions.begin(), positions.end());
+    begin = whole - begin;
+    end = whole - end;
   }
+  double along = 0;
+  for (std::size_t at = 1; at + 1 < positions.size(); ++at) {
+    along += distanceMetres(positions[at - 1], positions[at]);
+    if (begin < along && along < end) append(line, positions[at]);
+  }
+  if (!isLast) append(line, end < whole ? positionAlong(positions, end) : positions.back());
 }
 
-double drivenMetres(const RoadGraph& graph, const RoadPath& path, std::size_t step) {
-  const auto [edge, isForward] = path.steps[step];
-  const bool isLast = step + 1 == path.steps.size();
-  double begin = isForward ? 0 : graph.metres(edge);
-  double end = graph.metres(edge) - begin;
-  if (step == 0 && path.startsWithinEdge) begin = path.from.alongMetres;
-  if (isLast && path.endsWithinEdge) end = path.to.alongMetres;
-  return std::abs(end - begin);
+// What it takes to go on from one step to the next.
+double turnSeconds(const RoadGraph& graph, const RoadPath::Step& step, const RoadPath::Step& next) {
+  const bool isBack = next.arc == reversed(step.arc);
+  const double whole = graph.metres(edgeOf(step.arc));
+  if (isBack && step.end > 0 && step.end < whole) return kTurnRoundSeconds;
+  const auto& arrival = graph.arrival(step.arc);
+  for (const auto& departure : graph.departures(arrival.junction)) {
+    if (departure.arc != next.arc) continue;
+    return graph.turnSeconds(arrival, departure.heading) + (isBack ? kTurnRoundSeconds : 0);
+  }
+  return 0;
 }
 
 Route routeOf(const RoadGraph& graph, const RoadPath& path) {
   Route route;
   append(route.polyline, path.from.coordinate);
-  for (std::size_t step = 0; step < path.steps.size(); ++step) {
-    appendStep(graph, path, step, route.polyline);
-    const std::uint32_t edge = path.steps[step].edge;
-    const double metres = drivenMetres(graph, path, step);
+  for (std::size_t at = 0; at < path.steps.size(); ++at) {
+    const RoadPath::Step& step = path.steps[at];
+    if (at > 0) route.expectedSeconds += turnSeconds(graph, path.steps[at - 1], step);
+    appendStep(graph, step, at + 1 == path.steps.size(), route.polyline);
+    const double metres = std::abs(step.end - step.begin);
+    const double whole = graph.metres(edgeOf(step.arc));
     route.distanceMetres += metres;
-    if (metres > 0) route.expectedSeconds += metres / graph.metres(edge) * graph.seconds(edge);
+    if (whole > 0) route.expectedSeconds += metres / whole * graph.seconds(edgeOf(step.arc));
   }
   append(route.polyline, path.to.coordinate);
   if (route.polyline.size() == 1) route.polyline.push_back(route.polyline.front());
@@ -127,33 +146,31 @@ Route routeOf(const RoadGraph& graph, const RoadPath& path) {
 }
 
 // The share of a path's metres that lie on any of the edges.
-double sharedPart(const RoadGraph& graph, const RoadPath& path,
-                  const std::unordered_set<std::uint32_t>& edges) {
+double sharedPart(const RoadPath& path, const std::unordered_set<std::uint32_t>& edges) {
   double all = 0;
   double shared = 0;
-  for (std::size_t step = 0; step < path.steps.size(); ++step) {
-    const double metres = drivenMetres(graph, path, step);
+  for (const RoadPath::Step& step : path.steps) {
+    const double metres = std::abs(step.end - step.begin);
     all += metres;
-    if (edges.contains(path.steps[step].edge)) shared += metres;
+    if (edges.contains(edgeOf(step.arc))) shared += metres;
   }
   return all > 0 ? shared / all : 1;
 }
 
 }  // namespace
 
-Result<std::vector<Route>> routesOn(const RoadGraph& graph, Coordinate from, Coordinate to,
-                                    int alternates) {
-  const auto ends = endsOf(graph, from, to);
-  if (!ends) return ends.failure();
-  RouterSearch search(graph, ends->first, ends->second);
-  auto path = search.find();
-  if (!path) return Failure{"no road leads from the start to the end"};
+Result<std::vector<Route>> routesOn(RouterSearch& search, Coordinate from, Coordinate to,
+                                    int alternates, const std::optional<RoadTime>& time) {
+  const RoadGraph& graph = search.graph();
+  const auto first = quickest(search, from, to, time);
+  if (!first) return first.failure();
+  std::optional<RoadPath> path = *first;
   std::vector<Route> routes{routeOf(graph, *path)};
   std::unordered_set<std::uint32_t> used;
   const auto wanted = static_cast<std::size_t>(std::max(alternates, 0)) + 1;
   int tries = kTriesForAnAlternate * std::max(alternates, 0);
   const auto use = [&] {
-    for (const auto& step : path->steps) used.insert(step.edge);
+    for (const auto& step : path->steps) used.insert(edgeOf(step.arc));
   };
   use();
   while (routes.size() < wanted && tries-- > 0) {
@@ -162,7 +179,7 @@ Result<std::vector<Route>> routesOn(const RoadGraph& graph, Coordinate from, Coo
     if (!path) break;
     Route route = routeOf(graph, *path);
     if (route.expectedSeconds > kSlowestAlternate * routes.front().expectedSeconds) continue;
-    if (sharedPart(graph, *path, used) > kMostShared) continue;
+    if (sharedPart(*path, used) > kMostShared) continue;
     routes.push_back(std::move(route));
     use();
   }

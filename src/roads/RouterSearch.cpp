@@ -9,139 +9,230 @@ namespace wayloom {
 namespace {
 
 constexpr double kUnreached = std::numeric_limits<double>::infinity();
-// Who does not live there drives eight minutes round rather than one through.
-constexpr double kResidentsFactor = 8;
 constexpr float kDiscouragedFactor = 1.5F;
+constexpr std::uint32_t kTurnedOnRoad = 1U << 31;
+// Instead of a state before: the way begins with this arc, or is nothing but a part of it.
+constexpr std::uint32_t kStart = kTurnedOnRoad - 1;
+constexpr std::uint32_t kDirect = kTurnedOnRoad - 2;
+constexpr std::uint32_t kLastStamp = std::numeric_limits<std::uint32_t>::max() - 3;
 
 }  // namespace
 
-RouterSearch::RouterSearch(const RoadGraph& graph, const RoadSpot& from, const RoadSpot& to)
+RouterSearch::RouterSearch(const RoadGraph& graph)
     : mGraph(graph),
-      mFrom(from),
-      mTo(to),
-      mFromJunction(graph.junctionAt(from)),
-      mToJunction(graph.junctionAt(to)),
-      mToSpace(spaceOf(to.coordinate)) {}
+      mSecondsPerMetre(1 / graph.fastestMetresPerSecond()),
+      mLabels(graph.rules().count()) {}
 
-double RouterSearch::factor(std::uint32_t edge, bool destinationOnly) const {
-  const double residents = destinationOnly ? kResidentsFactor : 1;
-  return mFactors.empty() ? residents : residents * static_cast<double>(mFactors[edge]);
+void RouterSearch::ask(const RoadSpot& from, const RoadSpot& to,
+                       const std::optional<RoadTime>& start) {
+  mFrom = from;
+  mTo = to;
+  mFromJunction = mGraph.junctionAt(from);
+  mToJunction = mGraph.junctionAt(to);
+  mToSpace = spaceOf(to.coordinate);
+  mHolding = mGraph.rules().holdingAt(start);
+  mFactors.clear();
+  mBlindArcs = mGraph.blindArcsTo(to);
 }
 
 double RouterSearch::costOf(std::uint32_t edge, double metres) const {
   const double whole = mGraph.metres(edge);
   if (!(whole > 0)) return 0;
-  return metres / whole * mGraph.seconds(edge) *
-         factor(edge, mGraph.edges()[edge].use.destinationOnly);
+  const double residents =
+      mGraph.edges()[edge].use.destinationOnly ? RoadGraph::kResidentsFactor : 1;
+  return metres / whole * mGraph.seconds(edge) * residents * factor(edge);
 }
 
-double RouterSearch::leastCost(std::uint32_t node) const {
-  return chordMetres(mGraph.spaceAt(node), mToSpace) / mGraph.fastestMetresPerSecond();
+bool RouterSearch::write(State state, double cost, std::uint32_t before) {
+  Label& label = mLabels[state];
+  if (label.stamp >= mStamp && label.cost <= cost) return false;
+  label = {cost, mStamp, before};
+  return true;
 }
 
-void RouterSearch::reach(std::uint32_t node, double cost, Arrival arrival) {
-  if (cost >= mNodes[node].cost) return;
-  mNodes[node] = {cost, arrival};
-  mOpen.push_back({cost + leastCost(node), cost, node});
-  std::push_heap(mOpen.begin(), mOpen.end(),
-                 [](const Open& a, const Open& b) { return a.least > b.least; });
+void RouterSearch::reach(State state, double cost, std::uint32_t before, std::uint32_t junction) {
+  if (!write(state, cost, before)) return;
+  const double least = cost + chordMetres(mGraph.spaceAt(junction), mToSpace) * mSecondsPerMetre;
+  mOpen.add({static_cast<float>(least), state});
+}
+
+void RouterSearch::drive(const RoadGraph::Departure& departure, double cost, std::uint32_t before) {
+  tryEndOn(departure.arc, cost, before);
+  cost += static_cast<double>(departure.cost) * factor(edgeOf(departure.arc));
+  if (!departure.isThrough) return reach(departure.arc, cost, before, departure.head);
+  if (write(departure.arc, cost, before)) mThrough.push_back(departure.arc);
+}
+
+// Makes what earlier searches wrote down void.
+void RouterSearch::begin() {
+  mOpen.clear();
+  mThrough.clear();
+  if (mStamp >= kLastStamp) {
+    std::fill(mLabels.begin(), mLabels.end(), Label{});
+    mStamp = 0;
+  }
+  mStamp += 2;
+  mBestCost = kUnreached;
+  mBestState = kStart;
+  mLastArc.reset();
 }
 
 void RouterSearch::start() {
-  mNodes.assign(mGraph.nodeCount(), {kUnreached, {}});
-  mOpen.clear();
-  mBestCost = kUnreached;
-  mBestNode.reset();
-  if (mFromJunction) return reach(*mFromJunction, 0, {mFrom.edge, 0, true, Origin::kStart});
+  if (mFromJunction) {
+    for (const auto& departure : mGraph.departures(*mFromJunction)) {
+      drive(departure, 0, kStart);
+    }
+    return;
+  }
   for (const bool isForward : {true, false}) {
-    const RoadArc* arc = mGraph.arcOf(mFrom.edge, isForward);
-    if (!arc) continue;
+    const RoadArc arc = roadArc(mFrom.edge, isForward);
+    if (!mGraph.network().mayDrive(arc)) continue;
     const double ahead =
         isForward ? mGraph.metres(mFrom.edge) - mFrom.alongMetres : mFrom.alongMetres;
-    reach(arc->target, costOf(mFrom.edge, ahead), {mFrom.edge, 0, isForward, Origin::kStartOnEdge});
+    reach(arc, costOf(mFrom.edge, ahead), kStart, mGraph.network().head(arc));
   }
 }
 
 void RouterSearch::tryDirect() {
+  if (mFromJunction && mFromJunction == mToJunction) {
+    mBestCost = 0;
+    return;
+  }
   if (mFrom.edge != mTo.edge) return;
-  const RoadUse& use = mGraph.edges()[mFrom.edge].use;
   const double ahead = mTo.alongMetres - mFrom.alongMetres;
-  if (!(ahead >= 0 ? use.forward : use.backward) && ahead != 0) return;
+  const RoadArc arc = roadArc(mFrom.edge, ahead > 0);
+  if (!mGraph.network().mayDrive(arc) && ahead != 0) return;
   mBestCost = costOf(mFrom.edge, std::abs(ahead));
-  mLastStep = Step{mFrom.edge, ahead > 0 || (ahead == 0 && use.forward)};
+  mBestState = kDirect;
+  mLastArc = arc;
 }
 
-void RouterSearch::offer(std::uint32_t node, double cost, std::optional<Step> lastStep) {
+// `cost` is that of standing at the arc's beginning.
+void RouterSearch::tryEndOn(RoadArc arc, double cost, std::uint32_t before) {
+  if (mToJunction || edgeOf(arc) != mTo.edge) return;
+  const double metres =
+      isForward(arc) ? mTo.alongMetres : mGraph.metres(mTo.edge) - mTo.alongMetres;
+  cost += costOf(mTo.edge, metres);
   if (cost >= mBestCost) return;
   mBestCost = cost;
-  mBestNode = node;
-  mLastStep = lastStep;
+  mBestState = before;
+  mLastArc = arc;
 }
 
-void RouterSearch::tryEnd(std::uint32_t node, double cost) {
-  if (mToJunction && mGraph.junctionOf(node) == *mToJunction) offer(node, cost, std::nullopt);
+// Turning round takes longer than any turn, so it gains nothing where no rule forbids one: who
+// wants back turns round earlier. So nobody tries dead ends here. Who has turned round once because
+// of a rule over several roads may do it again, to come as if from elsewhere.
+void RouterSearch::goOn(State state) {
+  const RoadArc arc = mGraph.rules().arcOf(state);
+  const RoadGraph::Arrival& arrival = mGraph.arrival(arc);
+  const double cost = mLabels[state].cost;
+  if (mToJunction == arrival.junction && cost < mBestCost) {
+    mBestCost = cost;
+    mBestState = state;
+    mLastArc.reset();
+    return;
+  }
+  const bool hasTurned = (mLabels[state].before & kTurnedOnRoad) != 0;
+  if (arrival.isBound || hasTurned || state != arc) return goOnBound(state, arrival, cost);
+  for (const auto& departure : mGraph.departures(arrival.junction)) {
+    const bool isBack = departure.arc == reversed(arc);
+    if ((isBack && !arrival.isDeadEnd) || !isUseful(departure)) continue;
+    const double turned =
+        cost + mGraph.turnSeconds(arrival, departure.heading) + (isBack ? kTurnRoundSeconds : 0);
+    drive(departure, turned, state);
+  }
 }
 
-void RouterSearch::tryEndOn(const RoadArc& arc, std::uint32_t node, double cost) {
-  if (mToJunction || arc.edge != mTo.edge) return;
-  const double metres = arc.isForward ? mTo.alongMetres : mGraph.metres(mTo.edge) - mTo.alongMetres;
-  offer(node, cost + costOf(mTo.edge, metres), Step{mTo.edge, arc.isForward});
+void RouterSearch::followThrough() {
+  while (!mThrough.empty()) {
+    const State state = mThrough.back();
+    mThrough.pop_back();
+    if (mLabels[state].cost < mBestCost) goOn(state);
+  }
 }
 
-// Who is on a road turns back at its end, not at a crossing to get round a forbidden turn.
-bool RouterSearch::turnsBack(const RoadArc& arc, std::uint32_t node) const {
-  const Arrival& arrival = mNodes[node].arrival;
-  return arc.edge == arrival.edge && arrival.origin != Origin::kStart &&
-         mGraph.arcs(node).size() > 1;
+void RouterSearch::goOnBound(State state, const RoadGraph::Arrival& arrival, double cost) {
+  const RoadArc arc = mGraph.rules().arcOf(state);
+  for (const auto& departure : mGraph.departures(arrival.junction)) {
+    const bool isBack = departure.arc == reversed(arc);
+    if (isBack && !arrival.isDeadEnd) continue;
+    const auto next = mGraph.rules().next(state, departure.arc, mHolding);
+    if (!next) continue;
+    const double turned =
+        cost + mGraph.turnSeconds(arrival, departure.heading) + (isBack ? kTurnRoundSeconds : 0);
+    tryEndOn(departure.arc, turned, state);
+    reach(*next, turned + static_cast<double>(departure.cost) * factor(edgeOf(departure.arc)),
+          state, departure.head);
+    turnOnRoad(state, *next, turned);
+  }
+}
+
+// Drives a little of the next arc and turns round. `cost` is that of standing at its beginning.
+void RouterSearch::turnOnRoad(State before, State onRoad, double cost) {
+  const RoadArc arc = mGraph.rules().arcOf(onRoad);
+  const std::uint32_t edge = edgeOf(arc);
+  if (mGraph.edges()[edge].use.isFerry || !mGraph.network().mayDrive(reversed(arc))) return;
+  const auto back = mGraph.rules().next(onRoad, reversed(arc), mHolding);
+  if (!back) return;
+  const double metres = std::min(kTurnOnRoadMetres, mGraph.metres(edge) / 2);
+  reach(*back, cost + 2 * costOf(edge, metres) + kTurnRoundSeconds, before | kTurnedOnRoad,
+        mGraph.network().tail(arc));
 }
 
 std::optional<RoadPath> RouterSearch::find() {
-  // Each node keeps one way to it. Should that be one that only turning back leads on from, there
-  // may be none without; this is rare.
-  search(TurningBack::kAtDeadEnds);
-  if (mBestCost == kUnreached) search(TurningBack::kAnywhere);
+  begin();
+  tryDirect();
+  start();
+  followThrough();
+  while (!mOpen.isEmpty() && static_cast<double>(mOpen.first().least) < mBestCost) {
+    const State state = mOpen.first().state;
+    mOpen.removeFirst();
+    if (isFinal(state)) continue;
+    ++mLabels[state].stamp;
+    goOn(state);
+    followThrough();
+  }
   if (mBestCost == kUnreached) return std::nullopt;
   return path();
 }
 
-void RouterSearch::search(TurningBack where) {
-  start();
-  tryDirect();
-  while (!mOpen.empty() && mOpen.front().least < mBestCost) {
-    std::pop_heap(mOpen.begin(), mOpen.end(),
-                  [](const Open& a, const Open& b) { return a.least > b.least; });
-    const Open open = mOpen.back();
-    mOpen.pop_back();
-    if (open.cost > mNodes[open.node].cost) continue;
-    tryEnd(open.node, open.cost);
-    for (const RoadArc& arc : mGraph.arcs(open.node)) {
-      if (where == TurningBack::kAtDeadEnds && turnsBack(arc, open.node)) continue;
-      const double cost = static_cast<double>(arc.seconds) * factor(arc.edge, arc.destinationOnly);
-      tryEndOn(arc, open.node, open.cost);
-      reach(arc.target, open.cost + cost, {arc.edge, open.node, arc.isForward, Origin::kJunction});
-    }
-  }
+RoadPath::Step RouterSearch::whole(RoadArc arc) const {
+  const double metres = mGraph.metres(edgeOf(arc));
+  return isForward(arc) ? RoadPath::Step{arc, 0, metres} : RoadPath::Step{arc, metres, 0};
+}
+
+// The last first.
+void RouterSearch::addSteps(State state, RoadPath& path) const {
+  const RoadArc arc = mGraph.rules().arcOf(state);
+  path.steps.push_back(whole(arc));
+  if ((mLabels[state].before & kTurnedOnRoad) == 0) return;
+  RoadPath::Step& back = path.steps.back();
+  const double metres = std::min(kTurnOnRoadMetres, mGraph.metres(edgeOf(arc)) / 2);
+  back.begin = isForward(arc) ? metres : mGraph.metres(edgeOf(arc)) - metres;
+  // Driven towards the far end until there.
+  RoadPath::Step there = whole(reversed(arc));
+  there.end = back.begin;
+  path.steps.push_back(there);
 }
 
 RoadPath RouterSearch::path() const {
-  RoadPath path{mFrom, mTo, {}};
-  if (mLastStep) path.steps.push_back(*mLastStep);
-  path.startsWithinEdge = !mBestNode || !mFromJunction;
-  path.endsWithinEdge = mLastStep.has_value();
-  for (auto node = mBestNode; node;) {
-    const Arrival& arrival = mNodes[*node].arrival;
-    if (arrival.origin == Origin::kStart) break;
-    path.steps.push_back({arrival.edge, arrival.isForward});
-    if (arrival.origin == Origin::kStartOnEdge) break;
-    node = arrival.before;
+  RoadPath path{mFrom, mTo, {}, mBestCost};
+  if (mLastArc) {
+    path.steps.push_back(whole(*mLastArc));
+    path.steps.back().end = mTo.alongMetres;
   }
+  std::uint32_t state = mBestState;
+  for (; state < kDirect; state = mLabels[state].before & ~kTurnedOnRoad) addSteps(state, path);
   std::reverse(path.steps.begin(), path.steps.end());
+  if (!path.steps.empty() && (!mFromJunction || mBestState == kDirect)) {
+    path.steps.front().begin = mFrom.alongMetres;
+  }
   return path;
 }
 
 void RouterSearch::discourage(const RoadPath& path) {
   if (mFactors.empty()) mFactors.assign(mGraph.edges().size(), 1);
-  for (const Step& step : path.steps) mFactors[step.edge] *= kDiscouragedFactor;
+  for (const RoadPath::Step& step : path.steps) mFactors[edgeOf(step.arc)] *= kDiscouragedFactor;
 }
 
 }  // namespace wayloom

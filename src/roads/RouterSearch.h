@@ -1,90 +1,107 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <optional>
 #include <vector>
 
 #include "roads/RoadGraph.h"
+#include "roads/RoadQueue.h"
 
 namespace wayloom {
 
-/// A way to drive between two spots: the edges in their order.
+/// A way to drive between two spots: stretches of edges in their order.
 struct RoadPath {
   struct Step {
-    std::uint32_t edge = 0;
-    bool isForward = true;
+    RoadArc arc = 0;
+    /// Metres along the edge from its beginning; where the step begins and ends.
+    double begin = 0;
+    double end = 0;
   };
 
   RoadSpot from;
   RoadSpot to;
   std::vector<Step> steps;
-  /// Whether the way begins and ends within its first and last edge, and not at a junction.
-  bool startsWithinEdge = true;
-  bool endsWithinEdge = true;
+  /// What the search counted: seconds on the way and for turns, more on roads for residents.
+  double cost = 0;
 };
 
-/// One question to a road graph, with all that the search for its answer writes down (A* with the
-/// straight line as the bound). Used by one thread; the graph must outlive it.
+/// Finds quickest ways on a graph (A* from arc to arc with the straight line as the bound), with
+/// all that a search writes down, which the next one uses again. Used by one thread; the graph must
+/// outlive it.
 class RouterSearch {
  public:
-  RouterSearch(const RoadGraph& graph, const RoadSpot& from, const RoadSpot& to);
+  explicit RouterSearch(const RoadGraph& graph);
 
+  const RoadGraph& graph() const { return mGraph; }
+
+  /// Takes a new question: two spots, and when the drive starts. Where that is not known, every
+  /// rule holds.
+  void ask(const RoadSpot& from, const RoadSpot& to, const std::optional<RoadTime>& start);
   /// The quickest way that goes through a road for its residents only where there is hardly
   /// another; nothing when no way leads there.
   std::optional<RoadPath> find();
-  /// Makes later answers avoid the roads of a path, so that they differ from it.
+  /// Makes later answers to this question avoid the roads of a path, so that they differ from it.
   void discourage(const RoadPath& path);
 
  private:
-  using Step = RoadPath::Step;
-  enum class TurningBack { kAtDeadEnds, kAnywhere };
-  enum class Origin : std::uint8_t { kJunction, kStartOnEdge, kStart };
-  /// How a node was reached: over which edge and from which node, unless it is the start itself.
-  struct Arrival {
-    std::uint32_t edge = 0;
+  using State = RoadRuleStates::State;
+  /// How a state was reached, of use in the search that wrote it only.
+  struct Label {
+    double cost = 0;
+    /// Twice the search's number, and one more once nothing better can come.
+    std::uint32_t stamp = 0;
+    /// The state before, and in the highest bit whether one turned round on this arc.
     std::uint32_t before = 0;
-    bool isForward = true;
-    Origin origin = Origin::kJunction;
-  };
-  struct Node {
-    double cost;
-    Arrival arrival;
-  };
-  struct Open {
-    double least;
-    double cost;
-    std::uint32_t node;
   };
 
-  double factor(std::uint32_t edge, bool destinationOnly) const;
+  double factor(std::uint32_t edge) const {
+    return mFactors.empty() ? 1 : static_cast<double>(mFactors[edge]);
+  }
   double costOf(std::uint32_t edge, double metres) const;
-  double leastCost(std::uint32_t node) const;
-  void reach(std::uint32_t node, double cost, Arrival arrival);
+  bool isUseful(const RoadGraph::Departure& departure) const {
+    return !departure.isBlind ||
+           std::find(mBlindArcs.begin(), mBlindArcs.end(), departure.arc) != mBlindArcs.end();
+  }
+  bool isFinal(State state) const { return mLabels[state].stamp == mStamp + 1; }
+  bool write(State state, double cost, std::uint32_t before);
+  void reach(State state, double cost, std::uint32_t before, std::uint32_t junction);
+  void drive(const RoadGraph::Departure& departure, double cost, std::uint32_t before);
+  void begin();
   void start();
-  void search(TurningBack where);
-  bool turnsBack(const RoadArc& arc, std::uint32_t node) const;
   void tryDirect();
-  void tryEnd(std::uint32_t node, double cost);
-  void tryEndOn(const RoadArc& arc, std::uint32_t node, double cost);
-  void offer(std::uint32_t node, double cost, std::optional<Step> lastStep);
+  void tryEndOn(RoadArc arc, double cost, std::uint32_t before);
+  void goOn(State state);
+  void followThrough();
+  void goOnBound(State state, const RoadGraph::Arrival& arrival, double cost);
+  void turnOnRoad(State before, State onRoad, double cost);
   RoadPath path() const;
+  void addSteps(State state, RoadPath& path) const;
+  RoadPath::Step whole(RoadArc arc) const;
 
   const RoadGraph& mGraph;
-  const RoadSpot mFrom;
-  const RoadSpot mTo;
-  const std::optional<std::uint32_t> mFromJunction;
-  const std::optional<std::uint32_t> mToJunction;
-  const SpacePoint mToSpace;
-  std::vector<Node> mNodes;
-  std::vector<Open> mOpen;
+  RoadSpot mFrom;
+  RoadSpot mTo;
+  std::optional<std::uint32_t> mFromJunction;
+  std::optional<std::uint32_t> mToJunction;
+  SpacePoint mToSpace{};
+  double mSecondsPerMetre;
+  RoadRuleStates::Holding mHolding;
+  std::vector<Label> mLabels;
+  std::uint32_t mStamp = 0;
+  RoadQueue mOpen;
+  /// States with but one way on, which is followed at once.
+  std::vector<State> mThrough;
+  /// The blind arcs that lead to the end.
+  std::vector<RoadArc> mBlindArcs;
   /// How much worse each edge counts; empty as long as none does.
   std::vector<float> mFactors;
 
   double mBestCost = 0;
-  /// The node before the last step of the best way; none when it stays on one edge.
-  std::optional<std::uint32_t> mBestNode;
-  /// None when the way ends at that node.
-  std::optional<Step> mLastStep;
+  /// The state before the last arc of the best way, and that arc; none where it ends with the
+  /// state.
+  std::uint32_t mBestState = 0;
+  std::optional<RoadArc> mLastArc;
 };
 
 }  // namespace wayloom

@@ -167,7 +167,7 @@ TEST_F(RegionImportTest, RefusesBadExtractsInOneLine) {
       {"a.osm", "<!DOCTYPE osm [<!ENTITY a 'b'>]>" + good, "it declares entities"},
       {"a.osm", node(""), "node 1 lies outside the world"},
       {"a.osm", OsmText().node(1).way(7, {1, 2}, {{"highway", "road"}}).str(),
-       "way 7 uses node 2, which the file does not hold"},
+       "it holds no roads, places or land"},
       {"a.osm", head + "<way id='1'/><node id='1' lat='47' lon='9'/></osm>",
        "node 1 stands behind the ways"},
       {"a.txt", good, "ends in none of"},

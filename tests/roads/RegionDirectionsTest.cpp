@@ -3,6 +3,7 @@
 #include "platform/RunLoop.h"
 #include "regions/RegionWriter.h"
 #include "roads/RegionDirections.h"
+#include "roads/RoadGraphFile.h"
 #include "tests/roads/AsciiRoads.h"
 #include "tests/support/TemporaryFolder.h"
 

@@ -18,9 +18,12 @@ Database databaseWith(const RoadNetwork& network) {
 
 const RoadNetwork kNetwork = {
     {{-1800000000, 900000000}, {1800000000, -900000000}, {1, -1}},
-    {{0, 1, 0, {true, false, true, 130}}, {1, 1, 2, {false, true, false, 5, true}}, {2, 0, 2, {}}},
+    {7, 0, std::int64_t{1} << 40},
+    {{0, 1, 0, {true, false, true, 130}, true, false},
+     {1, 1, 2, {false, true, false, 5, true, true}, false, true},
+     {2, 0, 2, {}}},
     {{5, 6}, {-7, -8}, {9, 10}},
-    {{0, 1, 1}, {2, 0, 0}}};
+    {{{0, 2, 3}, true, {}}, {{4, 0}, false, {{1, 64, 30, 1440}, {4095, 127, 1320, 360}}}}};
 
 TEST(RoadGraphFileTest, KeepsEveryField) {
   for (const RoadNetwork& network : {kNetwork, RoadNetwork{}}) {
@@ -40,10 +43,13 @@ TEST(RoadGraphFileTest, RefusesWhatLeadsNowhere) {
       {"DELETE FROM road_network WHERE part = 'junctions'", "no junction"},
       {"DELETE FROM road_network WHERE part = 'bends'", "disorder"},
       {"UPDATE road_network SET data = zeroblob(16) WHERE part = 'edges'", "no speed"},
-      {"UPDATE road_network SET data = zeroblob(8) WHERE part = 'turns'", "cut short"},
-      {"UPDATE road_network SET data = x'000000000200000001000000' WHERE part = 'turns'",
+      {"DELETE FROM road_network WHERE part = 'numbers'", "numbers differ"},
+      {"UPDATE road_network SET data = zeroblob(7) WHERE part = 'rules'", "cut short"},
+      {"UPDATE road_network SET data = x'000202000000000003000000' WHERE part = 'rules'", "cut"},
+      {"UPDATE road_network SET data = zeroblob(4) WHERE part = 'rules'", "no roads"},
+      {"UPDATE road_network SET data = x'000200000000000004000000' WHERE part = 'rules'",
        "no roads"},
-      {"UPDATE road_network SET data = x'ffffffff0000000000000000' WHERE part = 'turns'",
+      {"UPDATE road_network SET data = x'00020000ffffffff00000000' WHERE part = 'rules'",
        "no roads"},
       {"DROP TABLE road_network; CREATE TABLE road_network(x)", "damaged"},
   };
@@ -54,14 +60,17 @@ TEST(RoadGraphFileTest, RefusesWhatLeadsNowhere) {
   }
 }
 
-TEST(RoadGraphFile, HoldsNoTurnsFromEachOfHundredsOfRoadsToEach) {
+TEST(RoadGraphFileTest, KeepsHundredsOfRoadsFromMeeting) {
   std::vector<RoadWay> ways;
-  RoadRules rules;
-  for (std::size_t way = 0; way < 300; ++way) {
-    ways.push_back({{{47, 9}, {47.001, 9 + 0.001 * static_cast<double>(way)}}, {true, true}});
-    rules.turns.push_back({way, (way + 1) % 300, {47, 9}, /*isOnly=*/true});
-  }
-  EXPECT_LT(roadNetwork(ways, rules).turns.size(), 300U);
+  for (int way = 0; way < 300; ++way) ways.push_back({{{47, 9}, {47.001, 9 + 0.001 * way}}, {}});
+  RoadFaults faults;
+  RoadNetwork network = roadNetwork(ways, {}, &faults);
+  EXPECT_EQ(faults.unjoinedRoads, 300 - kMostRoadsAtAJunction);
+  Database database = databaseWith(network);
+  EXPECT_TRUE(readRoads(database));
+  for (RoadEdge& edge : network.edges) edge.from = network.edges.front().from;
+  Database crowded = databaseWith(network);
+  EXPECT_THAT(readRoads(crowded).message(), HasSubstr("too many roads meet"));
 }
 
 // Whatever stands in the file, it is refused or drivable; the sanitizers watch.
@@ -70,8 +79,8 @@ TEST(RoadGraphFileTest, SurvivesAnyBytes) {
   std::mt19937 random(11);
   int refused = 0;
   for (int round = 0; round < 600; ++round) {
-    Database database = databaseWith(roads.network());
-    const char* part = std::array{"junctions", "edges", "bends", "turns"}[random() % 4];
+    Database database = databaseWith(roads.network({"ABC"}, {"ABED"}));
+    const char* part = std::array{"junctions", "edges", "bends", "rules", "numbers"}[random() % 5];
     std::vector<std::byte> bytes(16 * (random() % 12));
     for (auto& byte : bytes) byte = static_cast<std::byte>(random() % 4 == 0 ? random() : 0);
     for (std::size_t at = 12; at < bytes.size(); at += 16) bytes[at] = std::byte{30};
@@ -85,8 +94,9 @@ TEST(RoadGraphFileTest, SurvivesAnyBytes) {
       continue;
     }
     const RoadGraph graph(std::move(*network));
+    RouterSearch search(graph);
     for (const char letter : {'A', 'B', 'F'}) {
-      const auto routes = routesOn(graph, roads.at('D'), roads.at(letter), 2);
+      const auto routes = routesOn(search, roads.at('D'), roads.at(letter), 2);
       EXPECT_TRUE(!routes || routes->front().polyline.size() >= 2) << "round " << round;
     }
   }

@@ -15,7 +15,7 @@ struct Route {
   double distanceMetres = 0;
   double expectedSeconds = 0;
   /// The names of the regions whose roads are driven, where regions were asked.
-  std::vector<std::string> regions;
+  std::vector<std::string> regions = {};
 };
 
 }  // namespace wayloom

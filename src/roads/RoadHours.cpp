@@ -1,5 +1,6 @@
 #include "roads/RoadHours.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>

@@ -34,7 +34,7 @@ struct RoadHours {
 
   bool contain(const RoadTime& time) const;
 
-  auto operator<=>(const RoadHours&) const = default;
+  auto operator<=>(const RoadHours&) const = default;  // NOLINT(modernize-use-nullptr)
 };
 
 struct ParsedHours {

@@ -14,7 +14,7 @@ struct RoadPoint {
   std::int32_t longitude = 0;
   std::int32_t latitude = 0;
 
-  auto operator<=>(const RoadPoint&) const = default;
+  auto operator<=>(const RoadPoint&) const = default;  // NOLINT(modernize-use-nullptr)
 };
 
 RoadPoint roadPoint(Coordinate coordinate);
@@ -61,7 +61,7 @@ struct RoadRule {
   /// When it holds; always when there are none.
   std::vector<RoadHours> hours = {};
 
-  auto operator<=>(const RoadRule&) const = default;
+  auto operator<=>(const RoadRule&) const = default;  // NOLINT(modernize-use-nullptr)
 };
 
 /// More than meet anywhere. A search looks at the turns from each to each.

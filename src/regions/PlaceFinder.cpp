@@ -99,19 +99,30 @@ std::vector<Place> PlaceFinder::search(std::string_view text, std::size_t limit)
 std::vector<Place> PlaceFinder::suggest(std::string_view text, std::size_t limit) {
   const SearchText typed(text, mFolder);
   if (typed.isEmpty()) return {};
+  Candidates found = matching(typed, SearchText::Match::kStillTyping);
   const SearchText words = typed.withoutNumbers().value_or(typed);
-  Candidates found = asTyped(typed);
-  const auto addMore = [&](Candidates more) {
-    if (found.size() >= limit) return;
-    std::move(more.begin(), more.end(), std::back_inserter(found));
-  };
-  if (found.empty()) addMore(matching(words, SearchText::Match::kStillTyping));
-  if (found.empty()) addMore(matching(words, SearchText::Match::kEveryWordMayGoOn));
+  if (found.empty()) found = matching(words, SearchText::Match::kStillTyping);
+  if (found.empty()) found = matching(words, SearchText::Match::kEveryWordMayGoOn);
   for (int edits = 1; edits <= 2 && found.empty(); ++edits) {
     const auto correction = corrected(words, edits);
-    if (correction) addMore(matching(*correction, SearchText::Match::kWholeWords));
+    if (correction) found = matching(*correction, SearchText::Match::kWholeWords);
   }
+  for (Candidate& each : found) each.score = each.renown + suggestionBonus(each.by);
   return best(std::move(found), limit);
+}
+
+double PlaceFinder::suggestionBonus(By by) {
+  switch (by) {
+    case By::kOwnName:
+      return 1;
+    case By::kPartOfName:
+      return 0.5;
+    case By::kOtherName:
+      return 0;
+    case By::kPartOfOtherName:
+      return -1;
+  }
+  return 0;
 }
 
 std::optional<Place> PlaceFinder::withoutNumbers(std::string_view text) {

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "geo/Coordinate.h"
+#include "platform/Place.h"
 #include "regions/NameFolder.h"
-#include "regions/Place.h"
 #include "regions/RegionPlaces.h"
 #include "regions/SearchText.h"
 
@@ -45,6 +45,8 @@ class PlaceFinder {
   Candidates streets(const SearchText& address);
   /// With words that no place has taken for ones that are similar.
   Candidates misspelt(const SearchText& text);
+  /// How much less what is typed in full stands out while somebody goes on typing.
+  static double suggestionBonus(By by);
   static bool isMeant(const Candidate& candidate, std::size_t letters, int edits);
   /// The text with the words that no place has replaced by similar ones; nothing if it has none, or
   /// so many that it is no misspelling.

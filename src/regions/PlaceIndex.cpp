@@ -87,7 +87,7 @@ std::optional<Place> PlaceIndex::streetAt(Coordinate position) {
       auto row = region.withId(line.place);
       if (!row) continue;
       // A house says more than the street it stands at, unless it is some way off.
-      const bool isHouse = row->place.kind == PlaceKind::kAddress;
+      const bool isHouse = row->place.kind != PlaceKind::kStreet;
       const double metres = line.spot.metres - (isHouse ? kHouseMetres : 0);
       if (metres >= nearestMetres) continue;
       nearestMetres = metres;

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "geo/Coordinate.h"
+#include "platform/Place.h"
 #include "regions/NameFolder.h"
-#include "regions/Place.h"
 #include "regions/PlaceFinder.h"
 #include "regions/RegionPlaces.h"
 #include "regions/RegionStore.h"

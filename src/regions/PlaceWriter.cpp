@@ -60,6 +60,10 @@ double importanceOf(const IndexedPlace& indexed) {
     }
     case PlaceKind::kAddress:
       return 0.2;
+    case PlaceKind::kPointOfInterest:
+      return 0.8;
+    case PlaceKind::kPostcode:
+      return 1.5;
   }
   return 0;
 }
@@ -261,7 +265,7 @@ Status Tables::write(std::int64_t id, double importance, const IndexedPlace& ind
   if (status && place.kind == PlaceKind::kSettlement) {
     status = writeBox(*mSettlement, id, boundsOf({{place.coordinate}}));
   }
-  if (status && place.kind == PlaceKind::kAddress) {
+  if (status && (place.kind == PlaceKind::kAddress || place.kind == PlaceKind::kPointOfInterest)) {
     status = writeShape(*mLine, id, {{Line{place.coordinate}}});
   }
   for (const Line& line : indexed.lines) {

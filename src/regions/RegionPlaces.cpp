@@ -17,15 +17,11 @@ namespace {
 
 // A place the file should not hold counts as absent.
 std::optional<PlaceRow> readRow(const Statement& statement) {
-  const std::int64_t kind = statement.integer(2);
-  if (kind < static_cast<int>(PlaceKind::kCountry) ||
-      kind > static_cast<int>(PlaceKind::kAddress)) {
-    return std::nullopt;
-  }
+  const auto kind = placeKind(statement.integer(2));
+  if (!kind) return std::nullopt;
   PlaceRow row{statement.integer(0), statement.real(1),
-               Place{static_cast<PlaceKind>(kind), std::string(statement.text(3)),
-                     std::string(statement.text(4)), std::string(statement.text(5)),
-                     std::string(statement.text(6)),
+               Place{*kind, std::string(statement.text(3)), std::string(statement.text(4)),
+                     std::string(statement.text(5)), std::string(statement.text(6)),
                      Coordinate{statement.real(7), statement.real(8)}, statement.integer(9)}};
   if (!isOnGlobe(row.place.coordinate)) return std::nullopt;
   return row;

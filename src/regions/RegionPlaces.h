@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
+#include "platform/Place.h"
 #include "regions/Database.h"
 #include "regions/GroundGeometry.h"
-#include "regions/Place.h"
 
 namespace wayloom {
 

@@ -114,6 +114,8 @@ std::vector<Place> PlaceFinder::suggest(std::string_view text, std::size_t limit
 double PlaceFinder::suggestionBonus(By by) {
   switch (by) {
     case By::kOwnName:
+      return 1.5;
+    case By::kWordOfName:
       return 1;
     case By::kPartOfName:
       return 0.5;
@@ -169,8 +171,8 @@ PlaceFinder::Candidates PlaceFinder::misspelt(const SearchText& text) {
 
 bool PlaceFinder::isMeant(const Candidate& candidate, std::size_t letters, int edits) {
   const bool isOther = candidate.by == By::kOtherName || candidate.by == By::kPartOfOtherName;
-  const bool isWhole = candidate.by == By::kOwnName || candidate.by == By::kOtherName;
-  if (isWhole && edits == 0) return true;
+  const bool isPart = candidate.by == By::kPartOfName || candidate.by == By::kPartOfOtherName;
+  if (!isPart && edits == 0) return true;
   return isRenownedEnough(candidate.renown - (isOther ? kDoubtOfOtherNames : 0), letters, edits);
 }
 
@@ -250,7 +252,7 @@ PlaceFinder::Candidate PlaceFinder::candidate(PlaceRow row, bool isNamed,
       bonus = kFirstWordBonus;
       by = By::kPartOfName;
     }
-    if (std::any_of(words.begin(), words.end(), isTyped)) by = By::kOwnName;
+    if (std::any_of(words.begin(), words.end(), isTyped)) by = By::kWordOfName;
   }
   double renown = row.importance;
   if (mNear) {

@@ -27,7 +27,7 @@ class PlaceFinder {
 
  private:
   /// How a place came to be found.
-  enum class By { kOwnName, kOtherName, kPartOfName, kPartOfOtherName };
+  enum class By { kOwnName, kWordOfName, kOtherName, kPartOfName, kPartOfOtherName };
   struct Candidate {
     Place place;
     By by = By::kOwnName;

@@ -21,6 +21,8 @@ enum Field : std::size_t {
   kFields = 19,
 };
 
+constexpr std::string_view kCityWord = "市";
+
 // The text before the next separator, which is taken from the front with it.
 std::string_view takeUntil(char separator, std::string_view& text) {
   const std::size_t end = std::min(text.find(separator), text.size());
@@ -44,6 +46,19 @@ bool isCode(std::string_view name) {
   return name.size() <= 4 && std::all_of(name.begin(), name.end(), [](char letter) {
            return letter >= 'A' && letter <= 'Z';
          });
+}
+
+// In other alphabets a sign softens consonants, which libraries write as an apostrophe
+// ("Kal'kutta").
+bool isLibrarians(std::string_view name) {
+  constexpr std::string_view kConsonants = "bcdfghjklmnpqrstvwxz";
+  for (std::size_t at = 1; at + 1 < name.size(); ++at) {
+    if (name[at] == '\'' && isSmall(name[at + 1]) &&
+        kConsonants.find(name[at - 1]) != std::string_view::npos) {
+      return true;
+    }
+  }
+  return false;
 }
 
 std::optional<City> readCity(std::string_view line) {
@@ -71,7 +86,12 @@ std::vector<std::string> spokenNames(std::string_view names) {
   std::vector<std::string> spoken;
   while (!names.empty()) {
     const std::string_view name = takeUntil(',', names);
-    if (!name.empty() && !isSmall(name.front()) && !isCode(name)) spoken.emplace_back(name);
+    if (name.empty() || isSmall(name.front()) || isCode(name) || isLibrarians(name)) continue;
+    spoken.emplace_back(name);
+    // "罗马市" is 罗马 with the word for a city.
+    if (name.ends_with(kCityWord) && name.size() > 2 * kCityWord.size()) {
+      spoken.emplace_back(name.substr(0, name.size() - kCityWord.size()));
+    }
   }
   return spoken;
 }

@@ -34,7 +34,7 @@ struct City {
 std::optional<std::vector<City>> readCityList(std::string_view text);
 
 /// The names that people use among the ones of a list with commas. Codes of airports are left out,
-/// and what a machine made of the names in other scripts, letter by letter ("dong jing").
+/// and what others than people make of names in other scripts, letter by letter ("dong jing").
 std::vector<std::string> spokenNames(std::string_view names);
 
 }  // namespace wayloom

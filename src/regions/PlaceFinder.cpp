@@ -27,7 +27,8 @@ constexpr double kNearnessBonus = 2.5;
 constexpr double kNearnessHalfMetres = 30000;
 constexpr double kSamePlaceMetres = 5000;
 // Large cities have hundreds of names, and so something that is similar to any text.
-constexpr double kDoubtOfOtherNames = 2.2;
+constexpr double kDoubtOfOtherNames = 1;
+constexpr double kDoubtOfTheirParts = 2.2;
 
 // What may hardly be meant comes behind all else.
 constexpr double kUnlikely = 20;
@@ -170,10 +171,12 @@ PlaceFinder::Candidates PlaceFinder::misspelt(const SearchText& text) {
 }
 
 bool PlaceFinder::isMeant(const Candidate& candidate, std::size_t letters, int edits) {
-  const bool isOther = candidate.by == By::kOtherName || candidate.by == By::kPartOfOtherName;
   const bool isPart = candidate.by == By::kPartOfName || candidate.by == By::kPartOfOtherName;
   if (!isPart && edits == 0) return true;
-  return isRenownedEnough(candidate.renown - (isOther ? kDoubtOfOtherNames : 0), letters, edits);
+  double renown = candidate.renown;
+  if (candidate.by == By::kOtherName) renown -= kDoubtOfOtherNames;
+  if (candidate.by == By::kPartOfOtherName) renown -= kDoubtOfTheirParts;
+  return isRenownedEnough(renown, letters, edits);
 }
 
 std::optional<SearchText> PlaceFinder::corrected(const SearchText& text, int edits) {
@@ -240,15 +243,16 @@ PlaceFinder::Candidate PlaceFinder::candidate(PlaceRow row, bool isNamed,
   const auto isTyped = [&](const std::string& word) { return text.hasWord(word); };
   double bonus = 0;
   By by = By::kPartOfOtherName;
-  const bool isBeginning = !words.empty() && text.beginsWith(words.front());
-  if (std::all_of(words.begin(), words.end(), isTyped) || (isNamed && isBeginning)) {
+  // "New York" is the city's own name, of which the rest was left out.
+  const bool isFirstTyped = !words.empty() && isTyped(words.front());
+  if (std::all_of(words.begin(), words.end(), isTyped) || (isNamed && isFirstTyped)) {
     bonus = kExactNameBonus + std::clamp(row.importance - kWellKnown, 0.0, 1.0);
     by = By::kOwnName;
   } else if (isNamed) {
     bonus = kOtherNameBonus;
     by = By::kOtherName;
   } else {
-    if (isBeginning) {
+    if (!words.empty() && text.beginsWith(words.front())) {
       bonus = kFirstWordBonus;
       by = By::kPartOfName;
     }

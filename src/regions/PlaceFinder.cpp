@@ -86,7 +86,7 @@ std::vector<Place> PlaceFinder::search(std::string_view text, std::size_t limit)
   const SearchText typed(text, mFolder);
   if (typed.isEmpty()) return {};
   Candidates found = asTyped(typed);
-  if (found.empty()) found = misspelt(typed);
+  if (isWeak(found)) append(found, misspelt(typed));
   // Two letters are a name only if they are all of it, accents too: "a" is not Å, and nothing else.
   if (!typed.saysSomething()) {
     const std::string letters = trimmedText(text);
@@ -104,9 +104,12 @@ std::vector<Place> PlaceFinder::suggest(std::string_view text, std::size_t limit
   const SearchText words = typed.withoutNumbers().value_or(typed);
   if (found.empty()) found = matching(words, SearchText::Match::kStillTyping);
   if (found.empty()) found = matching(words, SearchText::Match::kEveryWordMayGoOn);
-  for (int edits = 1; edits <= 2 && found.empty(); ++edits) {
+  for (int edits = 1; edits <= 2 && isWeak(found); ++edits) {
     const auto correction = corrected(words, edits);
-    if (correction) found = matching(*correction, SearchText::Match::kWholeWords);
+    if (!correction) continue;
+    Candidates more = matching(*correction, SearchText::Match::kWholeWords);
+    for (Candidate& each : more) each.renown -= edits;
+    append(found, std::move(more));
   }
   for (Candidate& each : found) each.score = each.renown + suggestionBonus(each.by);
   return best(std::move(found), limit);
@@ -170,6 +173,15 @@ PlaceFinder::Candidates PlaceFinder::misspelt(const SearchText& text) {
   return {};
 }
 
+bool PlaceFinder::isWeak(const Candidates& found) {
+  return std::all_of(found.begin(), found.end(),
+                     [](const Candidate& each) { return each.by == By::kPartOfOtherName; });
+}
+
+void PlaceFinder::append(Candidates& found, Candidates more) {
+  std::move(more.begin(), more.end(), std::back_inserter(found));
+}
+
 bool PlaceFinder::isMeant(const Candidate& candidate, std::size_t letters, int edits) {
   const bool isPart = candidate.by == By::kPartOfName || candidate.by == By::kPartOfOtherName;
   if (!isPart && edits == 0) return true;
@@ -182,16 +194,20 @@ bool PlaceFinder::isMeant(const Candidate& candidate, std::size_t letters, int e
 std::optional<SearchText> PlaceFinder::corrected(const SearchText& text, int edits) {
   SearchText correction = text;
   std::size_t unknown = 0;
-  bool hasLongWord = false;
+  bool isTooShort = true;
   for (std::size_t number = 0; number < text.size(); ++number) {
     const std::string& word = text.word(number);
-    if (mostEdits(word) == 0 || (text.size() > 1 && isKnown(word))) continue;
-    hasLongWord = hasLongWord || mostEdits(word) >= edits;
+    if (mostEdits(word) == 0) continue;
+    isTooShort = isTooShort && mostEdits(word) < edits;
     auto others = similar(word, std::min(edits, mostEdits(word)));
-    if (others.empty() || ++unknown > kMostUnknownWords) return std::nullopt;
+    if (isKnown(word)) {
+      others.insert(others.begin(), word);
+    } else if (others.empty() || ++unknown > kMostUnknownWords) {
+      return std::nullopt;
+    }
     correction = correction.with(number, std::move(others));
   }
-  return hasLongWord ? std::optional(std::move(correction)) : std::nullopt;
+  return isTooShort ? std::nullopt : std::optional(std::move(correction));
 }
 
 bool PlaceFinder::isKnown(const std::string& word) {

@@ -47,6 +47,9 @@ class PlaceFinder {
   Candidates misspelt(const SearchText& text);
   /// How much less what is typed in full stands out while somebody goes on typing.
   static double suggestionBonus(By by);
+  /// Nothing, or only what has the words in a name that it is hardly known by.
+  static bool isWeak(const Candidates& found);
+  static void append(Candidates& found, Candidates more);
   static bool isMeant(const Candidate& candidate, std::size_t letters, int edits);
   /// The text with the words that no place has replaced by similar ones; nothing if it has none, or
   /// so many that it is no misspelling.

@@ -14,6 +14,83 @@ namespace {
 constexpr std::array kLanguages = {"de", "es", "fr", "ja", "zh_CN", "zh_TW"};
 constexpr std::uint32_t kCatalogue = 0x950412DE;
 
+// Map makers abbreviate; addresses do not.
+constexpr std::array<std::pair<std::string_view, std::string_view>, 45> kFullNames = {{
+    {"Antigua and Barb.", "Antigua and Barbuda"},
+    {"Ashmore and Cartier Is.", "Ashmore and Cartier Islands"},
+    {"Bosnia and Herz.", "Bosnia and Herzegovina"},
+    {"Br. Indian Ocean Ter.", "British Indian Ocean Territory"},
+    {"British Virgin Is.", "British Virgin Islands"},
+    {"Cayman Is.", "Cayman Islands"},
+    {"Central African Rep.", "Central African Republic"},
+    {"Clipperton I.", "Clipperton Island"},
+    {"Congo", "Republic of the Congo"},
+    {"Cook Is.", "Cook Islands"},
+    {"Coral Sea Is.", "Coral Sea Islands"},
+    {"Cyprus U.N. Buffer Zone", "Cyprus"},
+    {"Dem. Rep. Congo", "Democratic Republic of the Congo"},
+    {"Dominican Rep.", "Dominican Republic"},
+    {"Eq. Guinea", "Equatorial Guinea"},
+    {"Faeroe Is.", "Faroe Islands"},
+    {"Falkland Is.", "Falkland Islands"},
+    {"Fr. Polynesia", "French Polynesia"},
+    {"Fr. S. Antarctic Lands", "French Southern and Antarctic Lands"},
+    {"Heard I. and McDonald Is.", "Heard Island and McDonald Islands"},
+    {"Indian Ocean Ter.", "Indian Ocean Territories"},
+    {"Macedonia", "North Macedonia"},
+    {"Marshall Is.", "Marshall Islands"},
+    {"N. Cyprus", "Northern Cyprus"},
+    {"N. Mariana Is.", "Northern Mariana Islands"},
+    {"Pitcairn Is.", "Pitcairn Islands"},
+    {"S. Geo. and the Is.", "South Georgia and the South Sandwich Islands"},
+    {"S. Sudan", "South Sudan"},
+    {"Solomon Is.", "Solomon Islands"},
+    {"Spratly Is.", "Spratly Islands"},
+    {"St-Barthélemy", "Saint Barthélemy"},
+    {"St-Martin", "Saint Martin"},
+    {"St. Kitts and Nevis", "Saint Kitts and Nevis"},
+    {"St. Pierre and Miquelon", "Saint Pierre and Miquelon"},
+    {"St. Vin. and Gren.", "Saint Vincent and the Grenadines"},
+    {"Turks and Caicos Is.", "Turks and Caicos Islands"},
+    {"U.S. Minor Outlying Is.", "United States Minor Outlying Islands"},
+    {"U.S. Virgin Is.", "United States Virgin Islands"},
+    {"USNB Guantanamo Bay", "Guantanamo Bay"},
+    {"United States of America", "United States"},
+    {"Vatican", "Vatican City"},
+    {"W. Sahara", "Western Sahara"},
+    {"Wallis and Futuna Is.", "Wallis and Futuna"},
+    {"eSwatini", "Eswatini"},
+    {"Gambia", "The Gambia"},
+}};
+
+// Besides those of iso-codes.
+constexpr std::array<std::pair<std::string_view, std::string_view>, 24> kOtherCountryNames = {{
+    {"AE", "UAE"},
+    {"CD", "DRC"},
+    {"CG", "Congo-Brazzaville"},
+    {"CI", "Ivory Coast"},
+    {"CV", "Cape Verde"},
+    {"CZ", "Czech Republic"},
+    {"GB", "UK"},
+    {"GB", "Great Britain"},
+    {"MM", "Burma"},
+    {"NL", "Holland"},
+    {"SZ", "Swaziland"},
+    {"TL", "East Timor"},
+    {"US", "USA"},
+    {"US", "United States of America"},
+    {"DK", "Danmark"},
+    {"FI", "Suomi"},
+    {"GR", "Ellada"},
+    {"KR", "대한민국"},
+    {"NL", "Nederland"},
+    {"NO", "Norge"},
+    {"PL", "Polska"},
+    {"RU", "Россия"},
+    {"SE", "Sverige"},
+    {"UA", "Україна"},
+}};
+
 std::optional<std::uint32_t> numberAt(std::string_view bytes, std::size_t at) {
   if (at > bytes.size() || bytes.size() - at < 4) return std::nullopt;
   std::uint32_t number = 0;
@@ -39,6 +116,13 @@ bool isSpoken(const std::string& name) {
 }
 
 }  // namespace
+
+std::string fullCountryName(const std::string& mapName) {
+  for (const auto& [name, full] : kFullNames) {
+    if (name == mapName) return std::string(full);
+  }
+  return mapName;
+}
 
 std::optional<std::map<std::string, std::string>> readCatalogue(std::string_view bytes) {
   const auto count = numberAt(bytes, 8);
@@ -87,6 +171,7 @@ Result<std::map<std::string, std::vector<std::string>>> readCountryNames(
   } catch (const std::exception& exception) {
     return Failure{list.string() + ": " + exception.what()};
   }
+  for (const auto& [code, name] : kOtherCountryNames) names[std::string(code)].emplace_back(name);
   return names;
 }
 

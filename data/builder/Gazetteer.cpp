@@ -1,7 +1,6 @@
 #include "Gazetteer.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <exception>
 #include <nlohmann/json.hpp>
@@ -21,83 +20,6 @@ constexpr std::size_t kVotersPerCountry = 40;
 constexpr std::size_t kMajority = 20;
 constexpr double kCoastMetres = 30000;
 constexpr double kBorderMetres = 3000;
-
-// Map makers abbreviate; addresses do not.
-constexpr std::array<std::pair<std::string_view, std::string_view>, 45> kFullNames = {{
-    {"Antigua and Barb.", "Antigua and Barbuda"},
-    {"Ashmore and Cartier Is.", "Ashmore and Cartier Islands"},
-    {"Bosnia and Herz.", "Bosnia and Herzegovina"},
-    {"Br. Indian Ocean Ter.", "British Indian Ocean Territory"},
-    {"British Virgin Is.", "British Virgin Islands"},
-    {"Cayman Is.", "Cayman Islands"},
-    {"Central African Rep.", "Central African Republic"},
-    {"Clipperton I.", "Clipperton Island"},
-    {"Congo", "Republic of the Congo"},
-    {"Cook Is.", "Cook Islands"},
-    {"Coral Sea Is.", "Coral Sea Islands"},
-    {"Cyprus U.N. Buffer Zone", "Cyprus"},
-    {"Dem. Rep. Congo", "Democratic Republic of the Congo"},
-    {"Dominican Rep.", "Dominican Republic"},
-    {"Eq. Guinea", "Equatorial Guinea"},
-    {"Faeroe Is.", "Faroe Islands"},
-    {"Falkland Is.", "Falkland Islands"},
-    {"Fr. Polynesia", "French Polynesia"},
-    {"Fr. S. Antarctic Lands", "French Southern and Antarctic Lands"},
-    {"Heard I. and McDonald Is.", "Heard Island and McDonald Islands"},
-    {"Indian Ocean Ter.", "Indian Ocean Territories"},
-    {"Macedonia", "North Macedonia"},
-    {"Marshall Is.", "Marshall Islands"},
-    {"N. Cyprus", "Northern Cyprus"},
-    {"N. Mariana Is.", "Northern Mariana Islands"},
-    {"Pitcairn Is.", "Pitcairn Islands"},
-    {"S. Geo. and the Is.", "South Georgia and the South Sandwich Islands"},
-    {"S. Sudan", "South Sudan"},
-    {"Solomon Is.", "Solomon Islands"},
-    {"Spratly Is.", "Spratly Islands"},
-    {"St-Barthélemy", "Saint Barthélemy"},
-    {"St-Martin", "Saint Martin"},
-    {"St. Kitts and Nevis", "Saint Kitts and Nevis"},
-    {"St. Pierre and Miquelon", "Saint Pierre and Miquelon"},
-    {"St. Vin. and Gren.", "Saint Vincent and the Grenadines"},
-    {"Turks and Caicos Is.", "Turks and Caicos Islands"},
-    {"U.S. Minor Outlying Is.", "United States Minor Outlying Islands"},
-    {"U.S. Virgin Is.", "United States Virgin Islands"},
-    {"USNB Guantanamo Bay", "Guantanamo Bay"},
-    {"United States of America", "United States"},
-    {"Vatican", "Vatican City"},
-    {"W. Sahara", "Western Sahara"},
-    {"Wallis and Futuna Is.", "Wallis and Futuna"},
-    {"eSwatini", "Eswatini"},
-    {"Gambia", "The Gambia"},
-}};
-
-// Besides those of iso-codes.
-constexpr std::array<std::pair<std::string_view, std::string_view>, 24> kOtherCountryNames = {{
-    {"AE", "UAE"},
-    {"CD", "DRC"},
-    {"CG", "Congo-Brazzaville"},
-    {"CI", "Ivory Coast"},
-    {"CV", "Cape Verde"},
-    {"CZ", "Czech Republic"},
-    {"GB", "UK"},
-    {"GB", "Great Britain"},
-    {"MM", "Burma"},
-    {"NL", "Holland"},
-    {"SZ", "Swaziland"},
-    {"TL", "East Timor"},
-    {"US", "USA"},
-    {"US", "United States of America"},
-    {"DK", "Danmark"},
-    {"FI", "Suomi"},
-    {"GR", "Ellada"},
-    {"KR", "대한민국"},
-    {"NL", "Nederland"},
-    {"NO", "Norge"},
-    {"PL", "Polska"},
-    {"RU", "Россия"},
-    {"SE", "Sverige"},
-    {"UA", "Україна"},
-}};
 
 // Places that are no more: historical, abandoned, destroyed.
 bool isGone(const City& city) {
@@ -293,24 +215,13 @@ std::string Gazetteer::countryName(const std::string& countryCode) const {
 
 std::vector<std::string> Gazetteer::otherCountryNames(const std::string& countryCode) const {
   const auto found = mOtherCountryNames.find(countryCode);
-  auto names = found == mOtherCountryNames.end() ? std::vector<std::string>() : found->second;
-  for (const auto& [code, name] : kOtherCountryNames) {
-    if (code == countryCode) names.emplace_back(name);
-  }
-  return names;
+  return found == mOtherCountryNames.end() ? std::vector<std::string>() : found->second;
 }
 
 std::string Gazetteer::countryWords(const std::string& countryCode) const {
   std::string words = countryCode;
   for (const auto& name : otherCountryNames(countryCode)) words.append(" ").append(name);
   return words;
-}
-
-std::string Gazetteer::fullCountryName(const std::string& mapName) {
-  for (const auto& [name, full] : kFullNames) {
-    if (name == mapName) return std::string(full);
-  }
-  return mapName;
 }
 
 }  // namespace wayloom

@@ -32,8 +32,6 @@ class Gazetteer {
   std::string countryWords(const std::string& countryCode) const;
 
   const Topology& countries() const { return mCountries; }
-  /// The name of a country as a person would write it, from that of the topology.
-  static std::string fullCountryName(const std::string& mapName);
 
  private:
   struct SecondOpinion {

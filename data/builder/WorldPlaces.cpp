@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <map>
 
+#include "CountryNames.h"
 #include "Gazetteer.h"
 #include "regions/PlaceWriter.h"
 
@@ -84,7 +85,7 @@ void addCountries(const Gazetteer& gazetteer, PlaceWriter& writer) {
       for (const auto& ring : polygon) rings.push_back(map.outline(ring));
     }
     if (indexed.areas.empty()) continue;
-    const std::string name = Gazetteer::fullCountryName(area.name);
+    const std::string name = fullCountryName(area.name);
     const Sum& sum = sums[name];
     const City* const city = sum.capital ? sum.capital : sum.largest;
     indexed.place = {PlaceKind::kCountry, name, "", "", "", {}, sum.population};

@@ -5,6 +5,8 @@
 #include <map>
 #include <utility>
 
+#include "settings/TrimmedText.h"
+
 namespace wayloom {
 
 namespace {
@@ -50,11 +52,11 @@ std::vector<std::string> otherNames(const OsmTags& tags) {
 // A postcode says where it is by its digits; nothing for what has none.
 std::string postcodeOf(const OsmTags& tags) {
   constexpr std::size_t kLongest = 12;
-  std::string_view code = tagOf(tags, "addr:postcode");
-  if (code.empty()) code = tagOf(tags, "postal_code");
-  const bool isOne = code.size() <= kLongest && code.find(';') == std::string_view::npos &&
-                     code.find_first_of("0123456789") != std::string_view::npos;
-  return isOne ? std::string(code) : std::string();
+  std::string code = trimmedText(std::string(tagOf(tags, "addr:postcode")));
+  if (code.empty()) code = trimmedText(std::string(tagOf(tags, "postal_code")));
+  const bool isOne = code.size() <= kLongest && code.find(';') == std::string::npos &&
+                     code.find_first_of("0123456789") != std::string::npos;
+  return isOne ? code : std::string();
 }
 
 std::string withoutBlanks(std::string text) {

@@ -7,7 +7,7 @@
 #include <random>
 #include <vector>
 
-#include "regions/Router.h"
+#include "roads/Router.h"
 
 namespace wayloom {
 namespace {

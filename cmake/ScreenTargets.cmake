@@ -20,7 +20,7 @@ target_precompile_headers(wayloom_map PRIVATE <QtCore/QTimer> <QtGui/QGuiApplica
   <filesystem> <functional> <map> <memory> <optional> <string> <string_view> <vector>)
 
 wayloom_qml_module(wayloom_screens Wayloom.Screens)
-target_link_libraries(wayloom_screens PRIVATE wayloom_options PUBLIC wayloom_map Qt6::Positioning)
+target_link_libraries(wayloom_screens PRIVATE wayloom_options PUBLIC wayloom_map wayloom_roads Qt6::Positioning)
 target_precompile_headers(wayloom_screens REUSE_FROM wayloom_map)
 
 # Layouts and kit: QML only. Each folder adds its own files with wayloom_add_layout.

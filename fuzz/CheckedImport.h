@@ -3,7 +3,7 @@
 #include "fuzz/Fuzzing.h"
 #include "import/RegionImport.h"
 #include "regions/PlaceIndex.h"
-#include "regions/Router.h"
+#include "roads/Router.h"
 
 namespace wayloom {
 

@@ -2,9 +2,9 @@
 
 #include "fuzz/Fuzzing.h"
 #include "regions/DrawingShape.h"
-#include "regions/RoadGraph.h"
-#include "regions/RoadGraphFile.h"
 #include "regions/ShapeBlob.h"
+#include "roads/RoadGraphFile.h"
+#include "roads/RouterSearch.h"
 
 using namespace wayloom;
 
@@ -32,12 +32,16 @@ void checkRoads(std::string_view bytes) {
   auto database = Database::openInMemory();
   require(database && database->execute("CREATE TABLE road_network(part, data)"));
   auto insert = database->prepare("INSERT INTO road_network VALUES (?1, ?2)");
-  for (const std::string_view part : {"junctions", "edges", "bends", "turns"}) {
+  for (const std::string_view part : {"junctions", "edges", "bends", "rules"}) {
     if (bytes.empty()) break;
     const auto size = std::min<std::size_t>(std::size_t{static_cast<unsigned char>(bytes[0])} * 4,
                                             bytes.size() - 1);
     const std::span data(bytes.data() + 1, size);
     require(bool(insert->bind(1, part).bind(2, std::as_bytes(data)).run()));
+    // Any numbers will do, and each takes as many bytes as a junction.
+    if (part == "junctions") {
+      require(bool(insert->bind(1, std::string_view("numbers")).run()));
+    }
     bytes.remove_prefix(size + 1);
   }
   const auto network = readRoads(*database);
@@ -47,11 +51,15 @@ void checkRoads(std::string_view bytes) {
   const auto again = readRoads(*copy);
   require(again && *again == *network);
   const RoadGraph graph(*network);
+  RouterSearch search(graph);
   const auto spots = graph.spotsAround({47, 9}, 1e5);
   for (const RoadSpot& spot : spots) {
     require(spot.edge < graph.edges().size() && spot.awayMetres <= 1e5);
     require(spot.alongMetres >= 0 && spot.alongMetres <= graph.metres(spot.edge));
-    (void)graph.leads(spots.front(), spot);
+    if (!graph.leads(spots.front(), spot)) continue;
+    search.ask(spots.front(), spot, std::nullopt);
+    const auto path = search.find();
+    require(!path || path->cost >= 0);
   }
 }
 

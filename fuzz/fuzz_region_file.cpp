@@ -2,7 +2,7 @@
 #include "import/PlaceNames.h"
 #include "import/RegionImport.h"
 #include "regions/PlaceIndex.h"
-#include "regions/Router.h"
+#include "roads/Router.h"
 
 using namespace wayloom;
 

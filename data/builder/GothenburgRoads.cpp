@@ -4,8 +4,9 @@
 
 #include "GeoJson.h"
 #include "ReadFile.h"
-#include "regions/CarProfile.h"
-#include "regions/RoadGraphBuilder.h"
+#include "roads/CarProfile.h"
+#include "roads/RoadGraphBuilder.h"
+#include "roads/RoadGraphFile.h"
 
 namespace wayloom {
 

@@ -4,6 +4,30 @@
 <context>
     <name>Wayloom</name>
     <message>
+        <source>%1 h %2 min</source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>%1 is damaged and counts as empty</source>
+        <translation>%1 ist beschädigt und gilt als leer</translation>
+    </message>
+    <message>
+        <source>%1 km</source>
+        <translation>%1 km</translation>
+    </message>
+    <message>
+        <source>%1 km/h</source>
+        <translation>%1 km/h</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
         <source>Add To →</source>
         <translation>Merken →</translation>
     </message>
@@ -14,6 +38,10 @@
     <message>
         <source>Applications that are installed on this device appear here.</source>
         <translation>Hier erscheinen die Anwendungen, die auf diesem Gerät installiert sind.</translation>
+    </message>
+    <message>
+        <source>Arrived</source>
+        <translation>Angekommen</translation>
     </message>
     <message>
         <source>Back</source>
@@ -50,6 +78,18 @@
     <message>
         <source>Drive</source>
         <translation>Fahrt</translation>
+    </message>
+    <message>
+        <source>Drive: %1, %2</source>
+        <translation>Fahrt: %1, %2</translation>
+    </message>
+    <message>
+        <source>Drive: %1, %2; you gave %3, %4</source>
+        <translation>Fahrt: %1, %2; gewählt %3, %4</translation>
+    </message>
+    <message>
+        <source>Driving: %1 %, %2 left, arrives %3</source>
+        <translation>Unterwegs: %1 %, noch %2, Ankunft %3</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -104,8 +144,28 @@
         <translation>Noch keine Favoriten</translation>
     </message>
     <message>
+        <source>No roads lead from %1 to %2</source>
+        <translation>Keine Straße führt von %1 nach %2</translation>
+    </message>
+    <message>
+        <source>Nothing found for %1: the position is off</source>
+        <translation>Nichts gefunden für %1: Der Standort ist aus</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>On at %1</source>
+        <translation>Ein: %1</translation>
     </message>
     <message>
         <source>Path planning failure, rechoose Start/End please</source>
@@ -152,6 +212,10 @@
         <translation>Suche läuft</translation>
     </message>
     <message>
+        <source>Searching …</source>
+        <translation>Suche läuft …</translation>
+    </message>
+    <message>
         <source>Show the choices</source>
         <translation>Auswahl einblenden</translation>
     </message>
@@ -168,12 +232,24 @@
         <translation>Abfahrt</translation>
     </message>
     <message>
+        <source>Starts %1, arrives %2</source>
+        <translation>Abfahrt %1, Ankunft %2</translation>
+    </message>
+    <message>
         <source>Switch mode</source>
         <translation>Modus wechseln</translation>
     </message>
     <message>
+        <source>The drive has no path</source>
+        <translation>Die Fahrt hat keine Strecke</translation>
+    </message>
+    <message>
         <source>Today</source>
         <translation>Heute</translation>
+    </message>
+    <message>
+        <source>Touch again: there was no settings file yet</source>
+        <translation>Nochmals berühren: Es gab noch keine Einstellungsdatei</translation>
     </message>
     <message>
         <source>Turn on the switch will change your coordinate automatic in a range</source>

@@ -4,6 +4,30 @@
 <context>
     <name>Wayloom</name>
     <message>
+        <source>%1 h %2 min</source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>%1 is damaged and counts as empty</source>
+        <translation>%1 está dañado y cuenta como vacío</translation>
+    </message>
+    <message>
+        <source>%1 km</source>
+        <translation>%1 km</translation>
+    </message>
+    <message>
+        <source>%1 km/h</source>
+        <translation>%1 km/h</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
         <source>Add To →</source>
         <translation>Guardar →</translation>
     </message>
@@ -14,6 +38,10 @@
     <message>
         <source>Applications that are installed on this device appear here.</source>
         <translation>Aquí aparecen las aplicaciones instaladas en este dispositivo.</translation>
+    </message>
+    <message>
+        <source>Arrived</source>
+        <translation>Ha llegado</translation>
     </message>
     <message>
         <source>Back</source>
@@ -50,6 +78,18 @@
     <message>
         <source>Drive</source>
         <translation>Trayecto</translation>
+    </message>
+    <message>
+        <source>Drive: %1, %2</source>
+        <translation>Trayecto: %1, %2</translation>
+    </message>
+    <message>
+        <source>Drive: %1, %2; you gave %3, %4</source>
+        <translation>Trayecto: %1, %2; elegido: %3, %4</translation>
+    </message>
+    <message>
+        <source>Driving: %1 %, %2 left, arrives %3</source>
+        <translation>En camino: %1 %, faltan %2, llegada %3</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -104,8 +144,28 @@
         <translation>Aún no hay favoritos</translation>
     </message>
     <message>
+        <source>No roads lead from %1 to %2</source>
+        <translation>Ninguna carretera lleva de %1 a %2</translation>
+    </message>
+    <message>
+        <source>Nothing found for %1: the position is off</source>
+        <translation>Sin resultados para %1: la posición está desactivada</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Desactivado</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Activado</translation>
+    </message>
+    <message>
+        <source>On at %1</source>
+        <translation>Activado: %1</translation>
     </message>
     <message>
         <source>Path planning failure, rechoose Start/End please</source>
@@ -152,6 +212,10 @@
         <translation>Buscando</translation>
     </message>
     <message>
+        <source>Searching …</source>
+        <translation>Buscando…</translation>
+    </message>
+    <message>
         <source>Show the choices</source>
         <translation>Mostrar las opciones</translation>
     </message>
@@ -168,12 +232,24 @@
         <translation>Salida</translation>
     </message>
     <message>
+        <source>Starts %1, arrives %2</source>
+        <translation>Salida %1, llegada %2</translation>
+    </message>
+    <message>
         <source>Switch mode</source>
         <translation>Cambiar de modo</translation>
     </message>
     <message>
+        <source>The drive has no path</source>
+        <translation>El trayecto no tiene recorrido</translation>
+    </message>
+    <message>
         <source>Today</source>
         <translation>Hoy</translation>
+    </message>
+    <message>
+        <source>Touch again: there was no settings file yet</source>
+        <translation>Toque otra vez: aún no había archivo de ajustes</translation>
     </message>
     <message>
         <source>Turn on the switch will change your coordinate automatic in a range</source>

@@ -4,6 +4,30 @@
 <context>
     <name>Wayloom</name>
     <message>
+        <source>%1 h %2 min</source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>%1 is damaged and counts as empty</source>
+        <translation>%1 est endommagé et compte comme vide</translation>
+    </message>
+    <message>
+        <source>%1 km</source>
+        <translation>%1 km</translation>
+    </message>
+    <message>
+        <source>%1 km/h</source>
+        <translation>%1 km/h</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
         <source>Add To →</source>
         <translation>Ajouter →</translation>
     </message>
@@ -14,6 +38,10 @@
     <message>
         <source>Applications that are installed on this device appear here.</source>
         <translation>Les applications installées sur cet appareil apparaissent ici.</translation>
+    </message>
+    <message>
+        <source>Arrived</source>
+        <translation>Arrivé</translation>
     </message>
     <message>
         <source>Back</source>
@@ -50,6 +78,18 @@
     <message>
         <source>Drive</source>
         <translation>Trajet</translation>
+    </message>
+    <message>
+        <source>Drive: %1, %2</source>
+        <translation>Trajet : %1, %2</translation>
+    </message>
+    <message>
+        <source>Drive: %1, %2; you gave %3, %4</source>
+        <translation>Trajet : %1, %2 ; choisi : %3, %4</translation>
+    </message>
+    <message>
+        <source>Driving: %1 %, %2 left, arrives %3</source>
+        <translation>En route : %1 %, encore %2, arrivée %3</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -104,8 +144,28 @@
         <translation>Aucun favori pour l’instant</translation>
     </message>
     <message>
+        <source>No roads lead from %1 to %2</source>
+        <translation>Aucune route ne mène de %1 à %2</translation>
+    </message>
+    <message>
+        <source>Nothing found for %1: the position is off</source>
+        <translation>Rien trouvé pour %1 : la position est désactivée</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Désactivé</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Activé</translation>
+    </message>
+    <message>
+        <source>On at %1</source>
+        <translation>Activé : %1</translation>
     </message>
     <message>
         <source>Path planning failure, rechoose Start/End please</source>
@@ -152,6 +212,10 @@
         <translation>Recherche</translation>
     </message>
     <message>
+        <source>Searching …</source>
+        <translation>Recherche…</translation>
+    </message>
+    <message>
         <source>Show the choices</source>
         <translation>Afficher les choix</translation>
     </message>
@@ -168,12 +232,24 @@
         <translation>Départ à</translation>
     </message>
     <message>
+        <source>Starts %1, arrives %2</source>
+        <translation>Départ %1, arrivée %2</translation>
+    </message>
+    <message>
         <source>Switch mode</source>
         <translation>Changer de mode</translation>
     </message>
     <message>
+        <source>The drive has no path</source>
+        <translation>Le trajet n’a pas d’itinéraire</translation>
+    </message>
+    <message>
         <source>Today</source>
         <translation>Aujourd’hui</translation>
+    </message>
+    <message>
+        <source>Touch again: there was no settings file yet</source>
+        <translation>Touchez encore : il n’y avait pas encore de fichier de réglages</translation>
     </message>
     <message>
         <source>Turn on the switch will change your coordinate automatic in a range</source>

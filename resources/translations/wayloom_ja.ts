@@ -4,6 +4,30 @@
 <context>
     <name>Wayloom</name>
     <message>
+        <source>%1 h %2 min</source>
+        <translation>%1 時間 %2 分</translation>
+    </message>
+    <message>
+        <source>%1 is damaged and counts as empty</source>
+        <translation>%1 は破損しており、空とみなされます</translation>
+    </message>
+    <message>
+        <source>%1 km</source>
+        <translation>%1 km</translation>
+    </message>
+    <message>
+        <source>%1 km/h</source>
+        <translation>%1 km/h</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 分</translation>
+    </message>
+    <message>
         <source>Add To →</source>
         <translation>追加 →</translation>
     </message>
@@ -14,6 +38,10 @@
     <message>
         <source>Applications that are installed on this device appear here.</source>
         <translation>このデバイスにインストールされているアプリがここに表示されます。</translation>
+    </message>
+    <message>
+        <source>Arrived</source>
+        <translation>到着しました</translation>
     </message>
     <message>
         <source>Back</source>
@@ -50,6 +78,18 @@
     <message>
         <source>Drive</source>
         <translation>走行</translation>
+    </message>
+    <message>
+        <source>Drive: %1, %2</source>
+        <translation>ルート：%1、%2</translation>
+    </message>
+    <message>
+        <source>Drive: %1, %2; you gave %3, %4</source>
+        <translation>ルート：%1、%2（指定 %3、%4）</translation>
+    </message>
+    <message>
+        <source>Driving: %1 %, %2 left, arrives %3</source>
+        <translation>走行中：%1 %、残り %2、到着 %3</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -104,8 +144,28 @@
         <translation>お気に入りはまだありません</translation>
     </message>
     <message>
+        <source>No roads lead from %1 to %2</source>
+        <translation>%1 から %2 への道はありません</translation>
+    </message>
+    <message>
+        <source>Nothing found for %1: the position is off</source>
+        <translation>%1 は見つかりません：位置はオフです</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>On at %1</source>
+        <translation>オン：%1</translation>
     </message>
     <message>
         <source>Path planning failure, rechoose Start/End please</source>
@@ -152,6 +212,10 @@
         <translation>検索中</translation>
     </message>
     <message>
+        <source>Searching …</source>
+        <translation>検索中…</translation>
+    </message>
+    <message>
         <source>Show the choices</source>
         <translation>選択項目を表示</translation>
     </message>
@@ -168,12 +232,24 @@
         <translation>開始時刻</translation>
     </message>
     <message>
+        <source>Starts %1, arrives %2</source>
+        <translation>出発 %1、到着 %2</translation>
+    </message>
+    <message>
         <source>Switch mode</source>
         <translation>モードを切り替える</translation>
     </message>
     <message>
+        <source>The drive has no path</source>
+        <translation>ルートに道筋がありません</translation>
+    </message>
+    <message>
         <source>Today</source>
         <translation>今日</translation>
+    </message>
+    <message>
+        <source>Touch again: there was no settings file yet</source>
+        <translation>もう一度タッチしてください：設定ファイルがまだありませんでした</translation>
     </message>
     <message>
         <source>Turn on the switch will change your coordinate automatic in a range</source>

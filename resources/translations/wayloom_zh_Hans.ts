@@ -4,6 +4,30 @@
 <context>
     <name>Wayloom</name>
     <message>
+        <source>%1 h %2 min</source>
+        <translation>%1 小时 %2 分钟</translation>
+    </message>
+    <message>
+        <source>%1 is damaged and counts as empty</source>
+        <translation>%1 已损坏，按空文件处理</translation>
+    </message>
+    <message>
+        <source>%1 km</source>
+        <translation>%1 公里</translation>
+    </message>
+    <message>
+        <source>%1 km/h</source>
+        <translation>%1 公里/小时</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 米</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 分钟</translation>
+    </message>
+    <message>
         <source>Add To →</source>
         <translation>收藏 →</translation>
     </message>
@@ -14,6 +38,10 @@
     <message>
         <source>Applications that are installed on this device appear here.</source>
         <translation>此设备上已安装的应用会显示在这里。</translation>
+    </message>
+    <message>
+        <source>Arrived</source>
+        <translation>已到达</translation>
     </message>
     <message>
         <source>Back</source>
@@ -50,6 +78,18 @@
     <message>
         <source>Drive</source>
         <translation>行程</translation>
+    </message>
+    <message>
+        <source>Drive: %1, %2</source>
+        <translation>行程：%1，%2</translation>
+    </message>
+    <message>
+        <source>Drive: %1, %2; you gave %3, %4</source>
+        <translation>行程：%1，%2；您给定 %3，%4</translation>
+    </message>
+    <message>
+        <source>Driving: %1 %, %2 left, arrives %3</source>
+        <translation>行驶中：%1 %，还剩 %2，%3 到达</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -104,8 +144,28 @@
         <translation>还没有收藏</translation>
     </message>
     <message>
+        <source>No roads lead from %1 to %2</source>
+        <translation>没有道路从%1通往%2</translation>
+    </message>
+    <message>
+        <source>Nothing found for %1: the position is off</source>
+        <translation>未找到%1：位置已关闭</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>好</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>已关闭</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>已开启</translation>
+    </message>
+    <message>
+        <source>On at %1</source>
+        <translation>已开启：%1</translation>
     </message>
     <message>
         <source>Path planning failure, rechoose Start/End please</source>
@@ -152,6 +212,10 @@
         <translation>正在搜索</translation>
     </message>
     <message>
+        <source>Searching …</source>
+        <translation>正在搜索…</translation>
+    </message>
+    <message>
         <source>Show the choices</source>
         <translation>显示选项</translation>
     </message>
@@ -168,12 +232,24 @@
         <translation>开始时间</translation>
     </message>
     <message>
+        <source>Starts %1, arrives %2</source>
+        <translation>%1 出发，%2 到达</translation>
+    </message>
+    <message>
         <source>Switch mode</source>
         <translation>切换模式</translation>
     </message>
     <message>
+        <source>The drive has no path</source>
+        <translation>行程没有路线</translation>
+    </message>
+    <message>
         <source>Today</source>
         <translation>今天</translation>
+    </message>
+    <message>
+        <source>Touch again: there was no settings file yet</source>
+        <translation>请再点一次：之前没有设置文件</translation>
     </message>
     <message>
         <source>Turn on the switch will change your coordinate automatic in a range</source>

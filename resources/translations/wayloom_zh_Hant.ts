@@ -4,6 +4,30 @@
 <context>
     <name>Wayloom</name>
     <message>
+        <source>%1 h %2 min</source>
+        <translation>%1 小時 %2 分鐘</translation>
+    </message>
+    <message>
+        <source>%1 is damaged and counts as empty</source>
+        <translation>%1 已損壞，視為空檔</translation>
+    </message>
+    <message>
+        <source>%1 km</source>
+        <translation>%1 公里</translation>
+    </message>
+    <message>
+        <source>%1 km/h</source>
+        <translation>%1 公里/小時</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 公尺</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 分鐘</translation>
+    </message>
+    <message>
         <source>Add To →</source>
         <translation>收藏 →</translation>
     </message>
@@ -14,6 +38,10 @@
     <message>
         <source>Applications that are installed on this device appear here.</source>
         <translation>此裝置上已安裝的應用程式會顯示在這裡。</translation>
+    </message>
+    <message>
+        <source>Arrived</source>
+        <translation>已抵達</translation>
     </message>
     <message>
         <source>Back</source>
@@ -50,6 +78,18 @@
     <message>
         <source>Drive</source>
         <translation>行程</translation>
+    </message>
+    <message>
+        <source>Drive: %1, %2</source>
+        <translation>行程：%1，%2</translation>
+    </message>
+    <message>
+        <source>Drive: %1, %2; you gave %3, %4</source>
+        <translation>行程：%1，%2；您給定 %3，%4</translation>
+    </message>
+    <message>
+        <source>Driving: %1 %, %2 left, arrives %3</source>
+        <translation>行駛中：%1 %，還剩 %2，%3 抵達</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -104,8 +144,28 @@
         <translation>尚無收藏</translation>
     </message>
     <message>
+        <source>No roads lead from %1 to %2</source>
+        <translation>沒有道路從%1通往%2</translation>
+    </message>
+    <message>
+        <source>Nothing found for %1: the position is off</source>
+        <translation>找不到%1：位置已關閉</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>好</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>已關閉</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>已開啟</translation>
+    </message>
+    <message>
+        <source>On at %1</source>
+        <translation>已開啟：%1</translation>
     </message>
     <message>
         <source>Path planning failure, rechoose Start/End please</source>
@@ -152,6 +212,10 @@
         <translation>搜尋中</translation>
     </message>
     <message>
+        <source>Searching …</source>
+        <translation>正在搜尋…</translation>
+    </message>
+    <message>
         <source>Show the choices</source>
         <translation>顯示選項</translation>
     </message>
@@ -168,12 +232,24 @@
         <translation>開始時間</translation>
     </message>
     <message>
+        <source>Starts %1, arrives %2</source>
+        <translation>%1 出發，%2 抵達</translation>
+    </message>
+    <message>
         <source>Switch mode</source>
         <translation>切換模式</translation>
     </message>
     <message>
+        <source>The drive has no path</source>
+        <translation>行程沒有路線</translation>
+    </message>
+    <message>
         <source>Today</source>
         <translation>今天</translation>
+    </message>
+    <message>
+        <source>Touch again: there was no settings file yet</source>
+        <translation>請再點一次：之前沒有設定檔</translation>
     </message>
     <message>
         <source>Turn on the switch will change your coordinate automatic in a range</source>

@@ -15,8 +15,8 @@
 #include "platform/QtMainQueue.h"
 #include "platform/SettingsDefaults.h"
 #include "platform/SystemNotices.h"
-#include "regions/RegionDirections.h"
 #include "regions/RegionStore.h"
+#include "roads/RegionDirections.h"
 #include "settings/SettingsFiles.h"
 #include "settings/WorkQueue.h"
 

@@ -72,7 +72,10 @@ bool Tour::pinPlace() {
 
   // Where no file was yet, the switch springs back once.
   if (!mWindow.click("enableSwitch")) return false;
-  if (!mWindow.isShown("v_auto") && !mWindow.click("enableSwitch")) return false;
+  if (!mWindow.isShown("v_auto") &&
+      !(mWindow.savePicture("touch-again") && mWindow.click("enableSwitch"))) {
+    return false;
+  }
   return mWindow.click("s_auto") && mWindow.click("sd_auto") && mWindow.waitForMap("mainMapView") &&
          mWindow.savePicture("pinned");
 }
@@ -147,10 +150,10 @@ bool Tour::chooseTimes() {
   if (!mWindow.click("lb_endTime") || !mWindow.waitUntil("the date picker", isIn)) return false;
   mWindow.press(Qt::Key_Right);
   mWindow.press(Qt::Key_Right);
-  // Up to an hour's end at the most: wherever the wheel stands, it is a moment to come.
-  for (int minute = 0; minute < 2; ++minute) mWindow.press(Qt::Key_Down);
+  // The wheels carry, so this is a moment to come wherever they stand.
+  for (int minute = 0; minute < 20; ++minute) mWindow.press(Qt::Key_Down);
   mWindow.press(Qt::Key_Return);
-  return mWindow.waitUntil("the date picker's end", isOut);
+  return mWindow.waitUntil("the date picker's end", isOut) && mWindow.savePicture("times");
 }
 
 bool Tour::drive() {

@@ -156,11 +156,11 @@ void addRouteCommands(CLI::App& app, Typed& typed) {
   };
   auto* plan = route->add_subcommand("plan", "Show the quickest drive, without turning it on");
   addPlaces(plan);
+  plan->add_option("--start", typed.drive.start, "When it starts, for what holds at certain hours");
   plan->add_flag("--geojson", typed.geoJson, "Answer with the whole line as GeoJSON");
   plan->callback([&typed] {
     typed.command = [&typed](CommandLine& line) {
-      return planRoute(line, typed.drive.from, typed.drive.to,
-                       typed.geoJson ? RouteForm::GeoJson : RouteForm::Summary);
+      return planRoute(line, typed.drive, typed.geoJson ? RouteForm::GeoJson : RouteForm::Summary);
     };
   });
 

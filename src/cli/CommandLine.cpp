@@ -9,9 +9,9 @@
 #include "platform/OnlineServices.h"
 #include "platform/PreferredLanguages.h"
 #include "platform/SystemNotices.h"
-#include "regions/RegionDirections.h"
 #include "regions/RegionDirectories.h"
 #include "regions/RegionGeocoder.h"
+#include "roads/RegionDirections.h"
 #include "settings/SettingsRoot.h"
 
 namespace wayloom {
@@ -87,7 +87,7 @@ void CommandLine::warn(const std::string& what) const {
 void CommandLine::warnOfDamage() const {
   for (const SettingsFile name : {SettingsFile::Master, SettingsFile::Location, SettingsFile::Route,
                                   SettingsFile::Favorites, SettingsFile::Whitelist}) {
-    const auto& damage = mFiles.file(name).damage();
+    const auto damage = mFiles.file(name).damage();
     if (!damage || !mNamed.insert(name).second) continue;
     warn(mFiles.path(name).string() + " is damaged and reads as nothing: " + damage->problem +
          (damage->keptAs.empty() ? "" : "; it was kept as " + damage->keptAs.string()));

@@ -48,16 +48,15 @@ ExitStatus showAddress(CommandLine& line, const std::string& place);
 /// In what form a planned route is shown.
 enum class RouteForm { Summary, GeoJson };
 
-ExitStatus planRoute(CommandLine& line, const std::string& from, const std::string& to,
-                     RouteForm form);
-
 /// A drive as it was typed: two PLACEs and two TIMEs.
 struct Drive {
   std::string from;
   std::string to;
-  std::string start;
-  std::string end;
+  std::string start = "now";
+  std::string end = {};
 };
+
+ExitStatus planRoute(CommandLine& line, const Drive& drive, RouteForm form);
 
 ExitStatus turnRouteOn(CommandLine& line, const Drive& drive);
 ExitStatus turnRouteOff(CommandLine& line);

@@ -1,15 +1,19 @@
 #include <algorithm>
+#include <atomic>
 #include <cmath>
 #include <csignal>
 #include <cstdio>
 #include <system_error>
+#include <thread>
 #include <unistd.h>
 
 #include "cli/Commands.h"
 #include "cli/Table.h"
+#include "cli/TextForms.h"
 #include "import/RegionImport.h"
 #include "regions/OwnRegions.h"
 #include "regions/RegionDirectories.h"
+#include "regions/RegionWriter.h"
 
 namespace wayloom {
 
@@ -20,31 +24,66 @@ namespace fs = std::filesystem;
 constexpr char kNoFolder[] =
     "there is no folder for regions of your own: set HOME, or name one with --regions";
 
-volatile std::sig_atomic_t isInterrupted = 0;
-
-void interrupt(int) {
-  isInterrupted = 1;
-}
-
-/// While it lives, an interruption is noted and does not end the program.
-class InterruptionGuard {
+/// While it lives, an interruption ends the program at once and leaves nothing of an import that is
+/// not finished. It must be there before any other thread, which then leave the signals to it.
+class InterruptionWatch {
  public:
-  InterruptionGuard() {
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) std::signal(signal, interrupt);
+  explicit InterruptionWatch(std::string farewell) : mFarewell(std::move(farewell)) {
+    sigemptyset(&mSignals);
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP, kOver}) sigaddset(&mSignals, signal);
+    pthread_sigmask(SIG_BLOCK, &mSignals, &mBefore);
+    mThread = std::thread([this] { watch(); });
   }
-  ~InterruptionGuard() {
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) std::signal(signal, SIG_DFL);
+  ~InterruptionWatch() {
+    mIsOver = true;
+    pthread_kill(mThread.native_handle(), kOver);
+    mThread.join();
+    pthread_sigmask(SIG_SETMASK, &mBefore, nullptr);
   }
-  InterruptionGuard(const InterruptionGuard&) = delete;
-  InterruptionGuard& operator=(const InterruptionGuard&) = delete;
+  InterruptionWatch(const InterruptionWatch&) = delete;
+  InterruptionWatch& operator=(const InterruptionWatch&) = delete;
+
+ private:
+  static constexpr int kOver = SIGUSR1;
+
+  void watch() const {
+    while (!mIsOver) {
+      int signal = 0;
+      sigwait(&mSignals, &signal);
+      if (signal == kOver || !RegionWriter::abandonAll()) continue;
+      std::fputs(mFarewell.c_str(), stderr);
+      leaveClearingUp();
+      ::_exit(kFirstSignalStatus + signal);
+    }
+  }
+
+  // Gives back memory and unwritten pages by hundreds of megabytes, for which nobody should wait: a
+  // child that holds them as well ends last.
+  static void leaveClearingUp() {
+    if (::fork() != 0) return;
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) ::close(stream);
+    ::_exit(0);
+  }
+
+  // As shells count.
+  static constexpr int kFirstSignalStatus = 128;
+
+  const std::string mFarewell;
+  sigset_t mSignals{};
+  sigset_t mBefore{};
+  std::atomic<bool> mIsOver{false};
+  std::thread mThread;
 };
 
 /// One line on a terminal that says how far the work has come, and is gone with it.
 class ProgressLine {
  public:
   ~ProgressLine() {
-    if (mIsShown) std::fputs("\r\033[K", stderr);
+    if (mIsShown) std::fputs(kClear, stderr);
   }
+
+  /// What ends the line.
+  std::string end() const { return mIsTerminal ? kClear : ""; }
 
   void show(std::string_view step, double share) {
     const int percent = static_cast<int>(100 * std::clamp(share, 0.0, 1.0));
@@ -57,6 +96,8 @@ class ProgressLine {
   }
 
  private:
+  static constexpr char kClear[] = "\r\033[K";
+
   const bool mIsTerminal = ::isatty(STDERR_FILENO) == 1;
   bool mIsShown = false;
   std::string mStep;
@@ -91,6 +132,34 @@ nlohmann::json toJson(const Region& region) {
           {"north", bounds.north}};
 }
 
+// A line for each thing of the extract that is not in the region.
+std::string textOf(const ImportReport& report) {
+  std::string text;
+  const auto add = [&](std::size_t count, const std::string& what) {
+    if (count > 0) text += "\n" + std::to_string(count) + ' ' + what;
+  };
+  std::string examples;
+  for (const std::string& each : report.gaps.examples) {
+    examples += (examples.empty() ? "" : ", ") + each;
+  }
+  add(report.gaps.missingNodes,
+      "nodes are not in the file and cut their ways: " + examples +
+          (report.gaps.missingNodes > report.gaps.examples.size() ? " and others" : ""));
+  add(report.gaps.unclearConditions,
+      "restrictions of turns have conditions that are not understood");
+  add(report.faults.unfitRestrictions, "restrictions of turns fit no roads and are left out");
+  add(report.faults.unjoinedRoads, "ends of roads are not joined, since too many meet");
+  return text;
+}
+
+nlohmann::json toJson(const ImportReport& report) {
+  return {{"missing_nodes", report.gaps.missingNodes},
+          {"missing_nodes_examples", report.gaps.examples},
+          {"unclear_conditions", report.gaps.unclearConditions},
+          {"unfit_restrictions", report.faults.unfitRestrictions},
+          {"unjoined_roads", report.faults.unjoinedRoads}};
+}
+
 }  // namespace
 
 ExitStatus listRegions(CommandLine& line) {
@@ -104,17 +173,24 @@ ExitStatus importRegionFile(CommandLine& line, const std::string& file,
                             const std::optional<std::string>& name) {
   const auto folder = ownRegionDirectory(line.options().regions);
   if (!folder) return line.fail(kNoFolder);
+  ImportReport report;
+  const std::string refusal = file + " is not imported: ";
   const auto region = [&] {
-    const InterruptionGuard guard;
     ProgressLine shown;
-    return importRegion(file, *folder, name.value_or(extractStem(file)), line.regions(),
-                        [&](std::string_view step, double share) {
-                          shown.show(step, share);
-                          return isInterrupted == 0;
-                        });
+    const InterruptionWatch watch(shown.end() + "wayloomctl: " + oneLine(refusal) +
+                                  "interrupted\n");
+    return importRegion(
+        file, *folder, name.value_or(extractStem(file)), line.regions(),
+        [&](std::string_view step, double share) {
+          shown.show(step, share);
+          return true;
+        },
+        &report);
   }();
-  if (!region) return line.fail(file + " is not imported: " + region.message());
-  return line.answer({tableRow(cellsOf(*region)), toJson(*region)});
+  if (!region) return line.fail(refusal + region.message());
+  nlohmann::json json = toJson(*region);
+  json["left_out"] = toJson(report);
+  return line.answer({tableRow(cellsOf(*region)) + textOf(report), std::move(json)});
 }
 
 ExitStatus removeRegion(CommandLine& line, const std::string& name) {

@@ -6,6 +6,7 @@
 #include "cli/TimeArgument.h"
 #include "route/RouteSimulation.h"
 #include "settings/ModeSwitch.h"
+#include "settings/Phrase.h"
 
 namespace wayloom {
 
@@ -23,27 +24,28 @@ DirectionsAnswer directionsNow(CommandLine& line, const DirectionsRequest& reque
   return std::move(*answer);
 }
 
-std::string distanceText(double metres) {
-  if (metres < 1000) return std::to_string(std::lround(metres)) + " m";
-  const long tenths = std::lround(metres / 100);
-  return std::to_string(tenths / 10) + '.' + std::to_string(tenths % 10) + " km";
-}
-
 std::string durationText(double seconds) {
   const long whole = std::lround(seconds);
   return whole < 60 ? std::to_string(whole) + " s"
                     : std::to_string(whole / 60) + " min " + std::to_string(whole % 60) + " s";
 }
 
+std::string joined(const std::vector<std::string>& names) {
+  std::string text;
+  for (const std::string& name : names) text += (text.empty() ? "" : ", ") + oneLine(name);
+  return text;
+}
+
 Answer summaryOf(const Route& route) {
   nlohmann::json points = nlohmann::json::array();
   for (const Coordinate& position : route.polyline) points.push_back(toJson(position));
-  return {distanceText(route.distanceMetres) + ", " + durationText(route.expectedSeconds) + ", " +
-              std::to_string(route.polyline.size()) + " points\nfrom " +
-              coordinateText(route.polyline.front()) + "\nto   " +
-              coordinateText(route.polyline.back()),
+  return {englishText(distancePhrase(route.distanceMetres)) + ", " +
+              durationText(route.expectedSeconds) + ", " + std::to_string(route.polyline.size()) +
+              " points\nfrom " + coordinateText(route.polyline.front()) + "\nto   " +
+              coordinateText(route.polyline.back()) + "\nin   " + joined(route.regions),
           {{"metres", route.distanceMetres},
            {"seconds", route.expectedSeconds},
+           {"regions", route.regions},
            {"points", std::move(points)}}};
 }
 
@@ -54,7 +56,10 @@ Answer geoJsonOf(const Route& route) {
   }
   nlohmann::json feature = {
       {"type", "Feature"},
-      {"properties", {{"metres", route.distanceMetres}, {"seconds", route.expectedSeconds}}},
+      {"properties",
+       {{"metres", route.distanceMetres},
+        {"seconds", route.expectedSeconds},
+        {"regions", route.regions}}},
       {"geometry", {{"type", "LineString"}, {"coordinates", std::move(positions)}}}};
   std::string text = feature.dump();
   return {std::move(text), std::move(feature)};
@@ -83,10 +88,11 @@ ExitStatus refuseTime(CommandLine& line, const std::string& text) {
 
 }  // namespace
 
-ExitStatus planRoute(CommandLine& line, const std::string& from, const std::string& to,
-                     RouteForm form) {
+ExitStatus planRoute(CommandLine& line, const Drive& drive, RouteForm form) {
   DirectionsRequest request;
-  if (const auto status = resolveBoth(line, from, to, request)) return *status;
+  request.startTime = parseTime(drive.start, SystemClock().secondsSince1970());
+  if (!request.startTime) return refuseTime(line, drive.start);
+  if (const auto status = resolveBoth(line, drive.from, drive.to, request)) return *status;
   const DirectionsAnswer found = directionsNow(line, request);
   if (found.error) return line.fail("no route: " + *found.error);
   const Route& route = found.routes.front();
@@ -100,6 +106,7 @@ ExitStatus turnRouteOn(CommandLine& line, const Drive& drive) {
   const auto end = parseTime(drive.end, clock.secondsSince1970());
   if (!end) return refuseTime(line, drive.end);
   DirectionsRequest request;
+  request.startTime = *start;
   if (const auto status = resolveBoth(line, drive.from, drive.to, request)) return *status;
 
   RouteSimulation simulation(line.files(), clock);

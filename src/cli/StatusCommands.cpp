@@ -1,8 +1,9 @@
 #include "cli/Commands.h"
+#include "cli/PlaceArgument.h"
 #include "cli/TextForms.h"
 #include "cli/TimeArgument.h"
-#include "fixed/FixedLocation.h"
-#include "route/RouteSimulation.h"
+#include "fixed/FixedStatus.h"
+#include "route/DriveStatus.h"
 #include "settings/ModeSwitch.h"
 
 namespace wayloom {
@@ -77,13 +78,32 @@ nlohmann::json toJson(const RoutePreferences& route) {
   return json;
 }
 
-Answer answerOf(const Reading& status) {
+/// The words of the current screen's status line; those of the other one where only its simulation
+/// is on.
+std::string statusText(const Reading& status, const std::string& address) {
+  const bool isFixed = status.fixed.enabled == status.route.enabled()
+                           ? status.mode == Mode::FixedLocation
+                           : status.fixed.enabled;
+  const std::int32_t now = SystemClock().wholeSecondsSince1970();
+  return oneLine(
+      englishText(isFixed ? fixedStatus(status.fixed, address) : driveStatus(now, status.route)));
+}
+
+/// The address of the fixed position while that is on; empty when none is known.
+std::string addressOf(CommandLine& line, const FixedLocationState& fixed) {
+  if (!fixed.enabled || !fixed.hasCoordinate) return {};
+  return firstFormattedLine(reverseGeocodeNow(line, fixed.coordinate)).value_or("");
+}
+
+Answer answerOf(const Reading& status, const std::string& address) {
   const auto position = positionNow(status);
-  nlohmann::json json = {{"mode", nameOf(status.mode)},
+  const std::string words = statusText(status, address);
+  nlohmann::json json = {{"status", words},
+                         {"mode", nameOf(status.mode)},
                          {"fixed", toJson(status.fixed)},
                          {"route", toJson(status.route)},
                          {"position", toJson(position)}};
-  std::string text = std::string("mode      ") + nameOf(status.mode) + "\nfixed     " +
+  std::string text = "status    " + words + "\nmode      " + nameOf(status.mode) + "\nfixed     " +
                      fixedText(status.fixed) + "\ndrift     " + driftText(status.fixed) +
                      "\nroute     " + routeText(status.route) + "\nposition  " +
                      (position ? coordinateText(*position) : "the device's own");
@@ -94,12 +114,13 @@ Answer answerOf(const Reading& status) {
 
 ExitStatus showStatus(CommandLine& line) {
   const auto reading = readFiles(line);
-  return reading ? line.answer(answerOf(*reading)) : line.fail(reading.failure());
+  if (!reading) return line.fail(reading.failure());
+  return line.answer(answerOf(*reading, addressOf(line, reading->fixed)));
 }
 
 ExitStatus answerDone(CommandLine& line) {
   const auto reading = readFiles(line);
-  if (reading) return line.answer(answerOf(*reading));
+  if (reading) return line.answer(answerOf(*reading, {}));
   line.warn("it is done, but " + reading.message());
   return line.answer({"done", {{"done", true}}});
 }

@@ -3,7 +3,6 @@
 #include <array>
 #include <charconv>
 
-#include "settings/TextConversions.h"
 #include "settings/Utf8.h"
 
 namespace wayloom {
@@ -24,10 +23,6 @@ std::string shortNumber(double value) {
   std::array<char, 32> digits;
   const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), value);
   return {digits.data(), result.ptr};
-}
-
-std::string coordinateText(Coordinate coordinate) {
-  return formatReal(coordinate.latitude) + ", " + formatReal(coordinate.longitude);
 }
 
 nlohmann::json toJson(Coordinate coordinate) {

@@ -6,14 +6,12 @@
 #include <string_view>
 
 #include "geo/Coordinate.h"
+#include "settings/TextConversions.h"
 
 namespace wayloom {
 
 /// A number with no more digits than it needs.
 std::string shortNumber(double value);
-
-/// "57.706547, 11.967100".
-std::string coordinateText(Coordinate coordinate);
 
 /// {"latitude": 57.706547, "longitude": 11.9671}.
 nlohmann::json toJson(Coordinate coordinate);

@@ -48,7 +48,18 @@ Result<FixedLocationState> FixedLocation::refresh() {
   if (!settings) return settings.failure();
   mPreferences = std::move(*settings).value_or(PropertyList::Dictionary());
   mVersion = mFiles.seenVersion(SettingsFile::Location);
+  mIsOthers = false;
   return stateOf(*mPreferences);
+}
+
+Loaded<PropertyList::Dictionary> FixedLocation::load() {
+  auto settings = mFiles.loadLocationSettings();
+  if (settings && mVersion != mFiles.seenVersion(SettingsFile::Location)) mIsOthers = true;
+  return settings;
+}
+
+FixedLocationState FixedLocation::known() const {
+  return mPreferences ? stateOf(*mPreferences) : FixedLocationState();
 }
 
 const char* FixedLocation::refusalToLeave() const {
@@ -79,7 +90,7 @@ Status FixedLocation::autoSlide(bool on, float speed) {
 
 Status FixedLocation::centerMoved(Coordinate center) {
   mCoordinate = center;
-  auto settings = mFiles.loadLocationSettings();
+  auto settings = load();
   if (!settings) return settings.failure();
   mPreferences = std::move(*settings);
   mVersion = mFiles.seenVersion(SettingsFile::Location);
@@ -103,7 +114,7 @@ Status FixedLocation::write(Entries entries) {
   if (!mPreferences) return done();
   const auto turn = mFiles.takeTurn();
   if (!turn) return turn.failure();
-  auto current = mFiles.loadLocationSettings();
+  auto current = load();
   if (!current) return current.failure();
   const bool isThere = current->has_value();
   PropertyList::Dictionary changed = std::move(*current).value_or(*mPreferences);

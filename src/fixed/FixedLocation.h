@@ -54,8 +54,13 @@ class FixedLocation {
   /// writer creates the file; one that cannot be read leaves the copy as it was.
   Result<FixedLocationState> refresh();
 
-  /// Whether the file is the one that was last read or written here.
-  bool isCurrent() const { return mVersion == mFiles.currentVersion(SettingsFile::Location); }
+  /// Whether the file is as refresh() last read it, or only changed here since then.
+  bool isCurrent() const {
+    return !mIsOthers && mVersion == mFiles.currentVersion(SettingsFile::Location);
+  }
+
+  /// What the copy says.
+  FixedLocationState known() const;
 
   /// The message that keeps the screen in its mode while the copy, which is not read again, says
   /// that the position is on; null otherwise.
@@ -95,6 +100,8 @@ class FixedLocation {
  private:
   using Entries = std::initializer_list<std::pair<const char*, std::string>>;
 
+  /// Reads the file before it is changed, and notes whether somebody else changed it meanwhile.
+  Loaded<PropertyList::Dictionary> load();
   /// Sets these entries; refused when the position would thereby be on beside a drive.
   [[nodiscard]] Status write(Entries entries);
 
@@ -102,6 +109,7 @@ class FixedLocation {
   ChangeNotice& mNotice;
   std::optional<PropertyList::Dictionary> mPreferences;
   std::optional<FileVersion> mVersion;
+  bool mIsOthers = false;
   Coordinate mCoordinate;
 };
 

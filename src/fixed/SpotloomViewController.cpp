@@ -1,6 +1,5 @@
 #include "fixed/SpotloomViewController.h"
 
-#include "fixed/SearchInput.h"
 #include "kit/FailureText.h"
 #include "kit/LocalizedText.h"
 #include "map/ShownPoint.h"
@@ -21,13 +20,6 @@ SpotloomViewController::SpotloomViewController(const Services& services, QObject
       mFixedLocation(services.files, services.notice),
       mFavorites(services.files) {}
 
-template <typename Change>
-void SpotloomViewController::update(Change&& change) {
-  const View before = mView;
-  change(mView);
-  if (mView != before) Q_EMIT changed();
-}
-
 void SpotloomViewController::viewDidLoad(MapView* mainMapView) {
   mMainMapView = mainMapView;
   mainMapView->setTileSource(mServices.tiles);
@@ -42,8 +34,12 @@ void SpotloomViewController::viewWillAppear() {
 
 void SpotloomViewController::followFiles() {
   if (!mMainMapView) return;
-  if (!mFixedLocation.isCurrent()) refreshViewByStatusWithLocation(false);
+  if (!mFixedLocation.isCurrent()) {
+    mStatus.setFailure({});
+    refreshViewByStatusWithLocation(false);
+  }
   followPosition();
+  showStatus();
 }
 
 bool SpotloomViewController::followPosition() {
@@ -62,7 +58,9 @@ bool SpotloomViewController::followPosition() {
 
 void SpotloomViewController::refreshViewByStatusWithLocation(bool withLocation) {
   const auto refreshed = mFixedLocation.refresh();
-  if (!report(refreshed.status())) return;
+  mStatus.setReading(refreshed.status());
+  showStatus();
+  if (!refreshed) return;
   const FixedLocationState& state = *refreshed;
   update([&](View& view) {
     view.enabled = state.enabled;
@@ -97,6 +95,10 @@ void SpotloomViewController::refreshAuotViewWithEnable(bool on) {
 
 void SpotloomViewController::setEnable(bool on) {
   const View before = mView;
+  const bool isForgotten = on && !mFixedLocation.hasSettings();
+  if (mActivity.kind != FixedActivity::Kind::Searching) {
+    mActivity = {isForgotten ? FixedActivity::Kind::TouchAgain : FixedActivity::Kind::None};
+  }
   update([&](View& view) { view.enabled = on; });
   if (keep(mFixedLocation.setEnable(on), before)) refreshViewByStatusWithLocation(false);
 }
@@ -116,9 +118,26 @@ void SpotloomViewController::autoSlide(double speed) {
 }
 
 bool SpotloomViewController::report(const Status& status) {
-  const QString text = failureText(status, mServices.alerts);
-  update([&](View& view) { view.statusText = text; });
+  // What failed may be in the file all the same, and is followed before it is named.
+  if (!status && !status.isRefused()) refreshViewByStatusWithLocation(false);
+  if (status) mStatus.setReading(status);
+  mStatus.setFailure(failureText(status, mServices.alerts));
+  showStatus();
   return static_cast<bool>(status);
+}
+
+void SpotloomViewController::showStatus() {
+  const FixedLocationState state = mFixedLocation.known();
+  const bool isThere = isSamePosition(state.coordinate, mAddressPlace);
+  const bool isOther = !state.enabled && mServices.isDriving && mServices.isDriving();
+  mStatus.show(isOther ? Phrase{kWayloomIsWorking}
+                       : fixedStatus(state, isThere ? mAddress : std::string(), mActivity),
+               std::nullopt, mServices.files, {SettingsFile::Location, SettingsFile::Master});
+}
+
+void SpotloomViewController::begin(FixedActivity activity) {
+  mActivity = std::move(activity);
+  showStatus();
 }
 
 bool SpotloomViewController::keep(const Status& written, const View& before) {
@@ -149,42 +168,23 @@ void SpotloomViewController::regionDidChange() {
   // A position that no map shows stays where it is until the map is moved away from it.
   const bool stays = isBeyondTheEdge(*mMainMapView, mFixedLocation.coordinate());
   const Coordinate center = stays ? mFixedLocation.coordinate() : mMainMapView->region().center;
-  if (!mIsFollowing && !stays) report(mFixedLocation.centerMoved(center));
+  if (!mIsFollowing && !stays) moved(mFixedLocation.centerMoved(center));
+  mAsked.push_back(center);
   mServices.location.addressWithCoordinate(center, this);
 }
 
-/// An empty address is one that is still being looked up.
+void SpotloomViewController::moved(const Status& written) {
+  // Where there is no file nothing was written, which tells nothing of an earlier failure.
+  if (written && !mFixedLocation.hasSettings()) return;
+  if (mActivity.kind == FixedActivity::Kind::NothingFound) mActivity = {};
+  report(written);
+}
+
 void SpotloomViewController::showAddress(const QString& address) {
   update([&](View& view) {
     view.addressText = address;
     view.spinning = address.isEmpty();
   });
-}
-
-void SpotloomViewController::searchButtonClicked() {
-  const SearchInput search = parseSearchInput(mView.searchText.toStdString());
-  const auto clearField = [this] {
-    setSearchText({});
-    Q_EMIT keyboardDismissed();
-  };
-  if (const auto* coordinate = std::get_if<Coordinate>(&search)) {
-    clearField();
-    showPoint(*mMainMapView, *coordinate);
-  } else if (const auto* address = std::get_if<AddressSearch>(&search)) {
-    if (!report(mFixedLocation.beginAddressSearch())) return;
-    clearField();
-    mOverlayAttached = true;
-    update([](View& view) {
-      view.overlayText = localizedText("Searching");
-      view.overlayShown = true;
-    });
-    mServices.location.coordinateWithAddress(address->address, this);
-  }
-}
-
-bool SpotloomViewController::textFieldShouldReturn() {
-  searchButtonClicked();
-  return true;
 }
 
 void SpotloomViewController::startLocation() {
@@ -205,41 +205,6 @@ void SpotloomViewController::locationSuccess(Location* /*location*/, double lati
 void SpotloomViewController::locationFailed(Location* /*location*/,
                                             const std::optional<std::string>& /*error*/) {
   update([](View& view) { view.overlayShown = false; });
-}
-
-void SpotloomViewController::reverseGeocoderSuccess(Location* /*location*/,
-                                                    const std::string& address) {
-  update([&](View& view) {
-    view.addressText = QString::fromStdString(address);
-    view.spinning = false;
-  });
-}
-
-void SpotloomViewController::reverseGeocoderFailed(Location* location,
-                                                   const std::optional<std::string>& /*error*/) {
-  reverseGeocoderSuccess(location, localizedText("Unknow").toStdString());
-}
-
-void SpotloomViewController::geocoderSuccess(Location* /*location*/, Coordinate coordinate) {
-  update([](View& view) { view.overlayShown = false; });
-  mFixedLocation.setCoordinate(coordinate);
-  showPoint(*mMainMapView, coordinate);
-  report(mFixedLocation.endAddressSearch(mView.enabled));
-}
-
-void SpotloomViewController::geocoderFailed(Location* location,
-                                            const std::optional<std::string>& error) {
-  reverseGeocoderFailed(location, error);
-}
-
-void SpotloomViewController::geocoderSuccess(Location* location, const std::string& address) {
-  reverseGeocoderSuccess(location, address);
-}
-
-void SpotloomViewController::geocoderCoordinateFailed(Location* /*location*/,
-                                                      const std::optional<std::string>& /*error*/) {
-  update([](View& view) { view.overlayShown = false; });
-  mServices.alerts.show("", "Search Failed", "OK");
 }
 
 void SpotloomViewController::addToFavorites() {
@@ -270,10 +235,6 @@ void SpotloomViewController::showInfoView() {
 
 void SpotloomViewController::favoritesDidSelected() {
   refreshViewByStatusWithLocation(true);
-}
-
-void SpotloomViewController::setSearchText(const QString& text) {
-  update([&](View& view) { view.searchText = text; });
 }
 
 void SpotloomViewController::setFavoriteName(const QString& name) {

@@ -1,12 +1,16 @@
 #pragma once
 
+#include <deque>
+#include <functional>
+
 #include <QtCore/QObject>
 #include <QtCore/QPointer>
 #include <QtCore/QString>
 #include <QtQml/qqmlregistration.h>
 
-#include "fixed/FixedLocation.h"
+#include "fixed/FixedStatus.h"
 #include "kit/ScreenSwitcher.h"
+#include "kit/StatusText.h"
 #include "lists/Favorites.h"
 #include "lists/FavoritesDelegate.h"
 #include "map/MapView.h"
@@ -37,7 +41,7 @@ class SpotloomViewController : public QObject, public LocationDelegate, public F
   Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY changed)
   Q_PROPERTY(QString favoriteName READ favoriteName WRITE setFavoriteName NOTIFY changed)
   Q_PROPERTY(bool namingFavorite READ namingFavorite NOTIFY changed)
-  Q_PROPERTY(QString statusText READ statusText NOTIFY changed)
+  Q_PROPERTY(wayloom::StatusText* status READ status CONSTANT)
 
  public:
   struct Services {
@@ -47,6 +51,8 @@ class SpotloomViewController : public QObject, public LocationDelegate, public F
     Alerts& alerts;
     ScreenSwitcher& screens;
     std::shared_ptr<TileSource> tiles;
+    /// Whether the route file says that a drive is on; may be left out.
+    std::function<bool()> isDriving = {};
   };
 
   explicit SpotloomViewController(const Services& services, QObject* parent = nullptr);
@@ -107,7 +113,7 @@ class SpotloomViewController : public QObject, public LocationDelegate, public F
   QString favoriteName() const { return mView.favoriteName; }
   void setFavoriteName(const QString& name);
   bool namingFavorite() const { return mView.namingFavorite; }
-  QString statusText() const { return mView.statusText; }
+  StatusText* status() { return &mStatus; }
 
  Q_SIGNALS:
   void changed();
@@ -130,14 +136,17 @@ class SpotloomViewController : public QObject, public LocationDelegate, public F
     QString searchText;
     QString favoriteName;
     bool namingFavorite = false;
-    QString statusText;
 
     bool operator==(const View&) const = default;
   };
 
   /// Applies a change to what the controls show and announces it if there is one.
   template <typename Change>
-  void update(Change&& change);
+  void update(Change&& change) {
+    const View before = mView;
+    change(mView);
+    if (mView != before) Q_EMIT changed();
+  }
 
   /// Shows what kept something from being done: a rule in an alert, anything else in the status
   /// line, which a success clears. True after a success.
@@ -145,10 +154,16 @@ class SpotloomViewController : public QObject, public LocationDelegate, public F
   /// The same for what a switch or the slider wrote: after a failure they show what they showed
   /// `before`, or what the file says if it can be read.
   bool keep(const Status& written, const View& before);
+  void showStatus();
+  /// What is going on, which no file says, from now on.
+  void begin(FixedActivity activity);
   /// Moves the map to the file's position if that is on and elsewhere; true if it did.
   bool followPosition();
   void regionWillChange();
   void regionDidChange();
+  void moved(const Status& written);
+  void addressKnown(const std::string& address);
+  /// An empty address is one that is still being looked up.
   void showAddress(const QString& address);
   void startLocation();
 
@@ -157,6 +172,13 @@ class SpotloomViewController : public QObject, public LocationDelegate, public F
   Favorites mFavorites;
   QPointer<MapView> mMainMapView;
   View mView;
+  StatusText mStatus;
+  FixedActivity mActivity;
+  /// Whose addresses were asked for and are not known yet; the answers come in this order.
+  std::deque<Coordinate> mAsked;
+  /// The address that came last, empty where there is none, and of which place.
+  std::string mAddress;
+  Coordinate mAddressPlace;
   /// A move of the map is under way.
   bool mIsMapMoving = false;
   /// That move only follows the file.

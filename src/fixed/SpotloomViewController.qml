@@ -40,7 +40,7 @@ FocusScope {
 
             objectName: "mainMapView"
             anchors.fill: parent
-            anchors.topMargin: topView.y + topView.height
+            anchors.topMargin: topView.y + topView.height + statusLine.height
             zoomsAboutCenter: true
             focus: true
             onTapped: mainMapView.forceActiveFocus()
@@ -178,9 +178,14 @@ FocusScope {
             }
 
             StatusLine {
+                id: statusLine
+
                 anchors.top: parent.bottom
                 width: parent.width
-                text: root.controller.statusText
+                text: root.controller.status.text
+                isFailure: root.controller.status.isFailure
+                progress: root.controller.status.progress
+                Component.onCompleted: root.controller.status.announceFrom(statusLine)
             }
 
             // A touch beside the controls takes the keyboard away.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "geo/Coordinate.h"
@@ -13,6 +14,8 @@ struct Route {
   std::vector<Coordinate> polyline;
   double distanceMetres = 0;
   double expectedSeconds = 0;
+  /// The names of the regions whose roads are driven, where regions were asked.
+  std::vector<std::string> regions = {};
 };
 
 }  // namespace wayloom

@@ -1,13 +1,14 @@
 #pragma once
 
+#include <algorithm>
 #include <cmath>
 #include <osmium/area/assembler.hpp>
 #include <vector>
 
 namespace wayloom {
 
-/// Puts areas together as libosmium does, but leaves out those around half the world: its whole
-/// numbers overflow there.
+/// Puts areas together as libosmium does, but leaves out those of which the extract lacks nodes,
+/// and those around half the world: its whole numbers overflow there.
 class AreaAssembler : public osmium::area::Assembler {
  public:
   using osmium::area::Assembler::Assembler;
@@ -30,6 +31,8 @@ class AreaAssembler : public osmium::area::Assembler {
     double swept = 0;
     for (const osmium::Way* way : ways) {
       const auto& nodes = way->nodes();
+      const auto isPlaced = [](const osmium::NodeRef& node) { return node.location().valid(); };
+      if (!std::all_of(nodes.begin(), nodes.end(), isPlaced)) return false;
       for (std::size_t i = 1; i < nodes.size(); ++i) {
         const double x = nodes[i - 1].x(), y = nodes[i - 1].y();
         const double east = nodes[i].x() - x, north = nodes[i].y() - y;

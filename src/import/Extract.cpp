@@ -15,6 +15,8 @@
 #include <osmium/io/xml_input.hpp>
 #include <osmium/visitor.hpp>
 #include <system_error>
+#include <unordered_set>
+#include <utility>
 
 #include "import/AreaAssembler.h"
 #include "import/ExtractCheck.h"
@@ -82,7 +84,7 @@ std::string named(const char* kind, osmium::object_id_type id) {
 /// Checks every object, and hands on those with tags.
 class Sorter : public osmium::handler::Handler {
  public:
-  explicit Sorter(ExtractVisitor& visitor) : mVisitor(visitor) {}
+  Sorter(ExtractVisitor& visitor, ExtractGaps& gaps) : mVisitor(visitor), mGaps(gaps) {}
 
   void node(const osmium::Node& node) {
     if (!node.visible()) return;  // An editor's mark for what it deleted.
@@ -93,23 +95,22 @@ class Sorter : public osmium::handler::Handler {
     mBounds = {
         std::min(mBounds.west, position.longitude), std::min(mBounds.south, position.latitude),
         std::max(mBounds.east, position.longitude), std::max(mBounds.north, position.latitude)};
-    if (!node.tags().empty()) mVisitor.point(tagsOf(node.tags()), position);
+    if (!node.tags().empty()) mVisitor.point(tagsOf(node.tags()), {node.id(), position});
   }
 
   void way(const osmium::Way& way) {
     mHasWays = true;
     if (!way.visible()) return;
-    Line line;
+    std::vector<ExtractNode> part;
     for (const osmium::NodeRef& node : way.nodes()) {
-      if (!node.location().valid()) {
-        throw Stop{{named("way", way.id()) + " uses " + named("node", node.ref()) +
-                    ", which the file does not hold"}};
+      if (node.location().valid()) {
+        part.push_back({node.ref(), {node.lat(), node.lon()}});
+        continue;
       }
-      const Coordinate position{node.lat(), node.lon()};
-      if (line.empty() || line.back() != position) line.push_back(position);
+      addMissing(way.id(), node.ref());
+      addPart(way, std::exchange(part, {}));
     }
-    if (line.size() < 2 || way.tags().empty()) return;
-    mVisitor.line(way.id(), tagsOf(way.tags()), std::move(line));
+    addPart(way, part);
   }
 
   void area(const osmium::Area& area) const {
@@ -125,6 +126,23 @@ class Sorter : public osmium::handler::Handler {
   const RegionBounds& bounds() const { return mBounds; }
 
  private:
+  void addPart(const osmium::Way& way, const std::vector<ExtractNode>& nodes) {
+    Line line;
+    for (const ExtractNode& node : nodes) {
+      if (line.empty() || line.back() != node.position) line.push_back(node.position);
+    }
+    if (line.size() < 2 || way.tags().empty()) return;
+    mVisitor.line(way.id(), tagsOf(way.tags()), std::move(line), nodes);
+  }
+
+  void addMissing(osmium::object_id_type way, osmium::object_id_type node) {
+    constexpr std::size_t kMostExamples = 3;
+    if (!mMissing.insert(node).second) return;
+    ++mGaps.missingNodes;
+    if (mGaps.examples.size() == kMostExamples) return;
+    mGaps.examples.push_back(named("node", node) + " of " + named("way", way));
+  }
+
   static constexpr char outside[] = " lies outside the world";
 
   static Line ringOf(const osmium::NodeRefList& nodes) {
@@ -134,6 +152,8 @@ class Sorter : public osmium::handler::Handler {
   }
 
   ExtractVisitor& mVisitor;
+  ExtractGaps& mGaps;
+  std::unordered_set<osmium::object_id_type> mMissing;
   bool mHasWays = false;
   static constexpr double kInfinity = std::numeric_limits<double>::infinity();
   RegionBounds mBounds = {kInfinity, kInfinity, -kInfinity, -kInfinity};
@@ -183,24 +203,23 @@ class Reading {
   const WorkProgress& mProgress;
 };
 
-RegionBounds readAll(Reading& reading, ExtractVisitor& visitor) {
+RegionBounds readAll(Reading& reading, ExtractVisitor& visitor, ExtractGaps& gaps) {
   osmium::area::AssemblerConfig config;
   config.create_empty_areas = false;
   AreaManager areas(config, areaFilter());
-  TurnRelations turns;
+  TurnRelations turns(visitor, gaps);
   reading.check();
   reading.pass("Reading relations", osmium::osm_entity_bits::relation, areas, turns);
   areas.prepare_for_lookup();
 
-  Sorter sorter(visitor);
+  Sorter sorter(visitor, gaps);
   Locations locations;
   Locations negatives;
   LocationHandler placing(locations, negatives);
   placing.ignore_errors();
   auto& assembling =
       areas.handler([&](const osmium::memory::Buffer& buffer) { osmium::apply(buffer, sorter); });
-  reading.pass("Reading the map", osmium::osm_entity_bits::nwr, placing, turns, sorter, assembling);
-  turns.visit(visitor);
+  reading.pass("Reading the map", osmium::osm_entity_bits::nwr, placing, sorter, assembling);
   return sorter.bounds();
 }
 
@@ -214,7 +233,7 @@ std::string extractStem(const std::filesystem::path& path) {
 }
 
 Result<RegionBounds> readExtract(const std::filesystem::path& path, ExtractVisitor& visitor,
-                                 const WorkProgress& progress) {
+                                 const WorkProgress& progress, ExtractGaps& gaps) {
   const Form* form = formOf(path);
   if (!form) return failed("its name is not that of an extract");
   std::error_code error;
@@ -223,7 +242,7 @@ Result<RegionBounds> readExtract(const std::filesystem::path& path, ExtractVisit
   if (std::filesystem::file_size(path, error) == 0) return failed("it is empty");
   try {
     Reading reading(path, *form, progress);
-    const RegionBounds bounds = readAll(reading, visitor);
+    const RegionBounds bounds = readAll(reading, visitor, gaps);
     if (!isValid(bounds)) return failed("it holds no map data");
     return bounds;
   } catch (const Stop& stop) {

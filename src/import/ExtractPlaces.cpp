@@ -52,8 +52,8 @@ std::vector<std::string> otherNames(const OsmTags& tags) {
 // A postcode says where it is by its digits; nothing for what has none.
 std::string postcodeOf(const OsmTags& tags) {
   constexpr std::size_t kLongest = 12;
-  std::string code = trimmedText(std::string(tagOf(tags, "addr:postcode")));
-  if (code.empty()) code = trimmedText(std::string(tagOf(tags, "postal_code")));
+  std::string code = trimmedText(tagOf(tags, "addr:postcode"));
+  if (code.empty()) code = trimmedText(tagOf(tags, "postal_code"));
   const bool isOne = code.size() <= kLongest && code.find(';') == std::string::npos &&
                      code.find_first_of("0123456789") != std::string::npos;
   return isOne ? code : std::string();

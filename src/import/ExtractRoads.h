@@ -1,11 +1,10 @@
 #pragma once
 
-#include <map>
 #include <vector>
 
 #include "import/Extract.h"
 #include "regions/Database.h"
-#include "regions/RoadGraphBuilder.h"
+#include "roads/RoadGraphBuilder.h"
 
 namespace wayloom {
 
@@ -13,20 +12,29 @@ namespace wayloom {
 /// then writes the road network. Used by one thread.
 class ExtractRoads {
  public:
-  void addPoint(const OsmTags& tags, Coordinate position);
-  void addLine(std::int64_t way, const OsmTags& tags, const Line& line);
-  void addTurn(const ExtractTurn& turn) { mTurns.push_back(turn); }
+  void addPoint(const OsmTags& tags, const ExtractNode& node);
+  void addLine(std::int64_t way, const OsmTags& tags, const std::vector<ExtractNode>& nodes);
+  void addRestriction(RoadRestriction restriction) {
+    mRules.restrictions.push_back(std::move(restriction));
+  }
+  /// On which side one drives where a way does not say it.
+  void keepLeft(bool keepsLeft);
 
   std::size_t count() const { return mWays.size(); }
+  const std::vector<RoadWay>& ways() const { return mWays; }
+  const RoadRules& rules() const { return mRules; }
 
-  Status write(Database& database) const;
+  /// What did not fit is added to `faults`.
+  Status write(Database& database, RoadFaults& faults) const;
 
  private:
   std::vector<RoadWay> mWays;
-  /// The number of each way among mWays.
-  std::map<std::int64_t, std::size_t> mNumbers;
-  std::vector<Coordinate> mBarriers;
-  std::vector<ExtractTurn> mTurns;
+  /// The numbers of those among mWays that say on which side one drives.
+  std::vector<std::size_t> mSided;
+  RoadRules mRules;
 };
+
+/// Whether one drives on the left in a country, by its name in English.
+bool drivesOnTheLeft(std::string_view country);
 
 }  // namespace wayloom

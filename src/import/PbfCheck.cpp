@@ -185,15 +185,21 @@ class Pieces {
     }
     if (headerSize > format::max_blob_header_size) throw osmium::pbf_error("blob header too long");
     const std::string header = next(headerSize);
+    constexpr int kType = 1;
     constexpr int kDataSize = 3;
+    bool hasType = false;
     std::int32_t size = 0;
     for (pbf_reader reader(header); reader.next();) {
       if (reader.tag() == kDataSize && reader.wire_type() == pbf_wire_type::varint) {
         size = reader.get_int32();
+      } else if (reader.tag() == kType && reader.wire_type() == pbf_wire_type::length_delimited) {
+        hasType = reader.get_view().size() > 0;
       } else {
         reader.skip();
       }
     }
+    // libosmium compares the type of a blob without any with a null pointer.
+    if (!header.empty() && !hasType) throw osmium::pbf_error("blob without a type");
     if (size < 0 || static_cast<std::uint64_t>(size) > format::max_uncompressed_blob_size) {
       throw osmium::pbf_error("blob too long");
     }

@@ -18,6 +18,10 @@ namespace {
 
 constexpr char kAttribution[] = "© OpenStreetMap contributors";
 
+const std::string& countryOf(const Place& place) {
+  return place.kind == PlaceKind::kCountry ? place.name : place.country;
+}
+
 DrawingShape shapeOf(DrawingShape::Kind kind, const std::vector<Line>& lines) {
   DrawingShape shape{kind, {}};
   for (const Line& line : lines) {
@@ -30,14 +34,15 @@ DrawingShape shapeOf(DrawingShape::Kind kind, const std::vector<Line>& lines) {
 /// Everything that an extract holds, sorted by what it is for.
 class Content : public ExtractVisitor {
  public:
-  void point(const OsmTags& tags, Coordinate position) override {
-    mRoads.addPoint(tags, position);
-    mPlaces.addPoint(tags, position);
-    mNames.addPoint(tags, position);
+  void point(const OsmTags& tags, const ExtractNode& node) override {
+    mRoads.addPoint(tags, node);
+    mPlaces.addPoint(tags, node.position);
+    mNames.addPoint(tags, node.position);
   }
 
-  void line(std::int64_t way, const OsmTags& tags, Line line) override {
-    mRoads.addLine(way, tags, line);
+  void line(std::int64_t way, const OsmTags& tags, Line line,
+            const std::vector<ExtractNode>& nodes) override {
+    mRoads.addLine(way, tags, nodes);
     mPlaces.addLine(tags, line);
     mLand.addLine(tags, line);
     if (tagOf(tags, "area") == "yes" && line.front() == line.back()) return;
@@ -52,14 +57,16 @@ class Content : public ExtractVisitor {
     }
   }
 
-  void turn(const ExtractTurn& turn) override { mRoads.addTurn(turn); }
+  void restriction(RoadRestriction restriction) override {
+    mRoads.addRestriction(std::move(restriction));
+  }
 
   bool isEmpty() const {
     return mLand.count() + mRoads.count() + mPlaces.count() + mStreets.size() == 0;
   }
 
   Status write(Database& database, const RegionBounds& bounds, const RegionStore& installed,
-               const WorkProgress& progress);
+               const WorkProgress& progress, RoadFaults& faults);
 
  private:
   void addStreet(const OsmTags& tags, DrawingShape shape) {
@@ -93,9 +100,12 @@ Status Content::writeNames(Database& database, const RegionBounds& bounds,
 }
 
 Status Content::write(Database& database, const RegionBounds& bounds, const RegionStore& installed,
-                      const WorkProgress& progress) {
+                      const WorkProgress& progress, RoadFaults& faults) {
   auto index = PlaceIndex::open(installed);
   if (!index) return index.failure();
+  const auto area =
+      index->areaAt({(bounds.south + bounds.north) / 2, (bounds.west + bounds.east) / 2});
+  mRoads.keepLeft(area && drivesOnTheLeft(countryOf(*area)));
   std::vector<PlaceLabel> labels;
   const std::pair<std::string_view, std::function<Status()>> steps[] = {
       {"Drawing the land", [&] { return mLand.write(database); }},
@@ -103,7 +113,7 @@ Status Content::write(Database& database, const RegionBounds& bounds, const Regi
       {"Drawing streets",
        [&] { return mStreets.empty() ? done() : addStreetDrawing(database, mStreets, labels); }},
       {"Listing places", [&] { return mPlaces.write(database, *index); }},
-      {"Joining roads", [&] { return mRoads.write(database); }},
+      {"Joining roads", [&] { return mRoads.write(database, faults); }},
   };
   double share = 0;
   for (const auto& [name, work] : steps) {
@@ -116,9 +126,9 @@ Status Content::write(Database& database, const RegionBounds& bounds, const Regi
 
 Result<Region> build(const std::filesystem::path& extract, const std::filesystem::path& target,
                      const std::string& name, const RegionStore& installed,
-                     const WorkProgress& progress) {
+                     const WorkProgress& progress, ImportReport& report) {
   Content content;
-  const auto bounds = readExtract(extract, content, progress);
+  const auto bounds = readExtract(extract, content, progress, report.gaps);
   if (!bounds) return bounds.failure();
   if (content.isEmpty()) return failed("it holds no roads, places or land");
   const RegionInfo info{name, kAttribution, *bounds};
@@ -127,7 +137,7 @@ Result<Region> build(const std::filesystem::path& extract, const std::filesystem
   if (error) return failed(target.parent_path().string() + ": " + error.message());
   auto writer = RegionWriter::create(target, info);
   if (!writer) return writer.failure();
-  auto status = content.write(writer->database(), *bounds, installed, progress);
+  auto status = content.write(writer->database(), *bounds, installed, progress, report.faults);
   if (status) status = writer->commit();
   if (!status) return status.failure();
   return Region{target, info};
@@ -137,14 +147,17 @@ Result<Region> build(const std::filesystem::path& extract, const std::filesystem
 
 Result<Region> importRegion(const std::filesystem::path& extract,
                             const std::filesystem::path& folder, const std::string& name,
-                            const RegionStore& installed, const WorkProgress& progress) {
+                            const RegionStore& installed, const WorkProgress& progress,
+                            ImportReport* report) {
   if (extractStem(extract).empty()) {
     return failed("its name ends in none of .osm.pbf, .osm, .osm.gz and .osm.bz2");
   }
   const auto target = newRegionPath(folder, name, installed);
   if (!target) return target.failure();
   try {
-    return build(extract, *target, name, installed.without(*target), progress);
+    ImportReport unread;
+    return build(extract, *target, name, installed.without(*target), progress,
+                 report ? *report : unread);
   } catch (const std::exception& fault) {
     return failed(fault.what());
   }

@@ -1,36 +1,28 @@
 #pragma once
 
-#include <map>
 #include <osmium/handler.hpp>
-#include <osmium/osm/node.hpp>
 #include <osmium/osm/relation.hpp>
-#include <set>
-#include <vector>
+#include <string_view>
 
 #include "import/Extract.h"
 
 namespace wayloom {
 
-/// Collects the turn restrictions for cars at single nodes: first from the relations, then the
-/// positions of their nodes. Restrictions over whole ways, for some hours or for others than cars
-/// are passed over.
+/// Reads restrictions of turns from relations, as far as they bind cars.
 class TurnRelations : public osmium::handler::Handler {
  public:
-  void relation(const osmium::Relation& relation);
-  void node(const osmium::Node& node);
+  /// Both outlive this object.
+  TurnRelations(ExtractVisitor& visitor, ExtractGaps& gaps) : mVisitor(visitor), mGaps(gaps) {}
 
-  /// Those whose node was found.
-  void visit(ExtractVisitor& visitor) const;
+  void relation(const osmium::Relation& relation);
 
  private:
-  struct Turn {
-    ExtractTurn turn;
-    osmium::object_id_type via = 0;
-  };
+  void visit(const osmium::Relation& relation, std::string_view kind,
+             const std::vector<RoadHours>& hours);
+  void visitConditional(const osmium::Relation& relation, std::string_view values);
 
-  std::vector<Turn> mTurns;
-  std::map<osmium::object_id_type, Coordinate> mPositions;
-  std::set<osmium::object_id_type> mVias;
+  ExtractVisitor& mVisitor;
+  ExtractGaps& mGaps;
 };
 
 }  // namespace wayloom

@@ -32,7 +32,7 @@ TileLoader::TileLoader(std::shared_ptr<TileSource> source, std::int64_t cacheByt
     : mSource(std::move(source)), mCacheLimitBytes(cacheBytes) {
   const int count = std::clamp(mSource->concurrency(), 1, kMostWorkers);
   for (int i = 0; i < count; ++i) {
-    mWorkers.emplace_back([this](std::stop_token stop) { work(std::move(stop)); });
+    mWorkers.emplace_back([this](const std::stop_token& stop) { work(stop); });
   }
 }
 
@@ -73,7 +73,7 @@ QImage TileLoader::image(const TileRequest& tile) {
   return entry->second.image;
 }
 
-void TileLoader::work(std::stop_token stop) {
+void TileLoader::work(const std::stop_token& stop) {
   yieldToMainThread();
   while (true) {
     TileRequest tile;

@@ -66,7 +66,7 @@ class TileLoader : public QObject {
     QImage image;
   };
 
-  void work(std::stop_token stop);
+  void work(const std::stop_token& stop);
   QImage draw(const TileRequest& tile) const;
   void collect();
   void keep(const Drawn& drawn);

@@ -16,6 +16,8 @@ namespace {
 constexpr std::size_t kMostCharacters = 64;
 constexpr std::string_view kBands = "CDEFGHJKLMNPQRSTUVWX";
 constexpr std::size_t kSouthernBands = 10;
+// Separators, and the letters of "672000 mE" and "N6399000": eastings come first in any case.
+constexpr std::string_view kBetweenNumbers = " ,;:/MEN";
 
 bool isDigit(char character) {
   return character >= '0' && character <= '9';
@@ -44,9 +46,7 @@ std::optional<UtmParts> utmParts(const std::string& text) {
   UtmParts parts;
   bool hasZone = false;
   for (std::size_t at = text.starts_with("UTM") ? 3 : 0; at < text.size();) {
-    if (std::string_view(" ,;:/").find(text[at]) != std::string_view::npos) {
-      ++at;
-    } else if (isDigit(text[at])) {
+    if (isDigit(text[at])) {
       double number = 0;
       const auto read =
           std::from_chars(&text[at], text.data() + text.size(), number, std::chars_format::fixed);
@@ -62,8 +62,8 @@ std::optional<UtmParts> utmParts(const std::string& text) {
       }
     } else if (text.compare(at, 4, "ZONE") == 0) {
       at += 4;
-    } else if (text[at] == 'M' || text[at] == 'E' || text[at] == 'N') {
-      ++at;  // "672000 mE", "N6399000": eastings come first here as everywhere.
+    } else if (kBetweenNumbers.find(text[at]) != kBetweenNumbers.npos) {
+      ++at;
     } else {
       return std::nullopt;
     }

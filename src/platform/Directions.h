@@ -15,6 +15,8 @@ struct DirectionsRequest {
   Coordinate source;
   Coordinate destination;
   bool requestsAlternateRoutes = false;
+  /// When the drive starts, in seconds since 1970; what the service does not need it may ignore.
+  std::optional<double> startTime = std::nullopt;
 };
 
 /// What a directions service answers: routes, the best first, or an error text. Without an error

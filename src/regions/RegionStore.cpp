@@ -82,7 +82,8 @@ Result<Database> openRegion(const std::filesystem::path& path) {
   if (!version) return Failure{"the file is damaged: " + version.failure().message};
   if (*version != kRegionVersion) {
     return Failure{"the file is of version " + std::to_string(*version) +
-                   ", this program reads version " + std::to_string(kRegionVersion)};
+                   ", this program reads version " + std::to_string(kRegionVersion) +
+                   "; make it anew with 'wayloomctl region import'"};
   }
   // Such code in a file could keep a query going for ever; no region needs it.
   const auto code =

@@ -4,6 +4,8 @@
 #include <charconv>
 #include <cstdlib>
 #include <fcntl.h>
+#include <mutex>
+#include <set>
 #include <string>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -51,6 +53,24 @@ void removeLeftovers(const std::filesystem::path& folder) {
   }
 }
 
+/// The temporary files of this process.
+struct Unfinished {
+  std::mutex mutex;
+  std::set<std::filesystem::path> files;
+  bool isOneInPlace = false;
+};
+
+Unfinished& unfinished() {
+  static Unfinished all;
+  return all;
+}
+
+void removeUnfinished(const std::filesystem::path& file) {
+  const std::lock_guard lock(unfinished().mutex);
+  ::unlink(file.c_str());
+  unfinished().files.erase(file);
+}
+
 std::filesystem::path folderOf(const std::filesystem::path& target) {
   return target.has_parent_path() ? target.parent_path() : ".";
 }
@@ -61,10 +81,12 @@ std::filesystem::path folderOf(const std::filesystem::path& target) {
 Result<RegionWriter::Temporary> RegionWriter::makeTemporary(const std::filesystem::path& target) {
   removeLeftovers(folderOf(target));
   std::string pattern = temporaryPattern(target).string();
+  const std::lock_guard guard(unfinished().mutex);
   auto lock = std::make_unique<Descriptor>(::mkostemp(pattern.data(), O_CLOEXEC));
   if (lock->get() < 0) return systemFailure("cannot create", target);
   ::flock(lock->get(), LOCK_EX);
   ::fchmod(lock->get(), S_IRUSR | S_IWUSR | S_IRGRP | S_IROTH);
+  unfinished().files.insert(pattern);
   return Temporary{pattern, std::move(lock)};
 }
 
@@ -79,7 +101,7 @@ RegionWriter::RegionWriter(RegionWriter&& other) noexcept
       mDatabase(std::move(other.mDatabase)) {}
 
 RegionWriter::~RegionWriter() {
-  if (!mTemporary.path.empty()) ::unlink(mTemporary.path.c_str());
+  if (!mTemporary.path.empty()) removeUnfinished(mTemporary.path);
 }
 
 Result<RegionWriter> RegionWriter::create(const std::filesystem::path& target,
@@ -94,7 +116,7 @@ Result<RegionWriter> RegionWriter::create(const std::filesystem::path& target,
   if (!temporary) return temporary.failure();
   auto database = Database::openForBuilding(temporary->path);
   if (!database) {
-    ::unlink(temporary->path.c_str());
+    removeUnfinished(temporary->path);
     return Failure{"cannot write " + target.string() + ": " + database.failure().message};
   }
   RegionWriter writer(target, std::move(*temporary), std::move(*database));
@@ -131,7 +153,19 @@ Status RegionWriter::commit() {
   if (auto status = mDatabase.close(); !status) return status;
   const Descriptor file(::open(mTemporary.path.c_str(), O_RDWR | O_CLOEXEC));
   if (file.get() < 0 || ::fsync(file.get()) != 0) return systemFailure("cannot write", mTarget);
-  return putInPlace(mTemporary.path, mTarget);
+  const std::lock_guard lock(unfinished().mutex);
+  auto status = putInPlace(mTemporary.path, mTarget);
+  unfinished().isOneInPlace = unfinished().isOneInPlace || status;
+  return status;
+}
+
+bool RegionWriter::abandonAll() {
+  std::unique_lock lock(unfinished().mutex);
+  if (unfinished().isOneInPlace) return false;
+  for (const auto& file : unfinished().files) ::unlink(file.c_str());
+  // Held until the process has ended.
+  (void)lock.release();
+  return true;
 }
 
 }  // namespace wayloom

@@ -29,6 +29,11 @@ class RegionWriter {
   /// writer is of no use afterwards.
   Status commit();
 
+  /// For who ends this process while a thread of it writes: removes what is not finished and lets
+  /// nothing be begun or finished any more. False, with nothing done, once a region is in its
+  /// place.
+  static bool abandonAll();
+
  private:
   struct Temporary {
     std::filesystem::path path;

@@ -52,6 +52,7 @@ void PathPlan::drawMapLine(Coordinate start, Coordinate end) {
 void PathPlan::findDirectionsFromTo(Coordinate source, Coordinate destination) {
   Q_EMIT started();
   mIsRouteError = false;
+  mDrive.reset();
   mDirections.calculate(
       {.source = source, .destination = destination, .requestsAlternateRoutes = true},
       [self = QPointer(this), source, destination](const DirectionsAnswer& answer) {
@@ -66,11 +67,16 @@ void PathPlan::complete(Coordinate source, Coordinate destination, const Directi
   cleanPath();
   if (answer.error || answer.routes.empty() || answer.routes.front().polyline.empty()) {
     mIsRouteError = true;
+    mDrive = PlannedDrive{.hasFailed = true};
+    Q_EMIT answered();
     return;
   }
-  const std::vector<Coordinate>& path = answer.routes.front().polyline;
+  const Route& route = answer.routes.front();
+  const std::vector<Coordinate>& path = route.polyline;
+  mDrive = PlannedDrive{.metres = route.distanceMetres, .seconds = route.expectedSeconds};
   *mPoints = RoutePoints::planned(path);
   Q_EMIT planned();
+  Q_EMIT answered();
   if (!mMapView) return;
   buildStart();
   buildEnd();

@@ -1,12 +1,14 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 #include <QtCore/QObject>
 #include <QtCore/QPointer>
 
 #include "map/MapView.h"
 #include "platform/Directions.h"
+#include "route/DriveStatus.h"
 #include "route/RoutePoints.h"
 
 namespace wayloom {
@@ -35,12 +37,16 @@ class PathPlan : public QObject {
   void setPoints(RoutePoints points);
   /// The last plan failed; false from the start of the next one.
   bool isRouteError() const { return mIsRouteError; }
+  /// What came of the last plan; none while it is asked for.
+  const std::optional<PlannedDrive>& drive() const { return mDrive; }
 
  Q_SIGNALS:
   void started();
   void ended();
   /// There is a new path.
   void planned();
+  /// There is a new drive().
+  void answered();
 
  private:
   void findDirectionsFromTo(Coordinate source, Coordinate destination);
@@ -53,6 +59,7 @@ class PathPlan : public QObject {
   QPointer<MapView> mMapView;
   std::shared_ptr<RoutePoints> mPoints = std::make_shared<RoutePoints>();
   bool mIsRouteError = false;
+  std::optional<PlannedDrive> mDrive;
 };
 
 }  // namespace wayloom

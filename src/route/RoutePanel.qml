@@ -9,6 +9,8 @@ Rectangle {
     required property Screens.WayloomViewController controller
 
     readonly property int stripHeight: 54
+    /// The line below the panel.
+    readonly property int statusHeight: statusLine.height
 
     /// Where the panel is bound for: its top, in points from the window's.
     readonly property real restingY: controller.collapsed ? stripHeight - height : 0
@@ -146,8 +148,13 @@ Rectangle {
     }
 
     StatusLine {
+        id: statusLine
+
         anchors.top: parent.bottom
         width: parent.width
-        text: panel.controller.statusText
+        text: panel.controller.status.text
+        isFailure: panel.controller.status.isFailure
+        progress: panel.controller.status.progress
+        Component.onCompleted: panel.controller.status.announceFrom(statusLine)
     }
 }

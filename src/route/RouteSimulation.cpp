@@ -56,7 +56,7 @@ Status RouteSimulation::refresh() {
   return done();
 }
 
-void RouteSimulation::turnOn(RouteChoices choices, std::shared_ptr<RoutePoints> points,
+void RouteSimulation::turnOn(RouteChoices choices, const std::shared_ptr<RoutePoints>& points,
                              bool isRouteError, const TurnedOn& turnedOn) {
   if (const char* refusal = refusalToTurnOn(choices, *points, isRouteError)) {
     return turnedOn(refused(refusal));

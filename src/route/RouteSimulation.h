@@ -75,7 +75,7 @@ class RouteSimulation {
 
   /// Turns a drive on along `points`, which are shared from then on, or refuses. The answer comes
   /// when the file is written.
-  void turnOn(RouteChoices choices, std::shared_ptr<RoutePoints> points, bool isRouteError,
+  void turnOn(RouteChoices choices, const std::shared_ptr<RoutePoints>& points, bool isRouteError,
               const TurnedOn& turnedOn);
   /// Marks the drive as off and leaves everything else. The answer comes when the file is written.
   void turnOff(const TurnedOff& turnedOff);

@@ -1,14 +1,13 @@
 #include "route/WayloomViewController.h"
 
 #include <chrono>
-#include <cmath>
 
-#include <QtCore/QDateTime>
-
+#include "fixed/FixedStatus.h"
 #include "kit/FailureText.h"
 #include "kit/LocalizedText.h"
 #include "kit/ShownText.h"
 #include "map/ShownPoint.h"
+#include "route/DriveStatus.h"
 #include "settings/ModeSwitch.h"
 
 namespace wayloom {
@@ -16,11 +15,6 @@ namespace wayloom {
 namespace {
 
 constexpr std::chrono::seconds kTick{1};
-
-QString timeText(double secondsSince1970) {
-  return QDateTime::fromSecsSinceEpoch(static_cast<qint64>(secondsSince1970))
-      .toString(QStringLiteral("MM-dd HH:mm"));
-}
 
 }  // namespace
 
@@ -33,17 +27,11 @@ WayloomViewController::WayloomViewController(const Services& services, QObject* 
   connect(&mTimer, &QTimer::timeout, this, &WayloomViewController::refreshLocation);
   connect(&mPlan, &PathPlan::started, this, [this] { showHUDView(); });
   connect(&mPlan, &PathPlan::ended, this, [this] { hideHUDView(); });
+  connect(&mPlan, &PathPlan::answered, this, &WayloomViewController::showStatus);
   connect(&mPlan, &PathPlan::planned, this, [this] { mSimulation.prepare(*mPlan.points()); });
   connect(&dp_drive, &DatePicker::valueChanged, this, [this] {
     if (mView.pickerShown) pickerValueChanged();
   });
-}
-
-template <typename Change>
-void WayloomViewController::update(Change&& change) {
-  const View before = mView;
-  change(mView);
-  if (mView != before) Q_EMIT changed();
 }
 
 void WayloomViewController::viewDidLoad(MapView* map) {
@@ -59,7 +47,7 @@ void WayloomViewController::viewDidLoad(MapView* map) {
   });
   dp_drive.start(mServices.clock.secondsSince1970());
 
-  report(mSimulation.refresh());
+  refresh();
   mShownVersion = mSimulation.preferences().version;
   const bool isOn = mSimulation.preferences().enabled();
   update([&](View& view) {
@@ -94,16 +82,23 @@ void WayloomViewController::restore() {
   mTimer.start();
 }
 
+void WayloomViewController::refresh() {
+  mStatus.setReading(mSimulation.refresh());
+  showStatus();
+}
+
 void WayloomViewController::viewWillAppear() {
-  report(mSimulation.refresh());
+  refresh();
   showSwitch();
 }
 
 void WayloomViewController::followFiles() {
   if (!mv_main || mSimulation.isWriting()) return;
-  if (!mSimulation.isCurrent()) report(mSimulation.refresh());
+  if (!mSimulation.isCurrent()) refresh();
   const RoutePreferences& preferences = mSimulation.preferences();
+  showStatus();
   if (std::exchange(mShownVersion, preferences.version) == preferences.version) return;
+  mStatus.setFailure({});
   showSwitch();
   if (preferences.enabled()) {
     restore();
@@ -118,9 +113,34 @@ void WayloomViewController::showSwitch() {
 }
 
 bool WayloomViewController::report(const Status& status) {
-  const QString text = failureText(status, mServices.alerts);
-  update([&](View& view) { view.statusText = text; });
+  mStatus.setFailure(failureText(status, mServices.alerts));
+  showStatus();
   return static_cast<bool>(status);
+}
+
+bool WayloomViewController::isDriving() {
+  if (!mSimulation.isCurrent()) refresh();
+  return mSimulation.preferences().enabled();
+}
+
+Phrase WayloomViewController::statusPhrase() const {
+  const RoutePreferences& preferences = mSimulation.preferences();
+  if (preferences.enabled()) return driveStatus(mSimulation.now(), preferences);
+  // The other simulation may be on all the same.
+  const auto fixed = readFixedLocation(mServices.files);
+  if (fixed && fixed->enabled) return fixedStatus(*fixed, {});
+  return mIsChoosing ? choiceStatus(choices(), mPlan.drive()) : Phrase{"Off"};
+}
+
+void WayloomViewController::showStatus() {
+  if (mSimulation.isWriting()) return;
+  mStatus.show(statusPhrase(), progressAt(mSimulation.now(), mSimulation.preferences()),
+               mServices.files, {SettingsFile::Route, SettingsFile::Master});
+}
+
+void WayloomViewController::showChoices() {
+  mIsChoosing = true;
+  showStatus();
 }
 
 void WayloomViewController::setEnable(bool on) {
@@ -130,15 +150,6 @@ void WayloomViewController::setEnable(bool on) {
   } else {
     turnOff();
   }
-}
-
-RouteChoices WayloomViewController::choices() const {
-  return {.start = mStartCoordinate,
-          .end = mEndCoordinate,
-          .startTime = mStartTime,
-          .endTime = mEndTime,
-          .startText = mView.startText.toStdString(),
-          .endText = mView.endText.toStdString()};
 }
 
 void WayloomViewController::turnOn() {
@@ -174,6 +185,8 @@ void WayloomViewController::turnedOff(const Status& status) {
 }
 
 void WayloomViewController::endDrive() {
+  mIsChoosing = false;
+  showStatus();
   update([](View& view) { view.tipText.clear(); });
   down();
   mPlan.cleanPath();
@@ -185,6 +198,7 @@ void WayloomViewController::endDrive() {
 
 void WayloomViewController::refreshLocation() {
   follow(mSimulation.position());
+  showStatus();
 }
 
 void WayloomViewController::follow(std::optional<Coordinate> position) {
@@ -223,63 +237,6 @@ void WayloomViewController::locationSuccess(Location* /*location*/, double /*lat
 void WayloomViewController::locationFailed(Location* /*location*/,
                                            const std::optional<std::string>& /*error*/) {
   hideHUDView();
-}
-
-bool WayloomViewController::refusesEdit() {
-  const char* refusal = mSimulation.refusalToLeave();
-  if (refusal) showHUDHintText(localizedText(refusal));
-  return refusal != nullptr;
-}
-
-void WayloomViewController::startTapped() {
-  if (!refusesEdit()) chooseAddress(mStartCoordinate, &View::startText);
-}
-
-void WayloomViewController::endTapped() {
-  if (!refusesEdit()) chooseAddress(mEndCoordinate, &View::endText);
-}
-
-void WayloomViewController::chooseAddress(Coordinate& place, QString View::*label) {
-  mServices.screens.presentSelectAddress(
-      [this, &place, label](double latitude, double longitude, const QString& address) {
-        if (!isChosen({latitude, longitude})) return;
-        place = {latitude, longitude};
-        update([&](View& view) { view.*label = address; });
-        drawMapLine();
-      });
-}
-
-void WayloomViewController::startTimeTapped() {
-  if (refusesEdit()) return;
-  mIsStart = true;
-  showDatePicker();
-}
-
-void WayloomViewController::endTimeTapped() {
-  if (refusesEdit()) return;
-  mIsStart = false;
-  showDatePicker();
-}
-
-void WayloomViewController::showDatePicker() {
-  dp_drive.start(mServices.clock.secondsSince1970());
-  update([](View& view) { view.pickerShown = true; });
-}
-
-void WayloomViewController::hideDatePicker() {
-  update([](View& view) { view.pickerShown = false; });
-}
-
-void WayloomViewController::pickerValueChanged() {
-  const double seconds = std::trunc(dp_drive.date());
-  (mIsStart ? mStartTime : mEndTime) = seconds;
-  update(
-      [&](View& view) { (mIsStart ? view.startTimeText : view.endTimeText) = timeText(seconds); });
-}
-
-void WayloomViewController::pickerButtonClicked() {
-  hideDatePicker();
-  pickerValueChanged();
 }
 
 void WayloomViewController::up() {

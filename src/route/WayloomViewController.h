@@ -8,6 +8,7 @@
 #include "kit/BaseViewController.h"
 #include "kit/DatePicker.h"
 #include "kit/ScreenSwitcher.h"
+#include "kit/StatusText.h"
 #include "map/MapView.h"
 #include "places/LocationClass.h"
 #include "platform/Alerts.h"
@@ -31,7 +32,7 @@ class WayloomViewController : public wayloom::BaseViewController, public Locatio
   Q_PROPERTY(QString startTimeText READ startTimeText NOTIFY changed)
   Q_PROPERTY(QString endTimeText READ endTimeText NOTIFY changed)
   Q_PROPERTY(QString tipText READ tipText NOTIFY changed)
-  Q_PROPERTY(QString statusText READ statusText NOTIFY changed)
+  Q_PROPERTY(wayloom::StatusText* status READ status CONSTANT)
   Q_PROPERTY(wayloom::DatePicker* picker READ picker CONSTANT)
 
  public:
@@ -57,6 +58,8 @@ class WayloomViewController : public wayloom::BaseViewController, public Locatio
   /// Another program may have changed the route file: a drive that was turned on there goes on here
   /// as after a start, one that was turned off ends.
   void followFiles() override;
+  /// Whether the route file says that a drive is on, shown or not.
+  bool isDriving();
 
   Q_INVOKABLE void setEnable(bool on);
   /// Shows where the drive is now.
@@ -91,7 +94,7 @@ class WayloomViewController : public wayloom::BaseViewController, public Locatio
   QString startTimeText() const { return mView.startTimeText; }
   QString endTimeText() const { return mView.endTimeText; }
   QString tipText() const { return mView.tipText; }
-  QString statusText() const { return mView.statusText; }
+  StatusText* status() { return &mStatus; }
   DatePicker* picker() { return &dp_drive; }
 
  Q_SIGNALS:
@@ -108,14 +111,17 @@ class WayloomViewController : public wayloom::BaseViewController, public Locatio
     QString startTimeText;
     QString endTimeText;
     QString tipText;
-    QString statusText;
 
     bool operator==(const View&) const = default;
   };
 
   /// Applies a change to what the controls show and announces it if there is one.
   template <typename Change>
-  void update(Change&& change);
+  void update(Change&& change) {
+    const View before = mView;
+    change(mView);
+    if (mView != before) Q_EMIT changed();
+  }
 
   void turnOn();
   void turnedOn(const Result<double>& startTime);
@@ -126,6 +132,12 @@ class WayloomViewController : public wayloom::BaseViewController, public Locatio
   /// Shows what kept something from being done: a rule in an alert, anything else in the status
   /// line, which a success clears. True after a success.
   bool report(const Status& status);
+  /// Reads the file again.
+  void refresh();
+  void showStatus();
+  Phrase statusPhrase() const;
+  /// The status line says what is chosen, from now on.
+  void showChoices();
   /// The switch shows what the file says.
   void showSwitch();
   void restore();
@@ -135,6 +147,8 @@ class WayloomViewController : public wayloom::BaseViewController, public Locatio
   bool refusesEdit();
   void chooseAddress(Coordinate& place, QString View::*label);
   RouteChoices choices() const;
+  /// A chosen time as its label shows it.
+  static QString timeText(double secondsSince1970);
 
   Services mServices;
   RouteSimulation mSimulation;
@@ -143,6 +157,9 @@ class WayloomViewController : public wayloom::BaseViewController, public Locatio
   QPointer<MapView> mv_main;
   QTimer mTimer;
   View mView;
+  StatusText mStatus;
+  /// Something was chosen, or planned, since the last drive.
+  bool mIsChoosing = false;
 
   /// The drive's file that tip, panel, path and timer belong to.
   std::optional<FileVersion> mShownVersion;

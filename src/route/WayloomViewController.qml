@@ -22,8 +22,8 @@ FocusScope {
 
             objectName: "mv_main"
             anchors.fill: parent
-            // Below the panel, which it also lies under while that slides away.
-            anchors.topMargin: Math.min(v_top.y, v_top.restingY) + v_top.height
+            // Below the panel and its line, which it also lies under while they slide away.
+            anchors.topMargin: Math.min(v_top.y, v_top.restingY) + v_top.height + v_top.statusHeight
             focus: true
             onTapped: mv_main.forceActiveFocus()
             Accessible.role: Accessible.Graphic

@@ -58,7 +58,7 @@ PropertyListFile::PropertyListFile(fs::path path, Root root, FileSystem& system)
     : mPath(std::move(path)), mRoot(root), mSystem(system) {}
 
 PropertyListFile::Contents PropertyListFile::read() const {
-  setSound(std::nullopt);
+  forget();
   FileReading reading = readFile(mPath, kMaximumPropertyListBytes, mSystem);
   switch (reading.outcome) {
     case Outcome::Missing:
@@ -80,6 +80,7 @@ PropertyListFile::Contents PropertyListFile::read() const {
 }
 
 PropertyListFile::Contents PropertyListFile::damaged(std::string problem) const {
+  const std::lock_guard lock(mMutex);
   mDamage = Damage{problem, {}};
   return {State::Damaged, {}, std::move(problem)};
 }
@@ -101,6 +102,7 @@ Status PropertyListFile::writeBytes(std::string_view bytes) {
   if (result) result = replaceFile(mPath, bytes, mSystem);
   setSound(result ? versionAt(mPath) : std::nullopt);
   if (!result) takeBack(mPath, furtherName, mSystem);
+  const std::lock_guard lock(mMutex);
   if (result && mDamage && !furtherName.empty()) mDamage->keptAs = furtherName;
   return result;
 }
@@ -108,6 +110,17 @@ Status PropertyListFile::writeBytes(std::string_view bytes) {
 std::optional<FileVersion> PropertyListFile::soundVersion() const {
   const std::lock_guard lock(mMutex);
   return mSound;
+}
+
+std::optional<PropertyListFile::Damage> PropertyListFile::damage() const {
+  const std::lock_guard lock(mMutex);
+  return mDamage;
+}
+
+void PropertyListFile::forget() const {
+  const std::lock_guard lock(mMutex);
+  mSound.reset();
+  if (mDamage && mDamage->keptAs.empty()) mDamage.reset();
 }
 
 void PropertyListFile::setSound(const std::optional<FileVersion>& version) const {

@@ -54,13 +54,13 @@ class PropertyListFile {
   /// The same with the bytes of an XML property list that has the right root.
   Status writeBytes(std::string_view bytes);
 
-  /// How the file was when it was last found damaged.
+  /// How the file was when it was last found damaged, unless somebody else has mended it.
   struct Damage {
     std::string problem;
     /// The further name that it got when it was replaced; empty while it is not.
     std::filesystem::path keptAs;
   };
-  const std::optional<Damage>& damage() const { return mDamage; }
+  std::optional<Damage> damage() const;
 
   /// The version last read or written, if it was sound.
   std::optional<FileVersion> soundVersion() const;
@@ -69,11 +69,13 @@ class PropertyListFile {
   Contents damaged(std::string problem) const;
   bool isRightRoot(const PropertyList& value) const;
   Status setAsideIfDamaged(std::filesystem::path& furtherName) const;
+  /// What the last reading found.
+  void forget() const;
+  void setSound(const std::optional<FileVersion>& version) const;
 
   std::filesystem::path mPath;
   Root mRoot;
   FileSystem& mSystem;
-  void setSound(const std::optional<FileVersion>& version) const;
 
   mutable std::mutex mMutex;
   mutable std::optional<FileVersion> mSound;

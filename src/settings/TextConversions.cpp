@@ -66,6 +66,10 @@ std::string formatReal(double value) {
   return std::string(buffer.data(), written.ptr);
 }
 
+std::string coordinateText(Coordinate coordinate) {
+  return formatReal(coordinate.latitude) + ", " + formatReal(coordinate.longitude);
+}
+
 bool boolValue(std::string_view text) {
   text = withoutLeadingSpace(text);
   if (!text.empty() && (text.front() == '+' || text.front() == '-')) {

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "geo/Coordinate.h"
 #include "settings/PropertyList.h"
 
 namespace wayloom {
@@ -17,6 +18,8 @@ std::string formatFlag(bool on);
 /// Six digits after the decimal point, no exponent: 48.858370. Not-a-number and infinities read
 /// "nan", "-nan", "inf", "-inf".
 std::string formatReal(double value);
+/// Latitude and longitude for a person: "57.706547, 11.967100".
+std::string coordinateText(Coordinate coordinate);
 
 // Readers are lenient: white space may lead, a sign may follow, whatever stands behind the value is
 // ignored, and a text that holds no value reads as false or 0.

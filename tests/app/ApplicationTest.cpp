@@ -1,5 +1,4 @@
 #include <QtCore/QSettings>
-#include <QtTest/QAbstractItemModelTester>
 #include <QtTest/QTest>
 
 #include "app/AppDelegate.h"
@@ -7,15 +6,13 @@
 #include "map/MapView.h"
 #include "regions/RegionWriter.h"
 #include "settings/ModeSwitch.h"
+#include "tests/support/CheckedModel.h"
 #include "tests/support/TemporaryRoot.h"
 
 namespace wayloom {
 namespace {
 
-using Texts = std::map<std::string, std::string>;
 using Dictionary = PropertyList::Dictionary;
-constexpr auto kFatal = QAbstractItemModelTester::FailureReportingMode::Fatal;
-
 void collect(const QQuickItem* item, const QString& name, QList<const QQuickItem*>& found) {
   if (item->objectName() == name) found.append(item);
   for (const QQuickItem* child : item->childItems()) collect(child, name, found);
@@ -38,7 +35,7 @@ class ApplicationTest : public testing::Test {
     const QVariant modals = application->window().rootObject()->property("modals");
     auto* model = modals.value<QAbstractItemModel*>();
     ASSERT_NE(model, nullptr);
-    new QAbstractItemModelTester(model, kFatal, model);
+    checkModel(model);
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&application->window()));
   }
   void stop() {
@@ -55,24 +52,6 @@ class ApplicationTest : public testing::Test {
   std::optional<AppDelegate> application;
   std::optional<WindowDriver> window;
 };
-
-TEST_F(ApplicationTest, TheMasterFileNamesTheScreenOfTheStart) {
-  const struct {
-    std::optional<PropertyList> mode;
-    bool isFixed;
-  } cases[] = {{std::nullopt, false}, {"0", false}, {"1", true}, {"x", false},
-               {"-2", true},          {7, true},    {true, true}};
-  int number = 0;
-  for (const auto& test : cases) {
-    if (test.mode) {
-      ASSERT_TRUE(files.save(SettingsFile::Master, Dictionary{{"mode", *test.mode}}));
-    }
-    start();
-    EXPECT_EQ(isIn("mainMapView"), test.isFixed) << "case " << number;
-    EXPECT_EQ(isIn("mv_main"), !test.isFixed) << "case " << number++;
-    stop();
-  }
-}
 
 TEST_F(ApplicationTest, TheFirstMapShowsTwoKilometresAroundTheDevice) {
   std::filesystem::create_directories(root.path() / "regions");
@@ -124,36 +103,6 @@ TEST_F(ApplicationTest, ComingToTheFrontRefreshesTheScreenOfTheModeOnly) {
   EXPECT_TRUE(window->find("enableSwitch")->property("checked").toBool());
 }
 
-TEST_F(ApplicationTest, AFavouriteIsSwipedAwayAndAnotherChosen) {
-  ASSERT_TRUE(files.writeMasterMode(Mode::FixedLocation));
-  const PropertyList home =
-      Dictionary{{"name", "Home"}, {"latitude", "57.700000"}, {"longitude", "11.900000"}};
-  const PropertyList work =
-      Dictionary{{"name", "Work"}, {"latitude", "57.800000"}, {"longitude", "12.000000"}};
-  ASSERT_TRUE(files.save(SettingsFile::Favorites, PropertyList::Array{home, work}));
-  start();
-  ASSERT_TRUE(window->click("favoritesButton"));
-  ASSERT_TRUE(window->waitForScreen("mainTableView"));
-
-  const QPoint from = window->find("mainTableView")->mapToScene({340, 20}).toPoint();
-  QTest::mousePress(&application->window(), Qt::LeftButton, Qt::NoModifier, from);
-  for (int step = 1; step <= 10; ++step) {
-    QTest::mouseMove(&application->window(), from - QPoint(20 * step, 0), 10);
-  }
-  QTest::mouseRelease(&application->window(), Qt::LeftButton, Qt::NoModifier,
-                      from - QPoint(200, 0));
-  ASSERT_TRUE(
-      window->waitUntil("the delete button", [&] { return window->click("deleteButton"); }));
-  EXPECT_EQ(arrayIn(files, SettingsFile::Favorites), PropertyList::Array{work});
-
-  window->press(Qt::Key_Down);
-  window->press(Qt::Key_Return);
-  ASSERT_TRUE(window->waitUntil("the screen below", [&] { return isIn("mainMapView"); }));
-  EXPECT_TRUE(window->property("enableSwitch", "checked").toBool());
-  EXPECT_EQ(textsIn(files, SettingsFile::Location),
-            (Texts{{"enable", "1"}, {"latitude", "57.800000"}, {"longitude", "12.000000"}}));
-}
-
 TEST_F(ApplicationTest, ModalScreensLieOverOneAnotherAndLeaveByKey) {
   start();
   ASSERT_TRUE(window->click("btn_info"));
@@ -166,107 +115,6 @@ TEST_F(ApplicationTest, ModalScreensLieOverOneAnotherAndLeaveByKey) {
   window->press(Qt::Key_Escape);
   ASSERT_TRUE(window->waitUntil(
       "the route screen", [&] { return isIn("mv_main") && window->find("mv_main")->isEnabled(); }));
-
-  ASSERT_TRUE(files.save(SettingsFile::Route, Dictionary{{"enable", "0"}}));
-  ASSERT_TRUE(window->click("lb_start"));
-  ASSERT_TRUE(window->waitForScreen("buttonBar"));
-  ASSERT_TRUE(files.save(SettingsFile::Route, Dictionary{{"enable", "1"}}));
-  ASSERT_TRUE(window->click("btn_cancel"));
-  EXPECT_TRUE(window->waitUntil("the switch", [&] {
-    return window->find("enableSwitch")->property("checked").toBool();
-  })) << "the screen below appears again, and reads its file";
-}
-
-/// `files` play the other program here.
-TEST_F(ApplicationTest, FollowsAnotherProgramsFixedLocationAndWritesNothingThereby) {
-  ASSERT_TRUE(files.writeMasterMode(Mode::FixedLocation));
-  start();
-  ASSERT_TRUE(window->waitForMap("mainMapView"));
-  const auto isOn = [this] { return window->property("enableSwitch", "checked").toBool(); };
-  const auto* map = qobject_cast<MapView*>(window->find("mainMapView"));
-  for (const double place : {10.0, 20.0}) {
-    const std::string degrees = std::to_string(place);
-    ASSERT_TRUE(files.saveLocationSettings(
-        Dictionary{{"enable", "1"}, {"latitude", degrees}, {"longitude", degrees}, {"a", "1"}}));
-    const std::string written = bytesOf(files.path(SettingsFile::Location));
-    EXPECT_TRUE(window->waitUntil("the map to follow", [&] {
-      const Coordinate center = map->region().center;
-      return isOn() && std::abs(center.latitude - place) < 1e-6 &&
-             std::abs(center.longitude - place) < 1e-6;
-    }));
-    EXPECT_EQ(bytesOf(files.path(SettingsFile::Location)), written);
-  }
-  ASSERT_TRUE(window->click("s_auto"));
-  EXPECT_EQ(textsIn(files, SettingsFile::Location)["latitude"], "20.000000");
-  ASSERT_TRUE(files.saveLocationSettings(Dictionary{{"enable", "0"}}));
-  EXPECT_TRUE(window->waitUntil("the switch", [&] { return !isOn(); }));
-}
-
-TEST_F(ApplicationTest, FollowsAnotherProgramsModeAndDrive) {
-  ASSERT_TRUE(files.writeMasterMode(Mode::FixedLocation));
-  start();
-  ASSERT_TRUE(isIn("mainMapView"));
-  const auto write = [this](const char* enable, const char* to) {
-    const PropertyList point = Dictionary{{"lat", 1.5}, {"lng", 2.5}};
-    return files.save(SettingsFile::Route, Dictionary{{"enable", enable},
-                                                      {"start", "1000"},
-                                                      {"end", "2000"},
-                                                      {"e", to},
-                                                      {"points", PropertyList::Array{point}}});
-  };
-  ASSERT_TRUE(files.writeMasterMode(Mode::Route));
-  ASSERT_TRUE(write("1", "Somewhere"));
-  const auto tip = [this] { return window->property("lb_tip", "text").toString(); };
-  EXPECT_TRUE(window->waitUntil("the drive", [&] {
-    return isIn("mv_main") && tip() == "Wayloom is working" &&
-           window->property("lb_end", "text") == "Somewhere";
-  }));
-  ASSERT_TRUE(write("1", "Elsewhere"));
-  EXPECT_TRUE(window->waitUntil("the other drive",
-                                [&] { return window->property("lb_end", "text") == "Elsewhere"; }));
-  ASSERT_TRUE(write("0", "Elsewhere"));
-  EXPECT_TRUE(window->waitUntil("the drive's end", [&] {
-    return tip().isEmpty() && !window->property("enableSwitch", "checked").toBool() &&
-           window->find("v_top")->property("restingY").toReal() == 0;
-  }));
-
-  ASSERT_TRUE(window->click("btn_info"));
-  ASSERT_TRUE(window->waitForScreen("InfoViewController"));
-  ASSERT_TRUE(files.writeMasterMode(Mode::FixedLocation));
-  window->press(Qt::Key_Escape);
-  EXPECT_TRUE(window->waitUntil("the other screen", [&] { return isIn("mainMapView"); }))
-      << "a mode switched meanwhile is followed at the end";
-}
-
-TEST_F(ApplicationTest, AListThatIsOpenTakesInWhatAnotherProgramAddsAndUndoesOneByOne) {
-  const auto favorite = [](const char* name) {
-    return PropertyList(Dictionary{{"name", name}, {"latitude", "1"}, {"longitude", "2"}});
-  };
-  const PropertyList::Array two{favorite("one"), favorite("two")};
-  ASSERT_TRUE(files.writeMasterMode(Mode::FixedLocation));
-  ASSERT_TRUE(files.save(SettingsFile::Favorites, two));
-  start();
-  ASSERT_TRUE(window->click("favoritesButton"));
-  ASSERT_TRUE(window->waitForScreen("mainTableView"));
-  ASSERT_TRUE(
-      files.save(SettingsFile::Favorites, PropertyList::Array{favorite("zero"), two[0], two[1]}));
-  const auto rows = [this] { return window->property("mainTableView", "count").toInt(); };
-  EXPECT_TRUE(window->waitUntil("the new row", [&] { return rows() == 3; }));
-
-  ASSERT_TRUE(files.save(SettingsFile::Favorites, two));
-  const auto deleteFirst = [this] {
-    window->find("mainTableView")->setProperty("currentIndex", 0);
-    window->press(Qt::Key_Delete);
-  };
-  deleteFirst();
-  EXPECT_EQ(arrayIn(files, SettingsFile::Favorites), two) << "it was gone already";
-  deleteFirst();
-  deleteFirst();
-  EXPECT_EQ(arrayIn(files, SettingsFile::Favorites), PropertyList::Array());
-  ASSERT_TRUE(window->waitUntil("the way back", [&] { return isIn("undoButton"); }));
-  ASSERT_TRUE(window->click("undoButton"));
-  ASSERT_TRUE(window->click("undoButton"));
-  EXPECT_EQ(arrayIn(files, SettingsFile::Favorites), two);
 }
 
 }  // namespace

@@ -69,8 +69,9 @@ class FailedWritesTest : public testing::Test {
         const std::string what = std::string(control) + ": " + fault.call + std::to_string(number);
         const bool isWritten = stored(name, key) == wished;
         EXPECT_EQ(shown(), isWritten) << what;
+        application->didBecomeActive();
         if (!isWritten) {
-          EXPECT_TRUE(window->isShown("statusLine")) << what;
+          EXPECT_TRUE(window->property("statusLine", "isFailure").toBool()) << what;
         }
       }
     }

@@ -36,6 +36,7 @@ Texts shownTexts() {
     const std::string extension = entry.path().extension().string();
     if (extension != ".cpp" && extension != ".qml") continue;
     const QString source = QString::fromStdString(bytesOf(entry.path()));
+    addMatches(texts, source, R"--(Phrase\{\s*"([^"]+)")--");
     addMatches(texts, source, R"--(localizedText\(\s*"([^"]+)")--");
     addMatches(texts, source, R"--(qsTranslate\(\s*"Wayloom",\s*"([^"]+)")--");
     addMatches(texts, source,

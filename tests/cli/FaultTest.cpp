@@ -4,7 +4,7 @@
 #include "cli/Arguments.h"
 #include "regions/RegionWriter.h"
 #include "route/RouteFile.h"
-#include "tests/regions/AsciiRoads.h"
+#include "tests/roads/AsciiRoads.h"
 #include "tests/support/FailingFiles.h"
 #include "tests/support/TemporaryRoot.h"
 

@@ -1,7 +1,9 @@
 // The joined application, off screen, touched as lines on standard input say. Each line is answered
-// by one on standard output when what it asked for is over: "done", "refused TEXT" after an alert,
-// "failed TEXT" when the status line says so.
-//   window_by_command ROOT
+// by one on standard output when what it asked for is over: "done SCREEN SWITCH", with the screen
+// that was touched and what the touched switch then shows, "refused TEXT" after an alert, "failed
+// TEXT" when the status line says so, "cannot LINE"; "shown" by the screen, its switch and the
+// status line, "say LABEL" by its text, "rows" by how many the list has.
+//   window_by_command ROOT REGIONS
 
 #include <cstdio>
 #include <iostream>
@@ -22,15 +24,33 @@ class Commands {
  public:
   explicit Commands(AppDelegate& application) : mWindow(application.window(), {}) {}
 
+  std::string answer(const std::string& line) {
+    if (line == "shown") return shown();
+    if (line.starts_with("say ")) return text(line.substr(4).c_str());
+    if (line == "rows") return std::to_string(mWindow.property("mainTableView", "count").toInt());
+    mTouched = screen();
+    const bool isRun = run(line);
+    QCoreApplication::processEvents();
+    return isRun ? outcome() : "cannot " + line;
+  }
+
+ private:
   /// False for a line that is no command, or that cannot be done as things are.
   bool run(const std::string& line) {
     const auto blank = line.find(' ');
     const std::string word = line.substr(0, blank);
-    if (word == "add") return add(QString::fromStdString(line.substr(blank + 1)));
-    if (word == "delete") return deleteFirst();
-    if (word == "enable") return mWindow.click("enableSwitch");
-    if (word == "drift") return mWindow.click("s_auto");
-    if (word == "exchange") return mWindow.click("btn_exchange");
+    const QString rest = QString::fromStdString(blank == line.npos ? "" : line.substr(blank + 1));
+    if (word == "add") return add(rest);
+    if (word == "find") return find(rest);
+    if (word == "enable") return toggle("enableSwitch");
+    if (word == "drift") return toggle("s_auto");
+    if (word == "exchange") return exchange();
+    if (word == "info") return open("btn_info", "InfoViewController");
+    if (word == "favorites") return open("favoritesButton", "mainTableView");
+    if (word == "choose") return choose();
+    if (word == "remove") return pressFirst(Qt::Key_Delete);
+    if (word == "undo") return mWindow.isShown("undoButton") && mWindow.click("undoButton");
+    if (word == "close") return close();
     return word == "wait";
   }
 
@@ -41,11 +61,77 @@ class Commands {
       mWindow.click("alertButton");
       return "refused " + message.toStdString();
     }
-    const QString status = mWindow.property("statusLine", "text").toString();
-    return status.isEmpty() ? "done" : "failed " + status.toStdString();
+    const std::string status = text("statusLine");
+    const bool isFailure = mWindow.property("statusLine", "isFailure").toBool();
+    return isFailure && !status.empty() ? "failed " + status : "done " + mTouched;
   }
 
- private:
+  std::string shown() {
+    return screen() + (isChecked("enableSwitch") ? " 1 " : " 0 ") + text("statusLine");
+  }
+
+  std::string screen() {
+    if (mWindow.isShown("mainMapView")) return "fixed";
+    return mWindow.isShown("mv_main") ? "route" : "modal";
+  }
+
+  std::string text(const char* name) {
+    return mWindow.property(name, "text").toString().toStdString();
+  }
+  bool isChecked(const char* name) { return mWindow.property(name, "checked").toBool(); }
+
+  bool toggle(const char* name) {
+    if (!mWindow.isShown(name) || !mWindow.click(name)) return false;
+    mTouched += isChecked(name) ? " 1" : " 0";
+    return true;
+  }
+
+  bool exchange() {
+    if (!mWindow.isShown("btn_exchange")) return false;
+    // The button glides while the drift panel comes or goes.
+    const bool stands = mWindow.waitUntil("the mode button", [this] {
+      const QQuickItem* button = mWindow.find("btn_exchange");
+      return button->window()->height() - button->y() == (mWindow.isShown("v_auto") ? 130 : 86);
+    });
+    mTouched = screen();
+    return stands && mWindow.click("btn_exchange");
+  }
+
+  bool open(const char* button, const char* screen) {
+    return mWindow.isShown(button) && mWindow.click(button) && mWindow.waitForScreen(screen);
+  }
+
+  bool isBack() {
+    const QQuickItem* map = mWindow.find(mWindow.isShown("mv_main") ? "mv_main" : "mainMapView");
+    return screen() != "modal" && map && map->isEnabled();
+  }
+
+  bool close() {
+    mWindow.press(Qt::Key_Escape);
+    return mWindow.waitUntil("the screen below", [this] { return isBack(); });
+  }
+
+  bool pressFirst(Qt::Key key) {
+    if (screen() != "modal" || mWindow.property("mainTableView", "count").toInt() == 0)
+      return false;
+    mWindow.press(Qt::Key_Home);
+    mWindow.press(key);
+    return true;
+  }
+
+  bool choose() {
+    return pressFirst(Qt::Key_Return) && mWindow.waitUntil("the screen below", [this] {
+      return !text("statusLine").empty() && (screen() == "modal" || isBack());
+    });
+  }
+
+  bool find(const QString& position) {
+    if (!mWindow.isShown("searchField") || !mWindow.click("searchField")) return false;
+    mWindow.type("#:" + position);
+    mWindow.press(Qt::Key_Return);
+    return true;
+  }
+
   bool add(const QString& name) {
     const auto isOpen = [this] {
       const QQuickItem* field = mWindow.find("favoritesNameField");
@@ -55,33 +141,26 @@ class Commands {
     QMetaObject::invokeMethod(mWindow.find("favoritesNameField"), "selectAll");
     mWindow.type(name);
     if (!mWindow.click("okButton")) return false;
-    return mWindow.isShown("statusLine") || mWindow.waitUntil("the name panel's end", [this] {
-      return !mWindow.isShown("alertView");
-    });
-  }
-
-  bool deleteFirst() {
-    if (!mWindow.click("favoritesButton") || !mWindow.waitForScreen("mainTableView")) return false;
-    mWindow.press(Qt::Key_Home);
-    mWindow.press(Qt::Key_Delete);
-    mWindow.press(Qt::Key_Escape);
-    return mWindow.waitForScreen("mainMapView");
+    return mWindow.property("statusLine", "isFailure").toBool() ||
+           mWindow.waitUntil("the name panel's end",
+                             [this] { return !mWindow.isShown("alertView"); });
   }
 
   WindowDriver mWindow;
+  std::string mTouched;
 };
 
 }  // namespace
 
 int main(int argc, char* argv[]) {
-  if (argc != 2) return 2;
+  if (argc != 3) return 2;
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qputenv("QT_QUICK_BACKEND", "software");
   QGuiApplication application(argc, argv);
   const std::filesystem::path root = argv[1];
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
                      QString::fromStdString((root / "remembered").string()));
-  AppServices services({.root = root, .regions = root / "regions", .configuredPositionOnly = true});
+  AppServices services({.root = root, .regions = argv[2], .configuredPositionOnly = true});
   AppDelegate delegate(services);
   if (!delegate.didFinishLaunching()) return 1;
   Commands commands(delegate);
@@ -90,9 +169,7 @@ int main(int argc, char* argv[]) {
     std::string line;
     if (!std::getline(std::cin, line)) return QGuiApplication::quit();
     input.setEnabled(false);
-    const bool isRun = commands.run(line);
-    QCoreApplication::processEvents();
-    std::cout << (isRun ? commands.outcome() : "cannot " + line) << std::endl;
+    std::cout << commands.answer(line) << std::endl;
     input.setEnabled(true);
   });
   std::cout << "ready" << std::endl;

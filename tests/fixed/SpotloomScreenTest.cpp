@@ -100,14 +100,6 @@ TEST_F(SpotloomScreenTest, APositionThatNoMapShowsStaysUntilThePersonMovesTheMap
   EXPECT_GT(std::stod(stored().at("latitude")), -85.1);
 }
 
-TEST_F(SpotloomScreenTest, ANumberTooLargeForAPositionIsNotWrittenBack) {
-  open({{"enable", "1"}, {"latitude", "1e999"}, {"longitude", "20"}});
-  EXPECT_EQ(stored().at("latitude"), "1e999");
-  screen.click("enableSwitch");
-  EXPECT_EQ(stored().at("enable"), "0");
-  EXPECT_EQ(stored().at("latitude"), "0.000000");
-}
-
 TEST_F(SpotloomScreenTest, WithoutAFileItGoesToTheDeviceAndTheSwitchSpringsBackOnce) {
   open({});
   ASSERT_NE(screen.position, nullptr);
@@ -120,6 +112,7 @@ TEST_F(SpotloomScreenTest, WithoutAFileItGoesToTheDeviceAndTheSwitchSpringsBackO
   screen.click("enableSwitch");
   EXPECT_FALSE(screen.find("enableSwitch")->property("checked").toBool());
   EXPECT_EQ(stored(), (Texts{{"(missing)", ""}}));
+  EXPECT_EQ(textOf("statusLine"), "Touch again: there was no settings file yet");
   screen.click("enableSwitch");
   EXPECT_TRUE(screen.find("enableSwitch")->property("checked").toBool());
   EXPECT_EQ(stored(),
@@ -204,6 +197,7 @@ TEST_F(SpotloomScreenTest, AddressSearchTurnsOffUntilItFinds) {
   EXPECT_EQ(textOf("searchField"), "");
   EXPECT_TRUE(screen.find("HUD")->property("shown").toBool());
   EXPECT_TRUE(screen.find("enableSwitch")->property("checked").toBool());
+  EXPECT_EQ(textOf("statusLine"), "Searching …");
 
   screen.geocoder.addresses[0].second({{{{{57.5, 11.5}, {"Avenyn"}}}}, std::nullopt});
   EXPECT_FALSE(screen.find("HUD")->property("shown").toBool());
@@ -216,6 +210,7 @@ TEST_F(SpotloomScreenTest, AddressSearchTurnsOffUntilItFinds) {
   screen.click("searchButton");
   screen.geocoder.addresses[1].second({std::nullopt, "none"});
   EXPECT_EQ(textOf("addressLabel"), "Unknow");
+  EXPECT_EQ(textOf("statusLine"), "Nothing found for nowhere: the position is off");
   EXPECT_TRUE(screen.find("HUD")->property("shown").toBool()) << "this path leaves it";
   EXPECT_EQ(stored().at("enable"), "0");
   controller->viewWillAppear();
@@ -279,6 +274,28 @@ TEST_F(SpotloomScreenTest, ShowsTheAddressOfTheCentreAndSavesItAsAFavourite) {
       (PropertyList::Array{PropertyList::Dictionary{{"name", "Unknow"},
                                                     {"latitude", stored().at("latitude")},
                                                     {"longitude", stored().at("longitude")}}}));
+}
+
+TEST_F(SpotloomScreenTest, TheStatusLineIsHeardAndLiesOverNothing) {
+  open(kOn);
+  QStringList heard;
+  QObject::connect(controller->status(), &StatusText::announced, map,
+                   [&] { heard += textOf("statusLine"); });
+  answerAddress({{{{{0, 0}, {"Avenyn, Göteborg"}}}}, std::nullopt});
+  screen.click("enableSwitch");
+  EXPECT_EQ(heard, (QStringList{"On at Avenyn, Göteborg", "Off"}));
+
+  screen.click("enableSwitch");
+  screen.view.resize(320, 480);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return screen.find("btn_mine")->y() == 480 - 130; }));
+  const auto place = [&](const char* name) {
+    const QQuickItem* item = screen.find(name);
+    return item->mapRectToScene(item->boundingRect());
+  };
+  EXPECT_EQ(place("statusLine").height(), 28);
+  for (const char* other : {"topView", "mainMapView", "v_auto", "btn_mine", "btn_exchange"}) {
+    EXPECT_TRUE((place(other) & place("statusLine")).isEmpty()) << other;
+  }
 }
 
 TEST_F(SpotloomScreenTest, TheModeButtonIsRefusedWhileThePositionIsOn) {

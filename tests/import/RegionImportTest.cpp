@@ -2,7 +2,7 @@
 #include "regions/DrawingShape.h"
 #include "regions/PlaceIndex.h"
 #include "regions/RegionWriter.h"
-#include "regions/Router.h"
+#include "roads/Router.h"
 #include "tests/import/OsmText.h"
 #include "tests/regions/SmallIndex.h"
 
@@ -146,7 +146,7 @@ TEST_F(RegionImportTest, RefusesBadExtractsInOneLine) {
       {"a.osm", node("lat='47' lon='438.4967296'"), "a position lies outside the world"},
       {"a.osm", "<!DOCTYPE osm [<!ENTITY a 'b'>]>" + good, "it declares entities"},
       {"a.osm", OsmText().node(1).way(7, {1, 2}, {{"highway", "road"}}).str(),
-       "way 7 uses node 2, which the file does not hold"},
+       "it holds no roads, places or land"},
       {"a.osm", head + "<way id='1'/><node id='1' lat='47' lon='9'/></osm>",
        "node 1 stands behind the ways"},
       {"a.txt", good, "ends in none of"},

@@ -1,6 +1,6 @@
-#include <QtTest/QAbstractItemModelTester>
 
 #include "lists/FavoritesViewController.h"
+#include "tests/support/CheckedModel.h"
 #include "tests/support/ScreenHarness.h"
 
 namespace wayloom {
@@ -9,7 +9,6 @@ namespace {
 using Array = PropertyList::Array;
 using Dictionary = PropertyList::Dictionary;
 
-constexpr auto kFatal = QAbstractItemModelTester::FailureReportingMode::Fatal;
 const PropertyList kPlace =
     Dictionary{{"name", "Home"}, {"latitude", "1.000000"}, {"longitude", "2.000000"}};
 
@@ -21,7 +20,7 @@ class FavoritesScreenTest : public testing::Test, public FavoritesDelegate {
       ASSERT_TRUE(screen.files.save(SettingsFile::Favorites, places));
     }
     controller.emplace(screen.files, *this);
-    new QAbstractItemModelTester(controller->favorites(), kFatal, controller->favorites());
+    checkModel(controller->favorites());
     QObject::connect(&*controller, &ModalViewController::dismissed,
                      [this] { happened += "dismissed at " + latitude() + ' '; });
     ASSERT_TRUE(screen.show("FavoritesViewController",

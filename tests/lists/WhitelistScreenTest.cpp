@@ -1,9 +1,9 @@
 #include <QtQml/QQmlEngine>
-#include <QtTest/QAbstractItemModelTester>
 
 #include "lists/ApplicationIcons.h"
 #include "lists/WhitelistViewController.h"
 #include "platform/QtIconRasterizer.h"
+#include "tests/support/CheckedModel.h"
 #include "tests/support/FakeHomeScreen.h"
 #include "tests/support/ScreenHarness.h"
 
@@ -11,8 +11,6 @@ namespace wayloom {
 namespace {
 
 using Dictionary = PropertyList::Dictionary;
-constexpr auto kFatal = QAbstractItemModelTester::FailureReportingMode::Fatal;
-
 /// A picture of one colour, as the home screen gives it.
 std::string square(const char* colour) {
   return rasterizeIcon(std::string("<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'>"
@@ -27,7 +25,7 @@ class WhitelistScreenTest : public testing::Test {
     screen.view.engine()->addImageProvider(ApplicationIcons::providerName(),
                                            new ApplicationIcons(home));
     controller.emplace(screen.files, home);
-    new QAbstractItemModelTester(controller->appArray(), kFatal, controller->appArray());
+    checkModel(controller->appArray());
     QObject::connect(&*controller, &ModalViewController::dismissed, [this] { dismissed = true; });
     ASSERT_TRUE(screen.show("WhitelistViewController",
                             {{"controller", QVariant::fromValue(&*controller)}}));

@@ -11,7 +11,7 @@ namespace {
 
 using namespace std::chrono_literals;
 using Exchange = LoopbackServer::Exchange;
-constexpr auto kLimit = 60s;
+constexpr auto kPatience = 60s;
 
 constexpr const char* kTwoPlaces = R"({"status": "OK", "results": [
   {"formatted_address": "Main St 12, Springfield",
@@ -37,7 +37,7 @@ class WebGeocoderTest : public testing::Test {
     std::vector<GeocoderAnswer> answers;
     geocoder.geocodeAddress("x", std::nullopt,
                             [&](const auto& given) { answers.push_back(given); });
-    EXPECT_TRUE(loop.runUntil([&] { return !answers.empty(); }, kLimit));
+    EXPECT_TRUE(loop.runUntil([&] { return !answers.empty(); }, kPatience));
     answers.resize(1);
     return answers.front();
   }

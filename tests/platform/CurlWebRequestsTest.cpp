@@ -12,7 +12,7 @@ namespace {
 
 using namespace std::chrono_literals;
 using Exchange = LoopbackServer::Exchange;
-constexpr auto kLimit = 60s;
+constexpr auto kRequestLimit = 60s;
 
 class Recorder : public WebRequestDelegate {
  public:
@@ -52,7 +52,7 @@ class CurlWebRequestsTest : public testing::Test {
 
   void get(const WebRequest& request) {
     const auto connection = requests.start(request, recorder);
-    EXPECT_TRUE(loop.runUntil([this] { return recorder->ends > 0; }, kLimit)) << request.url;
+    EXPECT_TRUE(loop.runUntil([this] { return recorder->ends > 0; }, kRequestLimit)) << request.url;
     EXPECT_EQ(recorder.use_count(), 1) << "the delegate is still held after the end";
   }
 
@@ -157,7 +157,7 @@ TEST_F(CurlWebRequestsTest, SaysNothingAfterACancellationOrItsOwnEnd) {
     exchange.awaitHangUp();
   });
   auto connection = requests.start({.url = server.address()}, recorder);
-  ASSERT_TRUE(loop.runUntil([&] { return recorder->body == "half"; }, kLimit));
+  ASSERT_TRUE(loop.runUntil([&] { return recorder->body == "half"; }, kRequestLimit));
   connection.reset();
   EXPECT_EQ(recorder.use_count(), 1);
 
@@ -166,7 +166,7 @@ TEST_F(CurlWebRequestsTest, SaysNothingAfterACancellationOrItsOwnEnd) {
   auto shortLived = std::make_unique<CurlWebRequests>(loop);
   connection = shortLived->start({.url = server.address()}, second);
   const auto third = shortLived->start({.url = server.address()}, second);
-  ASSERT_TRUE(loop.runUntil([&] { return second->body == "half"; }, kLimit));
+  ASSERT_TRUE(loop.runUntil([&] { return second->body == "half"; }, kRequestLimit));
   shortLived.reset();
   EXPECT_EQ(recorder->ends + second->ends, 0);
   EXPECT_EQ(second.use_count(), 1);

@@ -8,7 +8,7 @@ namespace wayloom {
 namespace {
 
 using namespace std::chrono_literals;
-constexpr auto kLimit = 30s;
+constexpr auto kLoopLimit = 30s;
 
 TEST(RunLoopTest, FiresTimersByDelayOnlyOnceAndNoCancelledOne) {
   RunLoop loop;
@@ -24,7 +24,7 @@ TEST(RunLoopTest, FiresTimersByDelayOnlyOnceAndNoCancelledOne) {
     fired += *witness;
   });
   cancelled.reset();
-  EXPECT_TRUE(loop.runUntil([&] { return fired.size() > 3; }, kLimit));
+  EXPECT_TRUE(loop.runUntil([&] { return fired.size() > 3; }, kLoopLimit));
   EXPECT_EQ(fired, "abcd");
   EXPECT_EQ(witness.use_count(), 1) << "the loop still holds the work of a timer that fired";
 }

@@ -184,11 +184,13 @@ TEST_F(WayloomScreenTest, TheWholeStoryFromAnEmptyScreenToTheNextStart) {
   refused("Path planning failure, rechoose Start/End please");
   answerDirections({});
   EXPECT_FALSE(hudIsShown());
+  EXPECT_EQ(textOf("statusLine"), "No roads lead from A place to Another");
   refused("Path planning failure, rechoose Start/End please");
   EXPECT_TRUE(stored().empty());
 
   pick("lb_end", {57.72, 12.0}, "Another");
   answerDirections(kPath);
+  EXPECT_EQ(textOf("statusLine"), "Drive: 1.0 km, 1 min; you gave 1 h 0 min, 1 km/h");
   ASSERT_EQ(map->annotations().size(), 2U);
   EXPECT_EQ(map->annotations()[0]->tag, 111111);
   EXPECT_EQ(map->annotations()[0]->coordinate, kPath.back());
@@ -213,9 +215,11 @@ TEST_F(WayloomScreenTest, TheWholeStoryFromAnEmptyScreenToTheNextStart) {
   ASSERT_EQ(directions.requests.size(), 3U) << "the path is planned once more";
   answerDirections(kPath);
 
+  EXPECT_TRUE(textOf("statusLine").startsWith("Driving: 0 %"));
   clock.seconds = end - 1;
   const auto follows = [&] { return map->viewPoint(kPath[2]) == map->boundingRect().center(); };
   EXPECT_TRUE(QTest::qWaitFor(follows)) << "the map follows by itself";
+  EXPECT_TRUE(textOf("statusLine").startsWith("Driving: 99 %, 1 min left"));
   screen.click("lb_start");
   EXPECT_EQ(screen.modals.count(), 0) << "out of sight";
 
@@ -255,7 +259,7 @@ TEST_F(WayloomScreenTest, ADriveThatCannotBeWrittenIsNotShownAsOn) {
 
   screen.click("enableSwitch");
   EXPECT_TRUE(isOn());
-  EXPECT_EQ(textOf("statusLine"), "");
+  EXPECT_EQ(textOf("statusLine"), "Arrived");
 }
 
 TEST_F(WayloomScreenTest, WhileItDrivesEveryChoiceIsRefused) {

@@ -43,6 +43,8 @@ const std::vector<std::string> kWanted = {
     "Vaduz Liechtenstein",
     "La Paz",
     "El Salvador",
+    "Санкт-Петербург",
+    "東京",
 };
 
 // Every text that stands in the search field while a wanted one is typed, with and without a slip
@@ -124,6 +126,13 @@ void searchNearby(benchmark::State& state) {
   });
 }
 BENCHMARK(searchNearby)->Unit(benchmark::kMillisecond);
+
+void suggest(benchmark::State& state) {
+  measure(state, typedTexts(), [](PlaceIndex& index, const std::string& text) {
+    return index.suggest(text, Coordinate{57.7, 11.97}, 8);
+  });
+}
+BENCHMARK(suggest)->Unit(benchmark::kMillisecond);
 
 void placeAt(benchmark::State& state) {
   measure(state, positions(),

@@ -6,7 +6,9 @@ install(FILES packaging/wayloomctl.bash RENAME wayloomctl
   DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions")
 install(FILES packaging/copyright NOTICE README.md DESTINATION "${CMAKE_INSTALL_DOCDIR}")
 
-set(package_depends libcurl4)  # Loaded when the first request is sent, so not found by dpkg-shlibdeps.
+# Loaded when they are needed, so not found by dpkg-shlibdeps.
+string(REGEX MATCH "^[0-9]+" icu_major "${ICU_VERSION}")
+set(package_depends libcurl4 "libicu${icu_major}")
 if(WAYLOOM_SCREENS)
   install(TARGETS wayloom RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
   install(FILES docs/man/wayloom.1 DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")

@@ -13,7 +13,7 @@ _wayloomctl_words() {
     "route where") echo "--at" ;;
     favorites) echo "list add remove choose" ;;
     whitelist) echo "list toggle" ;;
-    search*) echo "--near --limit" ;;
+    search*) echo "--near --limit --suggest" ;;
     region) echo "list import remove" ;;
     "region import"*) echo "--name" ;;
   esac

@@ -1,92 +1,109 @@
 #include "CityList.h"
 
-#include <protozero/pbf_reader.hpp>
-#include <stdexcept>
+#include <algorithm>
+#include <array>
+#include <charconv>
 
 namespace wayloom {
 
 namespace {
 
-enum Field : protozero::pbf_tag_type {
-  kId = 1,
-  kName = 2,
-  kCountry = 3,
+enum Field : std::size_t {
+  kName = 1,
+  kPlainName = 2,
+  kOtherNames = 3,
+  kLatitude = 4,
+  kLongitude = 5,
   kFeatureCode = 7,
-  kAdminCode = 8,
-  kPopulation = 9,
-  kLongitudeStep = 10,
-  kLatitudeStep = 11,
+  kCountry = 8,
+  kAdminCode = 10,
+  kPopulation = 14,
+  kFields = 19,
 };
 
-struct Position {
-  std::int64_t longitude = 0;
-  std::int64_t latitude = 0;
-};
+constexpr std::string_view kCityWord = "市";
 
-constexpr double kUnitsPerDegree = 1e5;
-constexpr std::int64_t kWholeTurn = 36'000'000;
-
-void step(std::int64_t& value, std::int64_t by) {
-  if (by < -kWholeTurn || by > kWholeTurn) throw std::range_error("step out of range");
-  value += by;
+// The text before the next separator, which is taken from the front with it.
+std::string_view takeUntil(char separator, std::string_view& text) {
+  const std::size_t end = std::min(text.find(separator), text.size());
+  const std::string_view part = text.substr(0, end);
+  text.remove_prefix(std::min(end + 1, text.size()));
+  return part;
 }
 
-City readCity(protozero::pbf_reader message, Position& position) {
-  City city;
-  while (message.next()) {
-    switch (message.tag()) {
-      case kId:
-        city.id = message.get_sint64();
-        break;
-      case kName:
-        city.name = message.get_string();
-        break;
-      case kCountry:
-        city.country = message.get_string();
-        break;
-      case kFeatureCode:
-        city.featureCode = message.get_string();
-        break;
-      case kAdminCode:
-        city.adminCode = message.get_string();
-        break;
-      case kPopulation:
-        city.population = message.get_int64();
-        break;
-      case kLongitudeStep:
-        step(position.longitude, message.get_sint64());
-        break;
-      case kLatitudeStep:
-        step(position.latitude, message.get_sint64());
-        break;
-      default:
-        message.skip();
+template <typename Number>
+bool readNumber(std::string_view text, Number& number) {
+  const char* const end = text.data() + text.size();
+  const auto [stop, error] = std::from_chars(text.data(), end, number);
+  return error == std::errc() && stop == end;
+}
+
+bool isSmall(char letter) {
+  return letter >= 'a' && letter <= 'z';
+}
+
+bool isCode(std::string_view name) {
+  return name.size() <= 4 && std::all_of(name.begin(), name.end(), [](char letter) {
+           return letter >= 'A' && letter <= 'Z';
+         });
+}
+
+// In other alphabets a sign softens consonants, which libraries write as an apostrophe
+// ("Kal'kutta").
+bool isLibrarians(std::string_view name) {
+  constexpr std::string_view kConsonants = "bcdfghjklmnpqrstvwxz";
+  for (std::size_t at = 1; at + 1 < name.size(); ++at) {
+    if (name[at] == '\'' && isSmall(name[at + 1]) &&
+        kConsonants.find(name[at - 1]) != std::string_view::npos) {
+      return true;
     }
   }
-  city.coordinate = {static_cast<double>(position.latitude) / kUnitsPerDegree,
-                     static_cast<double>(position.longitude) / kUnitsPerDegree};
-  if (!isOnGlobe(city.coordinate)) throw std::range_error("position out of range");
+  return false;
+}
+
+std::optional<City> readCity(std::string_view line) {
+  if (std::count(line.begin(), line.end(), '\t') != kFields - 1) return std::nullopt;
+  std::array<std::string_view, kFields> fields;
+  for (auto& field : fields) field = takeUntil('\t', line);
+  City city;
+  if (!readNumber(fields[kLatitude], city.coordinate.latitude) ||
+      !readNumber(fields[kLongitude], city.coordinate.longitude) ||
+      !readNumber(fields[kPopulation], city.population) || !isOnGlobe(city.coordinate)) {
+    return std::nullopt;
+  }
+  city.name = fields[kName];
+  city.country = fields[kCountry];
+  city.featureCode = fields[kFeatureCode];
+  city.adminCode = fields[kAdminCode];
+  city.otherNames = spokenNames(fields[kOtherNames]);
+  if (fields[kPlainName] != city.name) city.otherNames.emplace_back(fields[kPlainName]);
   return city;
 }
 
 }  // namespace
 
-std::optional<std::vector<City>> readCityList(std::string_view bytes) {
-  try {
-    std::vector<City> cities;
-    Position position;
-    const char* next = bytes.data();
-    const char* const end = next + bytes.size();
-    while (next != end) {
-      const std::uint64_t length = protozero::decode_varint(&next, end);
-      if (length > static_cast<std::uint64_t>(end - next)) return {};
-      cities.push_back(readCity({next, static_cast<std::size_t>(length)}, position));
-      next += length;
+std::vector<std::string> spokenNames(std::string_view names) {
+  std::vector<std::string> spoken;
+  while (!names.empty()) {
+    const std::string_view name = takeUntil(',', names);
+    if (name.empty() || isSmall(name.front()) || isCode(name) || isLibrarians(name)) continue;
+    spoken.emplace_back(name);
+    // "罗马市" is 罗马 with the word for a city.
+    if (name.ends_with(kCityWord) && name.size() > 2 * kCityWord.size()) {
+      spoken.emplace_back(name.substr(0, name.size() - kCityWord.size()));
     }
-    return cities;
-  } catch (const std::exception&) {
-    return {};
   }
+  return spoken;
+}
+
+std::optional<std::vector<City>> readCityList(std::string_view text) {
+  std::vector<City> cities;
+  while (!text.empty()) {
+    auto city = readCity(takeUntil('\n', text));
+    if (!city) return std::nullopt;
+    cities.push_back(std::move(*city));
+  }
+  return cities;
 }
 
 }  // namespace wayloom

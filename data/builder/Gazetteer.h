@@ -27,13 +27,11 @@ class Gazetteer {
   std::string divisionName(const City& city) const;
   std::string countryName(const std::string& countryCode) const;
   /// What people call a country besides its name.
-  static std::vector<std::string> otherCountryNames(const std::string& countryCode);
+  std::vector<std::string> otherCountryNames(const std::string& countryCode) const;
   /// Words that mean the country beside a name: its code and other names.
-  static std::string countryWords(const std::string& countryCode);
+  std::string countryWords(const std::string& countryCode) const;
 
   const Topology& countries() const { return mCountries; }
-  /// The name of a country as a person would write it, from that of the topology.
-  static std::string fullCountryName(const std::string& mapName);
 
  private:
   struct SecondOpinion {
@@ -48,6 +46,7 @@ class Gazetteer {
   std::vector<City> mCities;
   Topology mCountries;
   std::map<std::string, std::string> mCountryNames;
+  std::map<std::string, std::vector<std::string>> mOtherCountryNames;
   std::map<std::string, std::string> mDivisionNames;
   std::map<std::string, SecondOpinion> mSecondList;
 };

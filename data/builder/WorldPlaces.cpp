@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <map>
 
+#include "CountryNames.h"
 #include "Gazetteer.h"
 #include "regions/PlaceWriter.h"
 
@@ -38,7 +39,7 @@ IndexedPlace settlementPlace(const Gazetteer& gazetteer, const City& city) {
                    city.coordinate,
                    city.population};
   indexed.otherNames = gazetteer.otherNames(city);
-  indexed.otherContext = city.adminCode + ' ' + Gazetteer::countryWords(city.country);
+  indexed.otherContext = city.adminCode + ' ' + gazetteer.countryWords(city.country);
   return indexed;
 }
 
@@ -63,7 +64,7 @@ Status addDivisions(const Gazetteer& gazetteer, PlaceWriter& writer) {
                      gazetteer.countryName(country),
                      (sum.namesake ? sum.namesake : sum.largest)->coordinate,
                      sum.population};
-    indexed.otherContext = Gazetteer::countryWords(country);
+    indexed.otherContext = gazetteer.countryWords(country);
     writer.add(std::move(indexed));
   }
   return done();
@@ -84,14 +85,14 @@ void addCountries(const Gazetteer& gazetteer, PlaceWriter& writer) {
       for (const auto& ring : polygon) rings.push_back(map.outline(ring));
     }
     if (indexed.areas.empty()) continue;
-    const std::string name = Gazetteer::fullCountryName(area.name);
+    const std::string name = fullCountryName(area.name);
     const Sum& sum = sums[name];
     const City* const city = sum.capital ? sum.capital : sum.largest;
     indexed.place = {PlaceKind::kCountry, name, "", "", "", {}, sum.population};
     indexed.place.coordinate = city ? city->coordinate : indexed.areas.front().front().front();
     indexed.otherNames = {area.name};
     if (city) {
-      for (auto& other : Gazetteer::otherCountryNames(city->country)) {
+      for (auto& other : gazetteer.otherCountryNames(city->country)) {
         indexed.otherNames.push_back(std::move(other));
       }
     }

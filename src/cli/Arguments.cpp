@@ -23,6 +23,7 @@ struct Typed {
   std::string onOff;
   double speed = 0;
   int limit = 10;
+  bool suggest = false;
   std::string name;
   long long number = 0;
   bool geoJson = false;
@@ -128,9 +129,12 @@ void addPlaceCommands(CLI::App& app, Typed& typed) {
   search->add_option("--limit", typed.limit, "How many places at the most")
       ->check(CLI::Range(1, 20))
       ->capture_default_str();
+  search->add_flag("--suggest", typed.suggest,
+                   "What an unfinished TEXT may become: kind, name, place, division, country");
   search->callback([&typed] {
     typed.command = [&typed](CommandLine& line) {
-      return searchPlaces(line, typed.text, typed.near, typed.limit);
+      const auto answer = typed.suggest ? suggestPlaces : searchPlaces;
+      return answer(line, typed.text, typed.near, typed.limit);
     };
   });
 

@@ -38,6 +38,9 @@ ExitStatus toggleWhitelist(CommandLine& line, const std::string& identifier);
 /// The installed applications with their ticks.
 ExitStatus listApplications(CommandLine& line);
 
+/// What somebody who has typed so much may come to mean.
+ExitStatus suggestPlaces(CommandLine& line, const std::string& text,
+                         const std::optional<std::string>& near, int limit);
 ExitStatus searchPlaces(CommandLine& line, const std::string& text,
                         const std::optional<std::string>& near, int limit);
 ExitStatus showAddress(CommandLine& line, const std::string& place);

@@ -5,6 +5,8 @@
 #include <map>
 #include <utility>
 
+#include "settings/TrimmedText.h"
+
 namespace wayloom {
 
 namespace {
@@ -22,18 +24,56 @@ bool isSight(const OsmTags& tags) {
     if (tags.contains(key)) return true;
   }
   return isOneOf(tagOf(tags, "railway"), {"station", "halt"}) ||
+         isOneOf(tagOf(tags, "public_transport"), {"station"}) ||
          isOneOf(tagOf(tags, "natural"), {"peak", "water", "spring", "cave_entrance"}) ||
          isOneOf(tagOf(tags, "mountain_pass"), {"yes"}) ||
          isOneOf(tagOf(tags, "place"), {"locality", "square"});
 }
 
+// In the languages of the program, and what people say besides.
+constexpr std::array kNameKeys = {"alt_name", "int_name",     "loc_name",     "name:de",
+                                  "name:en",  "name:es",      "name:fr",      "name:ja",
+                                  "name:zh",  "name:zh-Hans", "name:zh-Hant", "official_name",
+                                  "old_name", "short_name"};
+
 std::vector<std::string> otherNames(const OsmTags& tags) {
   std::vector<std::string> names;
-  for (const char* key : {"alt_name", "int_name", "name:en", "official_name", "short_name"}) {
-    const std::string_view name = tagOf(tags, key);
-    if (!name.empty()) names.emplace_back(name);
+  for (const char* key : kNameKeys) {
+    std::string_view several = tagOf(tags, key);
+    while (!several.empty()) {
+      const std::size_t end = std::min(several.find(';'), several.size());
+      if (end > 0) names.emplace_back(several.substr(0, end));
+      several.remove_prefix(std::min(end + 1, several.size()));
+    }
   }
   return names;
+}
+
+// A postcode says where it is by its digits; nothing for what has none.
+std::string postcodeOf(const OsmTags& tags) {
+  constexpr std::size_t kLongest = 12;
+  std::string code = trimmedText(tagOf(tags, "addr:postcode"));
+  if (code.empty()) code = trimmedText(tagOf(tags, "postal_code"));
+  const bool isOne = code.size() <= kLongest && code.find(';') == std::string::npos &&
+                     code.find_first_of("0123456789") != std::string::npos;
+  return isOne ? code : std::string();
+}
+
+std::string withoutBlanks(std::string text) {
+  std::erase(text, ' ');
+  return text;
+}
+
+// The one of some positions that lies most in their middle.
+Coordinate middlemost(const std::vector<Coordinate>& positions) {
+  Coordinate mean;
+  for (const Coordinate& position : positions) {
+    mean.latitude += position.latitude / static_cast<double>(positions.size());
+    mean.longitude += position.longitude / static_cast<double>(positions.size());
+  }
+  return *std::min_element(positions.begin(), positions.end(), [&](Coordinate a, Coordinate b) {
+    return distanceMetres(a, mean) < distanceMetres(b, mean);
+  });
 }
 
 std::int64_t peopleOf(const OsmTags& tags) {
@@ -79,6 +119,7 @@ void ExtractPlaces::addLine(const OsmTags& tags, const Line& line) {
   const std::string_view name = tagOf(tags, "name");
   if (!highway.empty() && highway != "platform" && !name.empty()) {
     mWays.push_back({std::string(name), line});
+    for (auto& other : otherNames(tags)) mStreetNames[mWays.back().name].insert(std::move(other));
   }
 }
 
@@ -90,9 +131,15 @@ void ExtractPlaces::addSpot(const OsmTags& tags, Coordinate position) {
   const std::string address = addressOf(tags);
   const std::string city(tagOf(tags, "addr:city"));
   const std::string name(tagOf(tags, "name"));
-  if (!address.empty())
-    mSpots.push_back({address, city, std::string(tagOf(tags, "addr:postcode")), position});
-  if (!name.empty() && isSight(tags)) mSpots.push_back({name, city, address, position});
+  const std::string postcode = postcodeOf(tags);
+  if (!postcode.empty()) mPostcodes[postcode].push_back(position);
+  if (!address.empty()) {
+    mSpots.push_back({PlaceKind::kAddress, address, {}, city, postcode, position});
+  }
+  if (!name.empty() && isSight(tags)) {
+    mSpots.push_back({PlaceKind::kPointOfInterest, name, otherNames(tags), city,
+                      address + ' ' + postcode, position});
+  }
 }
 
 void ExtractPlaces::writeStreets(PlaceWriter& writer, const Settlements& settlements) {
@@ -106,6 +153,9 @@ void ExtractPlaces::writeStreets(PlaceWriter& writer, const Settlements& settlem
     for (MergedStreet& street : mergeStreets(std::move(ways))) {
       IndexedPlace indexed;
       indexed.place = {PlaceKind::kStreet, std::move(street.name), "", "", "", street.middle, 0};
+      if (const auto others = mStreetNames.find(indexed.place.name); others != mStreetNames.end()) {
+        indexed.otherNames.assign(others->second.begin(), others->second.end());
+      }
       if (place) settlements.locate(*place, indexed.place);
       indexed.lines = std::move(street.lines);
       writer.add(std::move(indexed));
@@ -118,7 +168,7 @@ void ExtractPlaces::writeSpots(PlaceWriter& writer, const Settlements& settlemen
   std::set<std::tuple<std::string, std::string, int, int>> known;
   for (Spot& spot : mSpots) {
     IndexedPlace indexed;
-    indexed.place = {PlaceKind::kAddress, std::move(spot.name), "", "", "", spot.position, 0};
+    indexed.place = {spot.kind, std::move(spot.name), "", "", "", spot.position, 0};
     if (const Place* place = settlements.nearest(spot.position)) {
       settlements.locate(*place, indexed.place);
     }
@@ -130,10 +180,24 @@ void ExtractPlaces::writeSpots(PlaceWriter& writer, const Settlements& settlemen
                      hundredths(spot.position.longitude))
             .second;
     if (!isNew) continue;
+    indexed.otherNames = std::move(spot.otherNames);
     indexed.otherContext = std::move(spot.context);
     writer.add(std::move(indexed));
   }
   mSpots.clear();
+}
+
+void ExtractPlaces::writePostcodes(PlaceWriter& writer, const Settlements& settlements) {
+  for (const auto& [code, positions] : mPostcodes) {
+    IndexedPlace indexed;
+    indexed.place = {PlaceKind::kPostcode, code, "", "", "", middlemost(positions), 0};
+    if (const Place* place = settlements.nearest(indexed.place.coordinate)) {
+      settlements.locate(*place, indexed.place);
+    }
+    indexed.otherNames = {withoutBlanks(code)};
+    writer.add(std::move(indexed));
+  }
+  mPostcodes.clear();
 }
 
 Status ExtractPlaces::write(Database& database, PlaceIndex& installed) {
@@ -151,6 +215,7 @@ Status ExtractPlaces::write(Database& database, PlaceIndex& installed) {
   mSettlements.clear();
   writeStreets(*writer, settlements);
   writeSpots(*writer, settlements);
+  writePostcodes(*writer, settlements);
   return writer->write(database);
 }
 

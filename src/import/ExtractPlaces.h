@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <set>
 #include <string>
 #include <vector>
@@ -12,8 +13,9 @@
 
 namespace wayloom {
 
-/// The places of an extract that one may search for: settlements, streets, houses with a number and
-/// what else has a name. Collects first and then writes the place index. Used by one thread.
+/// The places of an extract that one may search for: settlements, streets, houses with a number,
+/// postcodes and what else has a name. Collects first and then writes the place index. Used by one
+/// thread.
 class ExtractPlaces {
  public:
   void addPoint(const OsmTags& tags, Coordinate position);
@@ -28,7 +30,9 @@ class ExtractPlaces {
 
  private:
   struct Spot {
+    PlaceKind kind;
     std::string name;
+    std::vector<std::string> otherNames;
     std::string city;
     std::string context;
     Coordinate position;
@@ -36,10 +40,15 @@ class ExtractPlaces {
 
   void addSpot(const OsmTags& tags, Coordinate position);
   void writeStreets(PlaceWriter& writer, const Settlements& settlements);
+  void writePostcodes(PlaceWriter& writer, const Settlements& settlements);
   void writeSpots(PlaceWriter& writer, const Settlements& settlements);
 
   std::vector<IndexedPlace> mSettlements;
   std::vector<NamedWay> mWays;
+  /// What a street is called besides, by its name.
+  std::map<std::string, std::set<std::string>> mStreetNames;
+  /// Where a postcode is used.
+  std::map<std::string, std::vector<Coordinate>> mPostcodes;
   std::vector<Spot> mSpots;
 };
 

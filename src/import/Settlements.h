@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "regions/Place.h"
+#include "platform/Place.h"
 
 namespace wayloom {
 

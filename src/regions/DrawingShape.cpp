@@ -1,10 +1,8 @@
 #include "regions/DrawingShape.h"
 
 #include <algorithm>
-#include <bit>
 #include <cmath>
 #include <cstdint>
-#include <cstring>
 
 #include "geo/WebMercator.h"
 
@@ -12,69 +10,73 @@ namespace wayloom {
 
 namespace {
 
-constexpr std::uint32_t kWkbPoint = 1;
-constexpr std::uint32_t kWkbLine = 2;
-constexpr std::uint32_t kWkbPolygon = 3;
-
+constexpr double kUnitsPerMetre = 10;
 // Far outside the world; beyond it, arithmetic on pixels would overflow.
-constexpr double kFarthestMetres = 1e9;
+constexpr std::int64_t kFarthestUnits = 10'000'000'000;
 
-template <typename T>
-void append(std::string& bytes, T value) {
-  char raw[sizeof value];
-  std::memcpy(raw, &value, sizeof value);
-  if constexpr (std::endian::native == std::endian::big) std::reverse(raw, raw + sizeof value);
-  bytes.append(raw, sizeof value);
+void append(std::string& bytes, std::uint64_t number) {
+  for (; number >= 0x80; number >>= 7) bytes += static_cast<char>(number | 0x80);
+  bytes += static_cast<char>(number);
 }
 
-void appendPath(std::string& bytes, const MapPath& path) {
-  append(bytes, static_cast<std::uint32_t>(path.size()));
-  for (const MapPoint& point : path) {
-    append(bytes, point.x);
-    append(bytes, point.y);
+// Numbers near zero of either sign become small ones.
+void appendStep(std::string& bytes, std::int64_t step) {
+  append(bytes, (static_cast<std::uint64_t>(step) << 1) ^ static_cast<std::uint64_t>(step >> 63));
+}
+
+// Paths of one shape follow upon each other: each position is a step from the one before.
+class Writer {
+ public:
+  explicit Writer(std::string& bytes) : mBytes(bytes) {}
+
+  void writePath(const MapPath& path) {
+    for (const MapPoint& point : path) {
+      writeStep(mX, point.x);
+      writeStep(mY, point.y);
+    }
   }
-}
+
+ private:
+  void writeStep(std::int64_t& at, double metres) {
+    const std::int64_t units = std::llround(metres * kUnitsPerMetre);
+    appendStep(mBytes, units - at);
+    at = units;
+  }
+
+  std::string& mBytes;
+  std::int64_t mX = 0;
+  std::int64_t mY = 0;
+};
 
 class Reader {
  public:
   explicit Reader(std::string_view bytes) : mBytes(bytes) {}
 
-  template <typename T>
-  bool read(T& value) {
-    if (mBytes.size() < sizeof value) return false;
-    char raw[sizeof value];
-    std::memcpy(raw, mBytes.data(), sizeof value);
-    if (mSwapped) std::reverse(raw, raw + sizeof value);
-    std::memcpy(&value, raw, sizeof value);
-    mBytes.remove_prefix(sizeof value);
-    return true;
+  bool read(std::uint64_t& number) {
+    constexpr unsigned kBits = 7;
+    number = 0;
+    for (unsigned shift = 0; shift < 64 && !mBytes.empty(); shift += kBits) {
+      const auto byte = static_cast<unsigned char>(mBytes.front());
+      mBytes.remove_prefix(1);
+      number |= static_cast<std::uint64_t>(byte & 0x7F) << shift;
+      if (byte < 0x80) return true;
+    }
+    return false;
   }
 
-  bool readByteOrder() {
-    std::uint8_t order = 0;
-    if (!read(order) || order > 1) return false;
-    mSwapped = (order == 1) != (std::endian::native == std::endian::little);
-    return true;
-  }
-
-  bool readPoint(MapPoint& point) {
-    if (!read(point.x) || !read(point.y)) return false;
-    // Written so that a NaN fails.
-    return std::abs(point.x) <= kFarthestMetres && std::abs(point.y) <= kFarthestMetres;
-  }
+  bool readPoint(MapPoint& point) { return readStep(mX, point.x) && readStep(mY, point.y); }
 
   bool readPath(MapPath& path, std::size_t fewestPoints) {
-    std::uint32_t count = 0;
-    if (!read(count) || count < fewestPoints || count > mBytes.size() / sizeof(MapPoint)) {
-      return false;
-    }
+    constexpr std::size_t kFewestBytes = 2;
+    std::uint64_t count = 0;
+    if (!read(count) || count < fewestPoints || count > mBytes.size() / kFewestBytes) return false;
     path.resize(count);
     return std::all_of(path.begin(), path.end(), [this](MapPoint& p) { return readPoint(p); });
   }
 
   bool readRings(std::vector<MapPath>& rings) {
-    std::uint32_t count = 0;
-    if (!read(count) || count < 1 || count > mBytes.size() / sizeof count) return false;
+    std::uint64_t count = 0;
+    if (!read(count) || count < 1 || count > mBytes.size()) return false;
     rings.resize(count);
     return std::all_of(rings.begin(), rings.end(), [this](MapPath& r) { return readPath(r, 4); });
   }
@@ -82,8 +84,19 @@ class Reader {
   [[nodiscard]] bool atEnd() const { return mBytes.empty(); }
 
  private:
+  bool readStep(std::int64_t& at, double& metres) {
+    std::uint64_t bits = 0;
+    if (!read(bits)) return false;
+    const auto step = static_cast<std::int64_t>(bits >> 1) ^ -static_cast<std::int64_t>(bits & 1);
+    if (std::abs(step) > 2 * kFarthestUnits) return false;
+    at += step;
+    metres = static_cast<double>(at) / kUnitsPerMetre;
+    return std::abs(at) <= kFarthestUnits;
+  }
+
   std::string_view mBytes;
-  bool mSwapped = false;
+  std::int64_t mX = 0;
+  std::int64_t mY = 0;
 };
 
 }  // namespace
@@ -112,40 +125,29 @@ MapBox boundsOf(const DrawingShape& shape) {
 }
 
 std::string encodeShape(const DrawingShape& shape) {
-  std::string bytes;
-  append(bytes, std::uint8_t{1});
-  switch (shape.kind) {
-    case DrawingShape::Kind::kPoint:
-      append(bytes, kWkbPoint);
-      append(bytes, shape.paths.at(0).at(0).x);
-      append(bytes, shape.paths.at(0).at(0).y);
-      break;
-    case DrawingShape::Kind::kLine:
-      append(bytes, kWkbLine);
-      appendPath(bytes, shape.paths.at(0));
-      break;
-    case DrawingShape::Kind::kPolygon:
-      append(bytes, kWkbPolygon);
-      append(bytes, static_cast<std::uint32_t>(shape.paths.size()));
-      for (const MapPath& ring : shape.paths) appendPath(bytes, ring);
-      break;
+  std::string bytes(1, static_cast<char>(shape.kind));
+  Writer writer(bytes);
+  if (shape.kind == DrawingShape::Kind::kPolygon) append(bytes, shape.paths.size());
+  for (const MapPath& path : shape.paths) {
+    if (shape.kind != DrawingShape::Kind::kPoint) append(bytes, path.size());
+    writer.writePath(path);
   }
   return bytes;
 }
 
 std::optional<DrawingShape> decodeShape(std::string_view bytes) {
   Reader reader(bytes);
-  std::uint32_t type = 0;
-  if (!reader.readByteOrder() || !reader.read(type)) return {};
+  std::uint64_t kind = 0;
+  if (!reader.read(kind)) return {};
   DrawingShape shape;
   bool complete = false;
-  if (type == kWkbPoint) {
+  if (kind == static_cast<std::uint64_t>(DrawingShape::Kind::kPoint)) {
     shape = {DrawingShape::Kind::kPoint, {MapPath(1)}};
     complete = reader.readPoint(shape.paths[0][0]);
-  } else if (type == kWkbLine) {
+  } else if (kind == static_cast<std::uint64_t>(DrawingShape::Kind::kLine)) {
     shape = {DrawingShape::Kind::kLine, {MapPath()}};
     complete = reader.readPath(shape.paths[0], 2);
-  } else if (type == kWkbPolygon) {
+  } else if (kind == static_cast<std::uint64_t>(DrawingShape::Kind::kPolygon)) {
     shape.kind = DrawingShape::Kind::kPolygon;
     complete = reader.readRings(shape.paths);
   }

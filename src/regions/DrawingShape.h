@@ -35,7 +35,8 @@ struct MapBox {
 /// polygon its rings: the first encloses it, the others are holes; each ring repeats its first
 /// point at its end.
 struct DrawingShape {
-  enum class Kind { kPoint, kLine, kPolygon };
+  /// The numbers stand in region files.
+  enum class Kind { kPoint = 1, kLine = 2, kPolygon = 3 };
 
   Kind kind = Kind::kPoint;
   std::vector<MapPath> paths;
@@ -46,11 +47,12 @@ struct DrawingShape {
 /// The box around all points; all zero for a shape without points.
 MapBox boundsOf(const DrawingShape& shape);
 
-/// Well-known binary, little-endian.
+/// The bytes of a shape in a region file, as docs/region-file.md has them; positions to a tenth of
+/// a metre, which must be within a million kilometres.
 std::string encodeShape(const DrawingShape& shape);
 
-/// Reads well-known binary of either byte order. Nothing for anything but a complete point, line
-/// string or polygon with finite coordinates: the bytes come from a file and may be damaged.
+/// Reads them. Nothing for anything but a complete point, line or polygon near the world: the bytes
+/// come from a file and may be damaged.
 std::optional<DrawingShape> decodeShape(std::string_view bytes);
 
 }  // namespace wayloom

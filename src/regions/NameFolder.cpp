@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <span>
 #include <sqlite3.h>
 #include <utility>
 
@@ -11,7 +12,8 @@ namespace {
 
 // Letters that are not another letter with an accent, and so stay as they are in accent folding,
 // but that people type without. Both cases, because folding comes after.
-constexpr std::array<std::pair<std::string_view, std::string_view>, 27> kLetters = {{
+using Letter = std::pair<std::string_view, std::string_view>;
+constexpr std::array<Letter, 27> kLetters = {{
     {"ø", "o"},
     {"Ø", "o"},
     {"ß", "ss"},
@@ -42,14 +44,28 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 27> kLetters
     {"ʻ", ""},
 }};
 
-std::string replaceLetters(std::string_view text) {
+// How they are written where a keyboard lacks them, in German and the Nordic languages.
+constexpr std::array<Letter, 10> kTwoLetters = {{
+    {"ä", "ae"},
+    {"Ä", "ae"},
+    {"ö", "oe"},
+    {"Ö", "oe"},
+    {"ü", "ue"},
+    {"Ü", "ue"},
+    {"å", "aa"},
+    {"Å", "aa"},
+    {"ø", "oe"},
+    {"Ø", "oe"},
+}};
+
+std::string replaceLetters(std::string_view text, std::span<const Letter> letters) {
   std::string result;
   result.reserve(text.size());
   while (!text.empty()) {
-    const auto* const letter =
-        std::find_if(kLetters.begin(), kLetters.end(),
-                     [&](const auto& pair) { return text.starts_with(pair.first); });
-    if (letter != kLetters.end()) {
+    const auto letter = std::find_if(letters.begin(), letters.end(), [&](const Letter& pair) {
+      return text.starts_with(pair.first);
+    });
+    if (letter != letters.end()) {
       result += letter->second;
       text.remove_prefix(letter->first.size());
     } else {
@@ -103,17 +119,29 @@ Result<NameFolder> NameFolder::create() {
   return NameFolder(std::move(*database), std::move(owned), functions.xTokenize);
 }
 
-std::vector<std::string> NameFolder::words(std::string_view text) const {
-  const std::string replaced = replaceLetters(text);
+std::vector<std::string> NameFolder::tokens(const std::string& text) const {
+  const std::string replaced = replaceLetters(text, kLetters);
   std::vector<std::string> words;
   mTokenize(mTokenizer.get(), &words, FTS5_TOKENIZE_DOCUMENT, replaced.data(),
             static_cast<int>(replaced.size()), addWord);
   return words;
 }
 
+std::vector<std::string> NameFolder::words(std::string_view text) const {
+  return tokens(mLatinLetters.from(text));
+}
+
+std::vector<std::string> NameFolder::spelledOutWords(std::string_view text) const {
+  return tokens(replaceLetters(mLatinLetters.from(text), kTwoLetters));
+}
+
 std::string NameFolder::key(std::string_view text) const {
+  return key(words(text));
+}
+
+std::string NameFolder::key(const std::vector<std::string>& words) {
   std::string key;
-  for (const auto& word : words(text)) {
+  for (const auto& word : words) {
     if (!key.empty()) key += ' ';
     key += word;
   }

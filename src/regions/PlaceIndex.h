@@ -6,11 +6,11 @@
 #include <vector>
 
 #include "geo/Coordinate.h"
+#include "platform/Place.h"
 #include "regions/NameFolder.h"
-#include "regions/Place.h"
+#include "regions/PlaceFinder.h"
 #include "regions/RegionPlaces.h"
 #include "regions/RegionStore.h"
-#include "regions/SearchText.h"
 
 namespace wayloom {
 
@@ -21,11 +21,17 @@ class PlaceIndex {
   static Result<PlaceIndex> open(const RegionStore& store);
 
   /// The places that a text names, best first: those of exactly this name, the important ones, and
-  /// those close to `near`. Case, accents and the order of words do not matter, and words of three
-  /// letters and more may be unfinished; but each word must be found, numbers as they are, unless
-  /// one may be a house's and its street is found. Any text is allowed.
+  /// those close to `near`. Case, accents, alphabet and the order of words do not matter, and words
+  /// of three letters and more may be unfinished; but each word must be found, numbers as they are,
+  /// unless one may be a house's and its street is found. When nothing is, words may be misspelt,
+  /// as far as what they come near to is well enough known to be meant. Any text is allowed.
   std::vector<Place> search(std::string_view text, std::optional<Coordinate> near,
                             std::size_t limit = 20);
+
+  /// What somebody who is typing may come to mean, likeliest first: the last word goes on however
+  /// short it is, numbers and slips of the finger do not count.
+  std::vector<Place> suggest(std::string_view text, std::optional<Coordinate> near,
+                             std::size_t limit);
 
   /// The best place for a text with numbers that no place has, taken without them. For telling what
   /// there is instead: that it was meant is a guess.
@@ -39,17 +45,8 @@ class PlaceIndex {
   std::optional<Place> areaAt(Coordinate position);
 
  private:
-  struct Candidate {
-    Place place;
-    double score = 0;
-  };
-  struct Question;
-
   explicit PlaceIndex(NameFolder folder) : mFolder(std::move(folder)) {}
-  std::vector<Candidate> candidates(const Question& question);
-  /// The streets of an address whose numbers are not known.
-  std::vector<Candidate> streets(const SearchText& address, std::optional<Coordinate> near);
-  double score(const PlaceRow& row, bool isNamed, const Question& question) const;
+  PlaceFinder finder(std::optional<Coordinate> near);
   std::optional<Place> streetAt(Coordinate position);
   std::optional<Place> settlementAt(Coordinate position, double radiusMetres,
                                     const std::optional<Place>& country);

@@ -2,11 +2,14 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 #include <set>
+#include <unordered_set>
 
 #include "geo/WebMercator.h"
 #include "regions/PlaceGrid.h"
 #include "regions/ShapeBlob.h"
+#include "regions/SimilarWords.h"
 
 namespace wayloom {
 
@@ -25,8 +28,9 @@ CREATE TABLE place(
   population INTEGER NOT NULL,
   importance REAL NOT NULL);
 CREATE TABLE place_key(key TEXT NOT NULL, id INTEGER NOT NULL, PRIMARY KEY(key, id)) WITHOUT ROWID;
-CREATE VIRTUAL TABLE place_search USING fts5(name, context, cell,
+CREATE VIRTUAL TABLE place_search USING fts5(name, more, context, cell,
   content='', detail=column, columnsize=0, tokenize='ascii', prefix='1 2 3');
+CREATE TABLE place_word(length INTEGER PRIMARY KEY, words TEXT NOT NULL);
 CREATE TABLE shape(id INTEGER PRIMARY KEY, place INTEGER NOT NULL, lines BLOB NOT NULL);
 CREATE VIRTUAL TABLE settlement_box USING rtree(id, west, east, south, north);
 CREATE VIRTUAL TABLE line_box USING rtree(id, west, east, south, north);
@@ -56,6 +60,10 @@ double importanceOf(const IndexedPlace& indexed) {
     }
     case PlaceKind::kAddress:
       return 0.2;
+    case PlaceKind::kPointOfInterest:
+      return 0.8;
+    case PlaceKind::kPostcode:
+      return 1.5;
   }
   return 0;
 }
@@ -118,6 +126,32 @@ std::vector<Line> continuousPolygon(const std::vector<Line>& rings) {
   return moved;
 }
 
+// The plain words of names, each once, by length; those of more important places come first.
+class Vocabulary {
+ public:
+  void add(const std::string& word) {
+    if (word.size() < kShortestWord || !isPlainWord(word)) return;
+    if (mKnown.insert(word).second) mByLength[word.size()] += word;
+  }
+
+  Status write(Database& database) const {
+    auto insert = database.prepare("INSERT INTO place_word VALUES (?1, ?2)");
+    if (!insert) return insert.failure();
+    for (const auto& [length, words] : mByLength) {
+      auto status = insert->bind(1, static_cast<std::int64_t>(length)).bind(2, words).run();
+      if (!status) return status;
+    }
+    return done();
+  }
+
+ private:
+  // One letter less than the shortest that may be misspelt.
+  static constexpr std::size_t kShortestWord = 3;
+
+  std::unordered_set<std::string> mKnown;
+  std::map<std::size_t, std::string> mByLength;
+};
+
 // The statements that fill the tables, and the numbers they have reached.
 class Tables {
  public:
@@ -126,6 +160,7 @@ class Tables {
   Status prepare();
   Status write(std::int64_t id, double importance, const IndexedPlace& indexed,
                const NameFolder& folder);
+  Status writeWords() const { return mWords.write(mDatabase); }
 
  private:
   Status writeKeys(std::int64_t id, const IndexedPlace& indexed, const NameFolder& folder);
@@ -134,6 +169,7 @@ class Tables {
 
   Database& mDatabase;
   std::optional<Statement> mPlace, mKey, mSearch, mShape, mSettlement, mLine, mArea;
+  Vocabulary mWords;
   std::int64_t mLastShape = 0;
 };
 
@@ -141,7 +177,8 @@ Status Tables::prepare() {
   const std::pair<std::optional<Statement>*, const char*> statements[] = {
       {&mPlace, "INSERT INTO place VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9, ?10)"},
       {&mKey, "INSERT OR IGNORE INTO place_key VALUES (?1, ?2)"},
-      {&mSearch, "INSERT INTO place_search(rowid, name, context, cell) VALUES (?1, ?2, ?3, ?4)"},
+      {&mSearch,
+       "INSERT INTO place_search(rowid, name, more, context, cell) VALUES (?1, ?2, ?3, ?4, ?5)"},
       {&mShape, "INSERT INTO shape VALUES (?1, ?2, ?3)"},
       {&mSettlement, "INSERT INTO settlement_box VALUES (?1, ?2, ?3, ?4, ?5)"},
       {&mLine, "INSERT INTO line_box VALUES (?1, ?2, ?3, ?4, ?5)"},
@@ -178,22 +215,35 @@ Status Tables::writeShape(Statement& boxes, std::int64_t place, std::span<const 
 
 Status Tables::writeKeys(std::int64_t id, const IndexedPlace& indexed, const NameFolder& folder) {
   const Place& place = indexed.place;
-  std::string names = folder.key(place.name);
-  std::set<std::string> keys = {names};
-  for (const auto& name : indexed.otherNames) {
-    const auto [key, isNew] = keys.insert(folder.key(name));
-    if (isNew) names += ' ' + *key;
-  }
+  std::string names;
+  std::string more;
+  std::set<std::string> keys;
+  const auto addName = [&](const std::string& name) {
+    for (const auto& form : {folder.words(name), folder.spelledOutWords(name)}) {
+      const auto [key, isNew] = keys.insert(NameFolder::key(form));
+      if (!isNew) continue;
+      for (const auto& word : form) {
+        const bool mayStandAlone = &word == &form.front() || &name == &place.name;
+        (mayStandAlone ? names : more).append(word) += ' ';
+        mWords.add(word);
+      }
+    }
+  };
+  addName(place.name);
+  for (const auto& name : indexed.otherNames) addName(name);
   for (const auto& key : keys) {
     if (key.empty()) continue;
     if (auto status = mKey->bind(1, key).bind(2, id).run(); !status) return status;
   }
-  const std::string context = folder.key(place.locality + ' ' + place.division + ' ' +
-                                         place.country + ' ' + indexed.otherContext);
+  const std::string around =
+      place.locality + ' ' + place.division + ' ' + place.country + ' ' + indexed.otherContext;
+  const std::string context =
+      folder.key(around) + ' ' + NameFolder::key(folder.spelledOutWords(around));
   return mSearch->bind(1, id)
       .bind(2, names)
-      .bind(3, context)
-      .bind(4, gridWord(place.coordinate))
+      .bind(3, more)
+      .bind(4, context)
+      .bind(5, gridWord(place.coordinate))
       .run();
 }
 
@@ -215,7 +265,7 @@ Status Tables::write(std::int64_t id, double importance, const IndexedPlace& ind
   if (status && place.kind == PlaceKind::kSettlement) {
     status = writeBox(*mSettlement, id, boundsOf({{place.coordinate}}));
   }
-  if (status && place.kind == PlaceKind::kAddress) {
+  if (status && (place.kind == PlaceKind::kAddress || place.kind == PlaceKind::kPointOfInterest)) {
     status = writeShape(*mLine, id, {{Line{place.coordinate}}});
   }
   for (const Line& line : indexed.lines) {
@@ -258,6 +308,7 @@ Status PlaceWriter::write(Database& database) {
     if (!status) return status;
   }
   mPlaces.clear();
+  if (auto status = tables.writeWords(); !status) return status;
   return database.execute("INSERT INTO place_search(place_search) VALUES ('optimize')");
 }
 

@@ -3,10 +3,10 @@
 #include <string>
 #include <vector>
 
+#include "platform/Place.h"
 #include "regions/Database.h"
 #include "regions/GroundGeometry.h"
 #include "regions/NameFolder.h"
-#include "regions/Place.h"
 
 namespace wayloom {
 

@@ -7,7 +7,7 @@ namespace wayloom {
 
 /// The numbers that mark an SQLite file as a region file of the version this program reads.
 inline constexpr std::int32_t kRegionApplicationId = 0x574C5247;
-inline constexpr std::int32_t kRegionVersion = 3;
+inline constexpr std::int32_t kRegionVersion = 4;
 inline constexpr char kRegionExtension[] = ".region";
 
 /// The part of the world a region covers, in degrees; west is never east of east.

@@ -30,7 +30,7 @@ RegionGeocoder::RegionGeocoder(RegionStore store, MainQueue& mainQueue) : mQuest
 }
 
 void RegionGeocoder::geocodeAddress(const std::string& address, std::optional<Coordinate> near,
-                                    Completion completion) {
+                                    Geocoder::Completion completion) {
   ask(
       [address, near](PlaceIndex& index) {
         const auto found = index.search(address, near);
@@ -42,7 +42,7 @@ void RegionGeocoder::geocodeAddress(const std::string& address, std::optional<Co
       std::move(completion));
 }
 
-void RegionGeocoder::reverseGeocode(Coordinate coordinate, Completion completion) {
+void RegionGeocoder::reverseGeocode(Coordinate coordinate, Geocoder::Completion completion) {
   ask(
       [coordinate](PlaceIndex& index) {
         const auto place = index.placeAt(coordinate);
@@ -52,8 +52,18 @@ void RegionGeocoder::reverseGeocode(Coordinate coordinate, Completion completion
       std::move(completion));
 }
 
+void RegionGeocoder::suggest(const std::string& text, std::optional<Coordinate> near,
+                             PlaceSuggestions::Completion completion) {
+  mQuestions.askLatest(
+      [this, text, near] {
+        Result<PlaceIndex>& index = *mIndex;
+        return index ? index->suggest(text, near, kMostSuggestions) : std::vector<Place>{};
+      },
+      std::move(completion));
+}
+
 void RegionGeocoder::ask(std::function<GeocoderAnswer(PlaceIndex&)> question,
-                         Completion completion) {
+                         Geocoder::Completion completion) {
   mQuestions.ask(
       [this, question = std::move(question)] {
         Result<PlaceIndex>& index = *mIndex;

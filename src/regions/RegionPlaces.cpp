@@ -17,15 +17,11 @@ namespace {
 
 // A place the file should not hold counts as absent.
 std::optional<PlaceRow> readRow(const Statement& statement) {
-  const std::int64_t kind = statement.integer(2);
-  if (kind < static_cast<int>(PlaceKind::kCountry) ||
-      kind > static_cast<int>(PlaceKind::kAddress)) {
-    return std::nullopt;
-  }
+  const auto kind = placeKind(statement.integer(2));
+  if (!kind) return std::nullopt;
   PlaceRow row{statement.integer(0), statement.real(1),
-               Place{static_cast<PlaceKind>(kind), std::string(statement.text(3)),
-                     std::string(statement.text(4)), std::string(statement.text(5)),
-                     std::string(statement.text(6)),
+               Place{*kind, std::string(statement.text(3)), std::string(statement.text(4)),
+                     std::string(statement.text(5)), std::string(statement.text(6)),
                      Coordinate{statement.real(7), statement.real(8)}, statement.integer(9)}};
   if (!isOnGlobe(row.place.coordinate)) return std::nullopt;
   return row;
@@ -51,6 +47,7 @@ Status RegionPlaces::prepare() {
                   " WHERE k.key = ?1 ORDER BY k.id LIMIT ?2"},
       {&mMatching, "SELECT " PLACE_COLUMNS " FROM place_search s JOIN place p ON p.id = s.rowid"
                    " WHERE place_search MATCH ?1 ORDER BY s.rowid LIMIT ?2"},
+      {&mWords, "SELECT words FROM place_word WHERE length = ?1"},
       {&mWithId, "SELECT " PLACE_COLUMNS " FROM place p WHERE p.id = ?1"},
       {&mSettlements, "SELECT " PLACE_COLUMNS " FROM settlement_box b JOIN place p ON p.id = b.id"
                       " WHERE " OVERLAPPING},
@@ -83,6 +80,14 @@ std::vector<PlaceRow> RegionPlaces::withKey(const std::string& key, int limit) {
 
 std::vector<PlaceRow> RegionPlaces::matching(const std::string& expression, int limit) {
   return rows(mMatching->bind(1, expression).bind(2, std::int64_t{limit}));
+}
+
+std::string RegionPlaces::wordsOfLength(std::size_t length) {
+  std::string words;
+  mWords->bind(1, static_cast<std::int64_t>(length));
+  if (const auto step = mWords->step(); step && *step) words = mWords->text(0);
+  mWords->reset();
+  return words;
 }
 
 std::optional<PlaceRow> RegionPlaces::withId(std::int64_t id) {

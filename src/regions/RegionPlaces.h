@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
+#include "platform/Place.h"
 #include "regions/Database.h"
 #include "regions/GroundGeometry.h"
-#include "regions/Place.h"
 
 namespace wayloom {
 
@@ -36,6 +36,9 @@ class RegionPlaces {
   std::vector<PlaceRow> withKey(const std::string& key, int limit);
   /// Places that a full-text expression finds, by importance.
   std::vector<PlaceRow> matching(const std::string& expression, int limit);
+  /// The words of so many letters in the names of places, one after the other, important ones
+  /// first.
+  std::string wordsOfLength(std::size_t length);
   std::optional<PlaceRow> withId(std::int64_t id);
 
   std::vector<PlaceRow> settlementsAround(Coordinate center, double radiusMetres);
@@ -49,7 +52,7 @@ class RegionPlaces {
   static std::vector<PlaceRow> rows(Statement& statement);
 
   Database mDatabase;
-  std::optional<Statement> mWithKey, mMatching, mWithId, mSettlements, mLines, mAreas;
+  std::optional<Statement> mWithKey, mMatching, mWords, mWithId, mSettlements, mLines, mAreas;
 };
 
 }  // namespace wayloom

@@ -10,6 +10,7 @@ namespace {
 
 constexpr std::size_t kMostBytes = 400;
 constexpr std::size_t kMostWords = 12;
+constexpr std::size_t kMostKeys = 48;
 // Shorter ones name houses, roads and floors, but no place by themselves.
 constexpr std::size_t kShortestNumber = 4;
 
@@ -23,17 +24,6 @@ std::string_view beginning(std::string_view text) {
   std::size_t size = kMostBytes;
   while (size > 0 && (static_cast<unsigned char>(text[size]) & 0xC0) == 0x80) --size;
   return text.substr(0, size);
-}
-
-std::vector<std::string> distinctWords(std::vector<std::string> words) {
-  std::vector<std::string> distinct;
-  for (auto& word : words) {
-    if (distinct.size() == kMostWords) break;
-    if (std::find(distinct.begin(), distinct.end(), word) == distinct.end()) {
-      distinct.push_back(std::move(word));
-    }
-  }
-  return distinct;
 }
 
 std::string join(const std::vector<std::string>& parts, std::string_view separator) {
@@ -57,59 +47,114 @@ std::string quoted(const std::string& word) {
   return std::string("\"").append(word).append("\"");
 }
 
-std::vector<std::string> terms(const std::vector<std::string>& words, SearchText::Match match) {
+}  // namespace
+
+SearchText::SearchText(const std::vector<Word>& words) : mSequence(words) {
+  for (const Word& word : words) {
+    if (mWords.size() < kMostWords && !hasWord(word.front())) mWords.push_back(word);
+  }
+}
+
+SearchText::SearchText(std::string_view text, const NameFolder& folder)
+    : SearchText([&] {
+        const auto typed = folder.words(beginning(text));
+        const auto spelledOut = folder.spelledOutWords(beginning(text));
+        std::vector<Word> words;
+        for (std::size_t number = 0; number < typed.size(); ++number) {
+          words.push_back({typed[number]});
+          if (spelledOut.size() == typed.size() && spelledOut[number] != typed[number]) {
+            words.back().push_back(spelledOut[number]);
+          }
+        }
+        return words;
+      }()) {}
+
+SearchText SearchText::with(std::size_t number, std::vector<std::string> others) const {
+  auto words = mSequence;
+  for (Word& word : words) {
+    if (word == mWords[number]) word = others;
+  }
+  return SearchText(words);
+}
+
+std::vector<std::string> SearchText::keys() const {
+  std::vector<std::string> keys = {""};
+  for (const Word& word : mSequence) {
+    std::vector<std::string> longer;
+    for (const std::string& key : keys) {
+      for (const std::string& form : word) {
+        if (longer.size() == kMostKeys) break;
+        longer.push_back(key.empty() ? form : key + ' ' + form);
+      }
+    }
+    keys = std::move(longer);
+  }
+  return keys;
+}
+
+std::vector<std::string> SearchText::terms(const std::vector<Word>& words, Match match) {
+  const auto mayGoOn = [&](const Word& word) {
+    const bool isLast = &word == &words.back();
+    if (match == Match::kStillTyping) return isLast;
+    return (match == Match::kEveryWordMayGoOn || (match == Match::kLastWordMayGoOn && isLast)) &&
+           !isFragment(word.front());
+  };
   std::vector<std::string> terms;
-  for (const auto& word : words) {
-    const bool mayGoOn = match == SearchText::Match::kEveryWordMayGoOn ||
-                         (match == SearchText::Match::kLastWordMayGoOn && &word == &words.back());
-    terms.push_back(quoted(word) + (mayGoOn && !isFragment(word) ? "*" : ""));
+  for (const Word& word : words) {
+    std::vector<std::string> forms;
+    for (const std::string& form : word) forms.push_back(quoted(form) + (mayGoOn(word) ? "*" : ""));
+    terms.push_back(forms.size() == 1 ? forms.front() : "(" + join(forms, " OR ") + ")");
   }
   return terms;
 }
 
-}  // namespace
-
-SearchText::SearchText(std::vector<std::string> words)
-    : mWords(distinctWords(std::move(words))), mKey(join(mWords, " ")) {}
-
-SearchText::SearchText(std::string_view text, const NameFolder& folder) {
-  const auto words = folder.words(beginning(text));
-  mWords = distinctWords(words);
-  mKey = join(words, " ");
+bool SearchText::hasWord(const std::string& word) const {
+  return std::any_of(mWords.begin(), mWords.end(), [&](const Word& forms) {
+    return std::find(forms.begin(), forms.end(), word) != forms.end();
+  });
 }
 
-bool SearchText::hasWord(const std::string& word) const {
-  return std::find(mWords.begin(), mWords.end(), word) != mWords.end();
+bool SearchText::beginsWith(const std::string& word) const {
+  return std::any_of(mWords.front().begin(), mWords.front().end(),
+                     [&](const std::string& form) { return word.starts_with(form); });
+}
+
+std::size_t SearchText::length() const {
+  std::size_t length = 0;
+  for (const Word& word : mWords) length += word.front().size();
+  return length;
 }
 
 bool SearchText::saysSomething() const {
-  return std::any_of(mWords.begin(), mWords.end(), [](const auto& word) {
+  return std::any_of(mWords.begin(), mWords.end(), [](const Word& forms) {
+    const std::string& word = forms.front();
     return !isFragment(word) || (hasDigit(word) && word.size() >= kShortestNumber);
   });
 }
 
 bool SearchText::hasHouseNumber() const {
-  return std::any_of(mWords.begin(), mWords.end(), [](const std::string& word) {
+  return std::any_of(mWords.begin(), mWords.end(), [](const Word& forms) {
+    const std::string& word = forms.front();
     const std::size_t digits = std::min(word.find_first_not_of("0123456789"), word.size());
     return digits >= 1 && digits <= 4 && word[0] != '0' && word.size() <= digits + 1;
   });
 }
 
 std::optional<SearchText> SearchText::withoutNumbers() const {
-  std::vector<std::string> kept;
-  for (const auto& word : mWords) {
-    if (!hasDigit(word)) kept.push_back(word);
+  std::vector<Word> kept;
+  for (const Word& word : mWords) {
+    if (!hasDigit(word.front())) kept.push_back(word);
   }
   if (kept.empty() || kept.size() == mWords.size()) return std::nullopt;
-  return SearchText(std::move(kept));
+  return SearchText(kept);
 }
 
 std::string SearchText::expression(Match match) const {
   const auto parts = terms(mWords, match);
   if (parts.size() == 1) return std::string("name : ").append(parts.front());
-  return std::string("{name context} : (")
+  return std::string("{name more context} : (")
       .append(join(parts, " AND "))
-      .append(") AND name : (")
+      .append(") AND {name more} : (")
       .append(join(parts, " OR "))
       .append(")");
 }

@@ -15,17 +15,33 @@ namespace wayloom {
 class SearchText {
  public:
   /// How much of a word must stand in the index.
-  enum class Match { kWholeWords, kLastWordMayGoOn, kEveryWordMayGoOn };
+  enum class Match {
+    kWholeWords,
+    kLastWordMayGoOn,
+    kEveryWordMayGoOn,
+    /// The last word may go on even when it is a fragment: somebody is typing.
+    kStillTyping,
+  };
 
   SearchText(std::string_view text, const NameFolder& folder);
 
   /// No words: nothing to look for.
   bool isEmpty() const { return mWords.empty(); }
-  const std::vector<std::string>& words() const { return mWords; }
+  std::size_t size() const { return mWords.size(); }
+  /// As it was typed, unless it was replaced.
+  const std::string& word(std::size_t number) const { return mWords[number].front(); }
   bool hasWord(const std::string& word) const;
+  /// Whether the first word, finished or not, begins this one.
+  bool beginsWith(const std::string& word) const;
+  /// The letters and digits of all words, in bytes.
+  std::size_t length() const;
 
-  /// The words in the order they were typed, as place_key holds names.
-  const std::string& key() const { return mKey; }
+  /// The words in the order they were typed, as place_key holds names: one key, or several where
+  /// words have several forms.
+  std::vector<std::string> keys() const;
+
+  /// The same with a word replaced by any of others, at least one.
+  SearchText with(std::size_t number, std::vector<std::string> others) const;
 
   /// Whether there is more than fragments of one or two letters and short numbers.
   bool saysSomething() const;
@@ -42,10 +58,16 @@ class SearchText {
   std::string expressionNear(Match match, Coordinate position) const;
 
  private:
-  explicit SearchText(std::vector<std::string> words);
+  /// The forms of a word, any of which may be found: the first is the one that was typed, others
+  /// have ä, ö, ü, å and ø in two letters.
+  using Word = std::vector<std::string>;
 
-  std::vector<std::string> mWords;
-  std::string mKey;
+  explicit SearchText(const std::vector<Word>& words);
+  static std::vector<std::string> terms(const std::vector<Word>& words, Match match);
+
+  std::vector<Word> mWords;
+  /// All of them in their order, the repeated ones too.
+  std::vector<Word> mSequence;
 };
 
 }  // namespace wayloom

@@ -1,42 +1,34 @@
-#include <protozero/pbf_writer.hpp>
-
 #include "CityList.h"
 
 namespace wayloom {
 namespace {
 
-std::string message(const std::string& name, std::int64_t longitudeStep, std::int64_t latitudeStep,
-                    std::int64_t population) {
-  std::string body;
-  protozero::pbf_writer writer(body);
-  writer.add_string(2, name);
-  writer.add_string(7, "PPL");
-  writer.add_int64(9, population);
-  writer.add_sint64(10, longitudeStep);
-  writer.add_sint64(11, latitudeStep);
-  return static_cast<char>(body.size()) + body;
-}
+constexpr char kLine[] =
+    "2711537\tGöteborg\tGoeteborg\tGOT,Gothenburg,G'oteborg,Got'enburg,ge de "
+    "bao,哥德堡市\t57.70716\t11.96679\tP\tPPLA\tSE"
+    "\t\t28\t1480\t\t\t572799\t\t10\tEurope/Stockholm\t2019-09-05";
 
-TEST(CityListTest, AddsUpTheStepsBetweenPlaces) {
-  const auto cities = readCityList(message("Göteborg", 1196679, 5770716, 572799) +
-                                   message("Lima", -8900000, -6975000, 1));
+TEST(CityListTest, ReadsPlacesWithTheNamesThatPeopleUse) {
+  const auto cities = readCityList(std::string(kLine) + '\n' + kLine + '\n');
   ASSERT_TRUE(cities);
   ASSERT_EQ(cities->size(), 2U);
-  EXPECT_EQ(cities->front().name, "Göteborg");
-  EXPECT_EQ(cities->front().population, 572799);
-  EXPECT_NEAR(cities->front().coordinate.longitude, 11.96679, 1e-9);
-  EXPECT_NEAR(cities->back().coordinate.longitude, -77.03321, 1e-9);
-  EXPECT_NEAR(cities->back().coordinate.latitude, -12.04284, 1e-9);
+  const City& city = cities->back();
+  EXPECT_EQ(city.name + city.country + city.featureCode + city.adminCode, "GöteborgSEPPLA28");
+  EXPECT_EQ(city.otherNames, (std::vector<std::string>{"Gothenburg", "G'oteborg", "哥德堡市",
+                                                       "哥德堡", "Goeteborg"}));
+  EXPECT_EQ(city.population, 572799);
+  EXPECT_EQ(city.coordinate, (Coordinate{57.70716, 11.96679}));
 }
 
-TEST(CityListTest, RefusesCutAndImpossibleData) {
-  const std::string whole = message("Somewhere", 100, 100, 5);
-  for (std::size_t length = 1; length < whole.size(); ++length) {
-    EXPECT_FALSE(readCityList(whole.substr(0, length))) << "cut at " << length;
+TEST(CityListTest, RefusesCutAndImpossibleLines) {
+  const std::string line = kLine;
+  EXPECT_FALSE(readCityList(line.substr(0, line.rfind('\t'))));
+  for (const auto& [number, wrong] :
+       {std::pair{"57.70716", "97"}, {"11.96679", "11.9x"}, {"572799", "many"}}) {
+    std::string damaged = line;
+    damaged.replace(damaged.find(number), std::string(number).size(), wrong);
+    EXPECT_FALSE(readCityList(damaged)) << wrong;
   }
-  EXPECT_FALSE(readCityList(message("Beyond the pole", 0, 9'000'001, 1)));
-  EXPECT_FALSE(readCityList(message("Beyond all", INT64_MAX, 0, 1)));
-  EXPECT_FALSE(readCityList(std::string(20, '\xff')));
 }
 
 }  // namespace

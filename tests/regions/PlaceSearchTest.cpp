@@ -1,6 +1,8 @@
 #include <cmath>
 #include <string>
 
+#include "platform/RunLoop.h"
+#include "regions/RegionGeocoder.h"
 #include "tests/regions/SmallIndex.h"
 
 namespace wayloom {
@@ -115,6 +117,24 @@ TEST(PlaceSearchTest, TakesAnyText) {
   }
   EXPECT_EQ(index.best("\"paris\" *"), "Paris, Île-de-France, France");
   EXPECT_EQ(index.best("paris\x01\ttexas"), "Paris, Texas, United States");
+}
+
+// Somebody types on: what was asked before the last letter is not answered any more.
+TEST(PlaceSearchTest, SuggestsForTheLastQuestionOnly) {
+  SmallIndex index(someWorld());
+  RunLoop loop;
+  RegionGeocoder places(index.store(), loop);
+  std::vector<std::string> answers;
+  for (const std::string text : {"s", "sp", "spr", "par"}) {
+    places.suggest(text, std::nullopt, [&answers, text](const std::vector<Place>& found) {
+      ASSERT_FALSE(found.empty()) << text;
+      answers.push_back(text + ": " + found.front().name);
+    });
+  }
+  bool isOver = false;
+  places.reverseGeocode({48.85, 2.35}, [&](const auto&) { isOver = true; });
+  ASSERT_TRUE(loop.runUntil([&] { return isOver; }, std::chrono::seconds(30)));
+  EXPECT_EQ(answers, std::vector<std::string>{"par: Paris"});
 }
 
 TEST(PlaceSearchTest, GivesOnePlaceOnceFromOverlappingRegions) {

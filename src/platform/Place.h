@@ -1,7 +1,9 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "geo/Coordinate.h"
@@ -16,11 +18,21 @@ enum class PlaceKind {
   /// A city, town, village or part of one.
   kSettlement = 3,
   kStreet = 4,
-  /// A house with its number, or another spot with an address or name of its own.
+  /// A house with its number.
   kAddress = 5,
+  /// What has a name of its own: a castle, a station, a shop, a school.
+  kPointOfInterest = 6,
+  /// The houses of one postcode.
+  kPostcode = 7,
 };
 
-/// One place of the index. Texts that do not apply are empty.
+/// Numbers in files that stand for no kind give nothing.
+std::optional<PlaceKind> placeKind(std::int64_t number);
+
+/// In English, in the singular: "point of interest".
+std::string_view kindName(PlaceKind kind);
+
+/// One place that can be searched for. Texts that do not apply are empty.
 struct Place {
   PlaceKind kind = PlaceKind::kSettlement;
   std::string name;

@@ -1,8 +1,11 @@
-#include "regions/Place.h"
+#include "platform/Place.h"
 
 namespace wayloom {
 
 namespace {
+
+constexpr std::string_view kKindNames[] = {"country", "division",          "settlement", "street",
+                                           "address", "point of interest", "postcode"};
 
 void append(std::string& line, std::string& last, const std::string& name) {
   if (name.empty() || name == last) return;
@@ -13,12 +16,20 @@ void append(std::string& line, std::string& last, const std::string& name) {
 
 }  // namespace
 
+std::optional<PlaceKind> placeKind(std::int64_t number) {
+  if (number < 1 || number > static_cast<std::int64_t>(std::size(kKindNames))) return std::nullopt;
+  return static_cast<PlaceKind>(number);
+}
+
+std::string_view kindName(PlaceKind kind) {
+  return kKindNames[static_cast<std::size_t>(kind) - 1];
+}
+
 std::vector<std::string> addressLines(const Place& place) {
   std::string first;
   std::string rest;
   std::string last;
-  const bool hasSecondLine = !place.locality.empty() && (place.kind == PlaceKind::kStreet ||
-                                                         place.kind == PlaceKind::kAddress);
+  const bool hasSecondLine = !place.locality.empty() && (place.kind >= PlaceKind::kStreet);
   append(first, last, place.name);
   append(first, last, place.locality);
   append(hasSecondLine ? rest : first, last, place.division);

@@ -49,7 +49,7 @@ class Commands {
     if (word == "favorites") return open("favoritesButton", "mainTableView");
     if (word == "choose") return choose();
     if (word == "remove") return pressFirst(Qt::Key_Delete);
-    if (word == "undo") return mWindow.isShown("undoButton") && mWindow.click("undoButton");
+    if (word == "undo") return undo();
     if (word == "close") return close();
     return word == "wait";
   }
@@ -123,6 +123,11 @@ class Commands {
     return pressFirst(Qt::Key_Return) && mWindow.waitUntil("the screen below", [this] {
       return !text("statusLine").empty() && (screen() == "modal" || isBack());
     });
+  }
+
+  bool undo() {
+    const auto isShown = [this] { return mWindow.isShown("undoButton"); };
+    return mWindow.waitUntil("the undo button", isShown) && mWindow.click("undoButton");
   }
 
   bool find(const QString& position) {

@@ -119,13 +119,12 @@ ExitStatus turnRouteOn(CommandLine& line, const Drive& drive) {
                              .startText = addressOf(line, request.source),
                              .endText = addressOf(line, request.destination)};
   const DirectionsAnswer found = directionsNow(line, request);
-  auto points = std::make_shared<RoutePoints>(
+  const auto points = std::make_shared<RoutePoints>(
       found.error ? RoutePoints() : RoutePoints::planned(found.routes.front().polyline));
   std::optional<std::string> problem;
-  simulation.turnOn(choices, std::move(points), found.error.has_value(),
-                    [&](const Result<double>& startTime) {
-                      if (!startTime) problem = startTime.message();
-                    });
+  simulation.turnOn(choices, points, found.error.has_value(), [&](const Result<double>& startTime) {
+    if (!startTime) problem = startTime.message();
+  });
   if (problem == kPathPlanningFailure && found.error) *problem += " (" + *found.error + ")";
   return problem ? line.fail(*problem) : answerDone(line);
 }

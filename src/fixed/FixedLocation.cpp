@@ -45,10 +45,10 @@ FixedLocation::FixedLocation(SettingsFiles& files, ChangeNotice& notice)
 
 Result<FixedLocationState> FixedLocation::refresh() {
   auto settings = mFiles.loadLocationSettings();
+  mIsOthers = !settings;  // Once it can be read, it is read, though it be the same again.
   if (!settings) return settings.failure();
   mPreferences = std::move(*settings).value_or(PropertyList::Dictionary());
   mVersion = mFiles.seenVersion(SettingsFile::Location);
-  mIsOthers = false;
   return stateOf(*mPreferences);
 }
 
@@ -111,7 +111,7 @@ Status FixedLocation::leaveForRoute() {
 }
 
 Status FixedLocation::write(Entries entries) {
-  if (!mPreferences) return done();
+  if (!mPreferences) return load().status();
   const auto turn = mFiles.takeTurn();
   if (!turn) return turn.failure();
   auto current = load();

@@ -67,7 +67,7 @@ class AngleReader {
         return true;
       case Kind::Point:
         mIsPoint = true;
-        return mAngles.empty() && mAngle.count == 0;
+        return true;
     }
     return false;
   }
@@ -157,6 +157,7 @@ std::optional<Result<Coordinate>> positionOf(const DegreesTokens& tokens) {
   // 12:30, 14:00 are hours, and 031 12, 34 56 is anything, unless the compass says otherwise.
   const bool isSure = first.axis != Axis::Unknown && second.axis != Axis::Unknown;
   const bool hasUnits = first.count > 1 || second.count > 1;
+  if (tokens.hasSlash && !isSure && !(first.hasFraction && second.hasFraction)) return std::nullopt;
   if (hasUnits && !isSure && (tokens.hasColons || !first.isMarked || !second.isMarked)) {
     return std::nullopt;
   }

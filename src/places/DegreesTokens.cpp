@@ -21,7 +21,6 @@ struct Word {
 
 constexpr auto kCompass = Kind::Compass;
 constexpr auto kLabel = Kind::Label;
-constexpr auto kPoint = Kind::Point;
 constexpr auto kLatitude = Axis::Latitude;
 constexpr auto kLongitude = Axis::Longitude;
 
@@ -85,9 +84,6 @@ constexpr Word kWords[] = {
     {U"degrees", Kind::Mark, Axis::Unknown, 0},
     {U"min", Kind::Mark, Axis::Unknown, 1},
     {U"sec", Kind::Mark, Axis::Unknown, 2},
-    {U"point", kPoint, Axis::Unknown},
-    {U"type", Kind::Separator, Axis::Unknown},
-    {U"coordinates", Kind::Separator, Axis::Unknown},
 };
 
 constexpr std::u32string_view kNothing = U"()[]{}<> ";
@@ -130,10 +126,10 @@ class Lexer {
 
   bool take(char32_t next) {
     if (isDigit(next) || next == U'.' || next == U'-' || next == U'+') return takeNumber();
-    if (isLetter(next)) return takeWord();
+    if (isLetter(next)) return takeWord(false);
     ++mAt;
     // JSON's quotes stand around words only; whoever wants seconds writes a digit before them.
-    if (next == U'"' && isLetter(at(mAt))) return takeWord();
+    if (next == U'"' && isLetter(at(mAt))) return takeWord(true);
     if (next == U'°') return add({.kind = Kind::Mark, .unit = 0});
     if (next == U'\'') return add({.kind = Kind::Mark, .unit = 1});
     if (next == U'"') return add({.kind = Kind::Mark, .unit = 2});
@@ -145,7 +141,10 @@ class Lexer {
     }
     // 57,7,11,97 is a list as well.
     if (next == U',' && mIsCommaDecimal && isDigit(at(mAt))) return false;
-    return kSeparators.find(next) != kSeparators.npos && add({});
+    if (kSeparators.find(next) == kSeparators.npos) return false;
+    if (next == U'/' || next == U'|') mTokens.hasSlash = true;
+    const bool isEmpty = mTokens.list.empty() || mTokens.list.back().kind == Kind::Separator;
+    return (!isEmpty || next == U'\n') && add({});
   }
 
   bool add(const DegreesToken& token) {
@@ -175,7 +174,9 @@ class Lexer {
       token.isSigned = true;
       if (at(mAt) == U'-') digits = "-";
       ++mAt;
-      if (at(mAt) == U' ' && isDigit(at(mAt + 1))) ++mAt;
+      // "57.7 - 11.97" is from one to the other as well.
+      const bool isSign = mTokens.list.empty() || mTokens.list.back().kind == Kind::Separator;
+      if (isSign && at(mAt) == U' ' && isDigit(at(mAt + 1))) ++mAt;
     }
     // +57.7+011.97 is a pair; 10-12 is none, nor is 1.2.3.
     if (isAttached && !(token.isSigned && mTokens.list.back().isSigned)) return false;
@@ -199,7 +200,8 @@ class Lexer {
     return add(token);
   }
 
-  bool takeWord() {
+  bool takeWord(bool isQuoted) {
+    const std::size_t begin = mAt;
     std::u32string word;
     while (isLetter(at(mAt)) || (at(mAt) == U'°' && !word.empty() && word.back() > 0x2E80)) {
       word += small(at(mAt));
@@ -208,14 +210,32 @@ class Lexer {
     if (at(mAt) == U'"') ++mAt;                           // JSON's, see above.
     if (at(mAt) == U'.' && !isDigit(at(mAt + 1))) ++mAt;  // "lat."
     if (word == U"o") return addWestOrEast();
+    // 1e5 is a number of another kind.
+    const bool isWithin = begin > 0 && isDigit(mText[begin - 1]) && isDigit(at(mAt));
+    if (word == U"e" && isWithin && !mHasCompass) return false;
+    if (word == U"point" || word == U"coordinates" || word == U"type") {
+      return addFormat(word, isQuoted);
+    }
     for (const Word& known : kWords) {
       if (word != known.text) continue;
+      mHasCompass = mHasCompass || known.kind == kCompass;
       return add({.kind = known.kind,
                   .value = known.value,
                   .unit = static_cast<std::size_t>(std::max(known.value, 0.0)),
                   .axis = known.axis});
     }
     return false;
+  }
+
+  /// GeoJSON's names, in quotes, and well-known text's POINT (11.97 57.7): both begin with
+  /// longitude.
+  bool addFormat(std::u32string_view word, bool isQuoted) {
+    const auto has = [this](std::u32string_view any) {
+      return mText.find_first_of(any) != mText.npos;
+    };
+    if (isQuoted) return add({.kind = word == U"type" ? Kind::Separator : Kind::Point});
+    if (word == U"coordinates") return !has(U"[{") && add({});
+    return word == U"point" && has(U"(") && !has(U",;") && add({.kind = Kind::Point});
   }
 
   bool addWestOrEast() {
@@ -228,6 +248,7 @@ class Lexer {
   std::string_view mLanguage;
   bool mIsCommaDecimal;
   std::size_t mAt = 0;
+  bool mHasCompass = false;
   DegreesTokens mTokens;
 };
 

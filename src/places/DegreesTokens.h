@@ -28,6 +28,8 @@ struct DegreesTokens {
   std::vector<DegreesToken> list;
   /// Colons stand for marks: it may be a time of day.
   bool hasColons = false;
+  /// Slashes or bars separate: whole numbers may be a fraction or a day.
+  bool hasSlash = false;
 };
 
 /// Cuts a plain text into tokens; none when there is anything in it that positions do not have.

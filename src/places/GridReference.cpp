@@ -68,7 +68,9 @@ std::optional<UtmParts> utmParts(const std::string& text) {
       return std::nullopt;
     }
   }
-  const bool isWhole = hasZone && parts.metres.size() == 2;
+  constexpr double kLeastMetres = 1000;  // Less are degrees, or anything.
+  const bool isWhole = hasZone && parts.metres.size() == 2 && parts.metres[0] >= kLeastMetres &&
+                       parts.metres[1] >= kLeastMetres;
   return isWhole ? std::optional(std::move(parts)) : std::nullopt;
 }
 
@@ -130,7 +132,7 @@ std::optional<Result<Coordinate>> readMgrs(std::string_view text) {
 // (IARU Region 1, 1980).
 std::optional<Coordinate> readMaidenhead(std::string_view text) {
   constexpr int kParts[] = {18, 10, 24, 10, 24};
-  if (text.size() < 4 || text.size() > 10 || text.size() % 2 != 0) return std::nullopt;
+  if (text.size() < 6 || text.size() > 10 || text.size() % 2 != 0) return std::nullopt;
   double longitude = -180;
   double latitude = -90;
   double width = 360;

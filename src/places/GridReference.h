@@ -19,7 +19,7 @@ std::optional<Result<Coordinate>> readUtm(std::string_view text);
 /// 9912".
 std::optional<Result<Coordinate>> readMgrs(std::string_view text);
 
-/// A Maidenhead locator of six to ten characters, or of four: "JO57xq".
+/// A Maidenhead locator of six to ten characters: "JO57xq". Four are too much like other codes.
 std::optional<Coordinate> readMaidenhead(std::string_view text);
 
 }  // namespace wayloom

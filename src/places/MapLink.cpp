@@ -3,9 +3,10 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
-#include <utility>
-#include <vector>
+#include <functional>
+#include <span>
 
+#include "places/AsciiCapitals.h"
 #include "places/DegreesText.h"
 #include "places/LinkParts.h"
 
@@ -14,12 +15,15 @@ namespace wayloom {
 namespace {
 
 enum class Order { LatitudeFirst, LongitudeFirst };
+/// What may follow a pair of numbers besides a label in brackets.
+enum class Behind { Nothing, Anything };
 
 /// A parameter that holds a whole position, on hosts whose name has `host` in it.
 struct PairForm {
   std::string_view host;
   std::string_view name;
   Order order = Order::LatitudeFirst;
+  Behind behind = Behind::Nothing;
 };
 
 /// Two parameters that hold one.
@@ -28,42 +32,53 @@ struct SplitForm {
   std::string_view latitude, longitude;
 };
 
-// What marks a place comes before what is merely in the middle of the view.
-constexpr SplitForm kSplitForms[] = {
-    {"", "mlat", "mlon"}, {"", "lat", "lon"},       {"", "lat", "lng"},
-    {"", "lat", "long"},  {"", "to_lat", "to_lon"}, {"", "latitude", "longitude"},
-    {"mapy.", "y", "x"},
-};
-constexpr PairForm kPairForms[] = {
+constexpr SplitForm kSplitPins[] = {{"", "mlat", "mlon"},
+                                    {"", "lat", "lon"},
+                                    {"", "lat", "lng"},
+                                    {"", "lat", "long"},
+                                    {"", "latitude", "longitude"}};
+constexpr SplitForm kSplitViews[] = {{"mapy.", "y", "x"}};
+// Where a pin stands or a drive ends.
+constexpr PairForm kPins[] = {
     {"yandex.", "whatshere[point]", Order::LongitudeFirst},
-    {"yandex.", "pt", Order::LongitudeFirst},
-    {"yandex.", "ll", Order::LongitudeFirst},
-    {"2gis.", "m", Order::LongitudeFirst},
+    {"yandex.", "pt", Order::LongitudeFirst, Behind::Anything},
+    {"mapy.", "id", Order::LongitudeFirst},
     {"", "pin"},
-    {"", "q"},
-    {"", "query"},
-    {"", "daddr"},
-    {"", "destination"},
     {"", "coordinate"},
     {"", "latlng"},
+    {"", "daddr"},
+    {"", "destination"},
+    {"", "to"},
+    {"", "q"},
+    {"", "query"},
+    {"", "text"},
+    {"", "address"},
     {"", "loc"},
     {"", "location"},
     {"", "point"},
-    {"", "pt"},
-    {"", "address"},
-    {"", "to"},
+    {"", "sp", Order::LatitudeFirst, Behind::Anything},
+};
+constexpr std::string_view kDestinationWords[] = {"daddr", "destination", "to"};
+// What is shown, with a pin or without.
+constexpr PairForm kShown[] = {
+    {"yandex.", "ll", Order::LongitudeFirst},
+    {"2gis.", "m", Order::LongitudeFirst, Behind::Anything},
     {"", "ll"},
     {"", "cbll"},
     {"", "viewpoint"},
+};
+constexpr std::string_view kSearchWords[] = {"q", "query", "text", "address"};
+// The middle of the view.
+constexpr PairForm kViews[] = {
     {"", "sll"},
     {"", "center"},
     {"", "cp"},
-    {"", "map"},
-    {"", "c"},
+    {"", "map", Order::LatitudeFirst, Behind::Anything},
+    {"", "c", Order::LatitudeFirst, Behind::Anything},
 };
-constexpr std::string_view kWordForms[] = {"q", "query", "daddr", "destination", "address", "text"};
-constexpr std::string_view kWordFolders[] = {"place", "search", "dir"};
 constexpr std::string_view kSchemes[] = {"geo:", "google.navigation:", "bingmaps:", "maps:"};
+
+using Found = std::optional<Result<LinkTarget>>;
 
 std::optional<double> takeNumber(std::string_view& text) {
   if (text.starts_with('+')) text.remove_prefix(1);
@@ -75,46 +90,72 @@ std::optional<double> takeNumber(std::string_view& text) {
   return number;
 }
 
+/// The same for numbers with a point. Whole ones in links are anything: days, issues, pages.
+std::optional<double> takeFraction(std::string_view& text) {
+  const std::string_view before = text;
+  const auto number = takeNumber(text);
+  const std::string_view taken = before.substr(0, before.size() - text.size());
+  return taken.find('.') == taken.npos ? std::nullopt : number;
+}
+
 void skipBlanks(std::string_view& text) {
   while (text.starts_with(' ')) text.remove_prefix(1);
 }
 
-/// The two numbers at the beginning of "57.7,11.97,17z", "57.7~11.97", "57.7,11.97(Home)" and the
-/// like. None for anything else.
-std::optional<Coordinate> leadingPair(std::string_view text, Order order) {
-  constexpr std::string_view kBetween = ",~_;|/ ";
-  constexpr std::string_view kBehind = ",~_;|/ (&@)";
-  if (text.starts_with("loc:")) text.remove_prefix(4);
+Found checked(Coordinate position) {
+  const auto result = checkedPosition(position);
+  return result ? Result<LinkTarget>(*result) : Result<LinkTarget>(result.failure());
+}
+
+/// "57.7,11.97", "57.7~11.97", "57.7, 11.97 (Home)", and, where anything may follow,
+/// "57.7,11.97,17z", "57.7_11.97_Home" and the like.
+std::optional<Coordinate> pairIn(std::string_view text, Order order, Behind behind) {
+  for (const std::string_view prefix : {"loc:", "ll.", "point."}) {
+    if (text.starts_with(prefix)) text.remove_prefix(prefix.size());
+  }
+  const bool isFree = behind == Behind::Anything;
+  const std::string_view between = isFree ? ",~;_/" : ",~;";
   skipBlanks(text);
-  const auto first = takeNumber(text);
-  if (!first || text.empty() || kBetween.find(text.front()) == kBetween.npos) return std::nullopt;
-  text.remove_prefix(1);
+  const auto first = takeFraction(text);
+  const bool isSpaced = text.starts_with(' ');
   skipBlanks(text);
-  const auto second = takeNumber(text);
-  if (!second || (!text.empty() && kBehind.find(text.front()) == kBehind.npos)) return std::nullopt;
+  const bool isSeparated = !text.empty() && between.find(text.front()) != between.npos;
+  if (!first || (!isSeparated && !isSpaced)) return std::nullopt;
+  if (isSeparated) text.remove_prefix(1);
+  skipBlanks(text);
+  const auto second = takeFraction(text);
+  skipBlanks(text);
+  const bool isOver =
+      text.empty() || text.front() == '(' || (isFree && between.find(text.front()) != between.npos);
+  if (!second || !isOver) return std::nullopt;
   return order == Order::LatitudeFirst ? Coordinate{*first, *second} : Coordinate{*second, *first};
 }
 
-using Found = std::optional<Result<Coordinate>>;
-
-Found checkedPair(std::optional<Coordinate> pair) {
-  return pair ? Found(checkedPosition(*pair)) : std::nullopt;
-}
-
-/// A parameter's position, in numbers or as people write degrees.
-Found positionIn(const std::string& value, Order order) {
-  if (const auto pair = leadingPair(value, order)) return checkedPosition(*pair);
+/// A position in numbers, or in degrees as people write them.
+Found positionIn(const std::string& value, Order order, Behind behind) {
+  if (const auto pair = pairIn(value, order, behind)) return checked(*pair);
   const auto plain = plainText(value);
-  return plain ? readDegrees(*plain, "") : std::nullopt;
+  if (!plain || plain->find(U'°') == plain->npos) return std::nullopt;
+  const auto position = readDegrees(*plain, "");
+  if (!position) return std::nullopt;
+  return *position ? checked(**position) : Result<LinkTarget>(position->failure());
 }
 
-Found splitPosition(const LinkParts& link) {
-  for (const SplitForm& form : kSplitForms) {
-    if (link.host.find(form.host) == std::string::npos) continue;
+bool isOn(const LinkParts& link, std::string_view host) {
+  return link.host.find(host) != std::string::npos;
+}
+
+Found splitPosition(const LinkParts& link, std::span<const SplitForm> forms) {
+  for (const SplitForm& form : forms) {
     const std::string* latitude = valueOf(link.parameters, form.latitude);
     const std::string* longitude = valueOf(link.parameters, form.longitude);
-    if (!latitude || !longitude) continue;
-    return checkedPair(leadingPair(*latitude + ',' + *longitude, Order::LatitudeFirst));
+    if (!isOn(link, form.host) || !latitude || !longitude) continue;
+    std::string_view north = *latitude;
+    std::string_view east = *longitude;
+    const auto first = takeNumber(north);
+    const auto second = takeNumber(east);
+    if (first && second && north.empty() && east.empty()) return checked({*first, *second});
+    return failed("the position in this link is no number");
   }
   return std::nullopt;
 }
@@ -128,18 +169,36 @@ Found markedPosition(const LinkParts& link) {
     std::string pair = part.substr(latitude + 3, longitude - latitude - 3);
     std::string_view rest = std::string_view(part).substr(longitude + 3);
     pair.append(",").append(takeUntil(rest, '!'));
-    return checkedPair(leadingPair(pair, Order::LatitudeFirst));
+    if (const auto position = pairIn(pair, Order::LatitudeFirst, Behind::Nothing)) {
+      return checked(*position);
+    }
   }
   return std::nullopt;
 }
 
-Found pairPosition(const LinkParts& link) {
-  for (const PairForm& form : kPairForms) {
-    if (link.host.find(form.host) == std::string::npos) continue;
+Found pairPosition(const LinkParts& link, std::span<const PairForm> forms) {
+  for (const PairForm& form : forms) {
     const std::string* value = valueOf(link.parameters, form.name);
-    // "map=17/57.7/11.97" is a view, read below.
-    if (!value || std::count(value->begin(), value->end(), '/') == 2) continue;
-    if (Found found = positionIn(*value, form.order)) return found;
+    // "map=17/57.7/11.97" is read below.
+    if (!value || !isOn(link, form.host) || std::count(value->begin(), value->end(), '/') == 2) {
+      continue;
+    }
+    if (Found found = positionIn(*value, form.order, form.behind)) return found;
+  }
+  return std::nullopt;
+}
+
+bool hasLetter(std::string_view text) {
+  return std::any_of(text.begin(), text.end(), [](char character) {
+    const int small = character | 0x20;
+    return character < 0 || (small >= 'a' && small <= 'z');
+  });
+}
+
+Found wordsIn(const LinkParts& link, std::span<const std::string_view> names) {
+  for (const std::string_view name : names) {
+    const std::string* value = valueOf(link.parameters, name);
+    if (value && hasLetter(*value)) return LinkTarget(*value);
   }
   return std::nullopt;
 }
@@ -152,19 +211,48 @@ Found encyclopediaPosition(const LinkParts& link) {
   std::string degrees = value->substr(0, end == value->npos ? end : end + 1);
   std::replace(degrees.begin(), degrees.end(), '_', ' ');
   const auto plain = plainText(degrees);
-  return plain ? readDegrees(*plain, "") : std::nullopt;
+  const auto position = plain ? readDegrees(*plain, "") : std::nullopt;
+  if (!position) return std::nullopt;
+  return *position ? checked(**position) : Result<LinkTarget>(position->failure());
 }
 
-/// A position in the path: the last one that is a place, or else the middle of the view.
-Found pathPosition(const LinkParts& link) {
-  const Order order =
-      link.host.find("2gis.") == std::string::npos ? Order::LatitudeFirst : Order::LongitudeFirst;
-  for (const bool isView : {false, true}) {
-    for (auto part = link.path.rbegin(); part != link.path.rend(); ++part) {
-      // Whole numbers in a path are anything: days, issues, pages.
-      if (part->starts_with('@') != isView || part->find_first_of(".°") == part->npos) continue;
-      if (Found found = positionIn(part->substr(isView ? 1 : 0), order)) return found;
-    }
+bool isView(const std::string& part) {
+  return part.starts_with('@') || part.starts_with("data=");
+}
+
+/// The last of what stands behind `folder` in the path: where a drive ends, what is searched for.
+const std::string* lastBehind(const LinkParts& link, std::string_view folder) {
+  const auto at = std::find(link.path.begin(), link.path.end(), folder);
+  const auto end = std::find_if(at, link.path.end(), isView);
+  const std::string* last = nullptr;
+  for (auto part = at; part != end; ++part) {
+    if (part != at && !part->empty()) last = &*part;
+  }
+  return last;
+}
+
+/// A position or words behind a folder of the path.
+Found targetBehind(const LinkParts& link, std::string_view folder) {
+  const std::string* target = lastBehind(link, folder);
+  if (!target) return std::nullopt;
+  if (Found found = positionIn(*target, Order::LatitudeFirst, Behind::Nothing)) return found;
+  return hasLetter(*target) ? Found(LinkTarget(*target)) : std::nullopt;
+}
+
+/// "/directions?route=57.1,11.2;57.7,11.97".
+Found routePosition(const LinkParts& link) {
+  const std::string* route = valueOf(link.parameters, "route");
+  if (!route) return std::nullopt;
+  const std::string end = route->substr(route->rfind(';') + 1);
+  return positionIn(end, Order::LatitudeFirst, Behind::Nothing);
+}
+
+Found pathPosition(const LinkParts& link, bool wantsView) {
+  const Order order = isOn(link, "2gis.") ? Order::LongitudeFirst : Order::LatitudeFirst;
+  for (auto part = link.path.rbegin(); part != link.path.rend(); ++part) {
+    if (isView(*part) != wantsView) continue;
+    const std::string position = wantsView ? part->substr(1) : *part;
+    if (Found found = positionIn(position, order, Behind::Anything)) return found;
   }
   return std::nullopt;
 }
@@ -175,10 +263,10 @@ Found viewPosition(const LinkParts& link) {
   for (std::string_view view :
        {map ? std::string_view(*map) : "", std::string_view(link.fragment)}) {
     if (view.starts_with('/')) view.remove_prefix(1);
-    std::string_view rest = view;
-    if (!takeNumber(rest) || !rest.starts_with('/')) continue;
-    rest.remove_prefix(1);
-    if (const auto pair = leadingPair(rest, Order::LatitudeFirst)) return checkedPosition(*pair);
+    if (!takeNumber(view) || !view.starts_with('/')) continue;
+    view.remove_prefix(1);
+    const auto pair = pairIn(view, Order::LatitudeFirst, Behind::Anything);
+    if (pair) return checked(*pair);
   }
   return std::nullopt;
 }
@@ -202,21 +290,17 @@ Found shortPosition(const LinkParts& link) {
     }
   }
   if (part == 1) return std::nullopt;
-  return checkedPosition({north * 180 - 90 + part * 90, east * 360 - 180 + part * 180});
+  return checked({north * 180 - 90 + part * 90, east * 360 - 180 + part * 180});
 }
 
-std::optional<std::string> words(const LinkParts& link) {
-  for (const std::string_view name : kWordForms) {
-    if (const std::string* value = valueOf(link.parameters, name)) return *value;
-  }
-  for (const std::string_view folder : kWordFolders) {
-    const auto at = std::find(link.path.begin(), link.path.end(), folder);
-    if (at == link.path.end()) continue;
-    const auto end = std::find_if(at, link.path.end(),
-                                  [](const std::string& part) { return part.starts_with('@'); });
-    if (end - at > 1 && !(end - 1)->empty()) return *(end - 1);
-  }
-  return std::nullopt;
+/// Latitude, longitude and perhaps a height, all numbers.
+std::optional<Coordinate> geoPosition(std::string_view text) {
+  const auto latitude = takeNumber(text);
+  if (!latitude || !text.starts_with(',')) return std::nullopt;
+  text.remove_prefix(1);
+  const auto longitude = takeNumber(text);
+  if (!longitude || !(text.empty() || text.starts_with(','))) return std::nullopt;
+  return Coordinate{*latitude, *longitude};
 }
 
 Result<LinkTarget> readGeoAddress(std::string_view address) {
@@ -224,23 +308,20 @@ Result<LinkTarget> readGeoAddress(std::string_view address) {
   std::string_view query = address;
   std::string_view rest = takeUntil(query, '?');
   const LinkParameters parameters = linkParameters(query);
-  const auto position = leadingPair(takeUntil(rest, ';'), Order::LatitudeFirst);
+  const auto position = geoPosition(takeUntil(rest, ';'));
   while (!rest.empty()) {
     std::string_view value = takeUntil(rest, ';');
-    const std::string_view name = takeUntil(value, '=');
-    if (name == "crs" && value != "wgs84" && value != "WGS84") {
+    const std::string name = capitals(takeUntil(value, '='));
+    if (name == "CRS" && capitals(value) != "WGS84") {
       return failed("geo: addresses are read in wgs84 only");
     }
   }
   if (const std::string* asked = valueOf(parameters, "q")) {
-    if (Found found = positionIn(*asked, Order::LatitudeFirst)) {
-      return *found ? Result<LinkTarget>(**found) : found->failure();
-    }
+    if (Found found = positionIn(*asked, Order::LatitudeFirst, Behind::Nothing)) return *found;
     if (!position || *position == Coordinate()) return LinkTarget(*asked);
   }
   if (!position) return failed("this geo: address holds no position");
-  const auto checked = checkedPosition(*position);
-  return checked ? Result<LinkTarget>(*checked) : checked.failure();
+  return *checked(*position);
 }
 
 bool hasHostAndPath(std::string_view text) {
@@ -252,9 +333,13 @@ bool hasHostAndPath(std::string_view text) {
          host.find_first_of("abcdefghijklmnopqrstuvwxyz", host.rfind('.')) != host.npos;
 }
 
+bool isGeoAddress(std::string_view text) {
+  return capitals(text.substr(0, 4)) == "GEO:";
+}
+
 bool beginsLink(std::string_view word) {
   const auto isScheme = [word](std::string_view scheme) { return word.starts_with(scheme); };
-  return std::any_of(std::begin(kSchemes), std::end(kSchemes), isScheme) ||
+  return isGeoAddress(word) || std::any_of(std::begin(kSchemes), std::end(kSchemes), isScheme) ||
          word.find("://") != word.npos || hasHostAndPath(word);
 }
 
@@ -262,28 +347,48 @@ bool beginsLink(std::string_view word) {
 
 std::optional<std::string_view> linkIn(std::string_view text) {
   constexpr std::string_view kBlanks = " \t\r\n";
-  while (!text.empty()) {
-    const std::size_t begin = text.find_first_not_of(kBlanks);
-    if (begin == text.npos) break;
-    text.remove_prefix(begin);
+  for (bool isFirst = true;; isFirst = false) {
+    text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
+    if (text.empty()) return std::nullopt;
     const std::string_view word = text.substr(0, text.find_first_of(kBlanks));
     // Blanks within a parameter are not uncommon where the link is all there is.
-    if (beginsLink(word))
-      return text.starts_with("geo:") || word.find('?') != word.npos ? text : word;
+    if (beginsLink(word)) return isFirst && word.find('?') != word.npos ? text : word;
     text.remove_prefix(word.size());
   }
-  return std::nullopt;
 }
 
 Result<LinkTarget> readMapLink(std::string_view text) {
-  if (text.starts_with("geo:")) return readGeoAddress(text);
+  if (isGeoAddress(text)) return readGeoAddress(text);
   const LinkParts link = linkParts(text);
-  for (const auto read : {splitPosition, markedPosition, pairPosition, encyclopediaPosition,
-                          pathPosition, viewPosition, shortPosition}) {
-    const Found found = read(link);
-    if (found) return *found ? Result<LinkTarget>(**found) : found->failure();
+  if (isOn(link, "plus.codes") && !link.path.empty()) {
+    std::string code = link.path.back();  // In a path, "+" is often a blank; here it never is.
+    std::replace(code.begin(), code.end(), ' ', '+');
+    return LinkTarget(code);
   }
-  if (const auto asked = words(link)) return LinkTarget(*asked);
+  // What marks a place comes before where a drive goes, that before what is searched for, and the
+  // middle of the view last.
+  const std::function<Found()> forms[] = {
+      [&] { return splitPosition(link, kSplitPins); },
+      [&] { return markedPosition(link); },
+      [&] { return pairPosition(link, kPins); },
+      [&] { return encyclopediaPosition(link); },
+      [&] { return routePosition(link); },
+      [&] { return wordsIn(link, kDestinationWords); },
+      [&] { return targetBehind(link, "dir"); },
+      [&] { return pairPosition(link, kShown); },
+      [&] { return pathPosition(link, false); },
+      [&] { return wordsIn(link, kSearchWords); },
+      [&] { return targetBehind(link, "search"); },
+      [&] { return pathPosition(link, true); },
+      [&] { return viewPosition(link); },
+      [&] { return pairPosition(link, kViews); },
+      [&] { return splitPosition(link, kSplitViews); },
+      [&] { return shortPosition(link); },
+      [&] { return targetBehind(link, "place"); },
+  };
+  for (const auto& read : forms) {
+    if (const Found found = read()) return *found;
+  }
   return failed("this link holds no position: open it, and copy the address that is shown then");
 }
 

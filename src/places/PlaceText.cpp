@@ -27,14 +27,18 @@ std::optional<std::string> asciiText(const std::u32string& plain) {
   return trimmedText(text);
 }
 
+/// Whether a text is a short code and no sum.
+bool isCodeOfLetters(std::string_view text) {
+  return isShortCode(text) && text.find_first_not_of("0123456789+") != text.npos;
+}
+
 /// A short code alone, or with the name of a place before or behind it.
 std::optional<ShortPlaceCode> shortCode(std::string_view words) {
   static constexpr std::string_view kBetween = " ,";
   const std::size_t firstEnd = words.find_first_of(kBetween);
   const std::size_t lastBegin = words.find_last_of(kBetween);
   if (firstEnd == words.npos) {
-    // Of two digits before the plus too many sums consist.
-    const bool isCode = isShortCode(words) && words.find('+') == 4;
+    const bool isCode = isCodeOfLetters(words) && words.find('+') == 4;
     return isCode ? std::optional(ShortPlaceCode{std::string(words), {}}) : std::nullopt;
   }
   const auto named = [](std::string_view code, std::string_view place) {
@@ -44,8 +48,8 @@ std::optional<ShortPlaceCode> shortCode(std::string_view words) {
   };
   const std::string_view first = words.substr(0, firstEnd);
   const std::string_view last = words.substr(lastBegin + 1);
-  if (isShortCode(first)) return named(first, words.substr(firstEnd));
-  if (isShortCode(last)) return named(last, words.substr(0, lastBegin));
+  if (isCodeOfLetters(first)) return named(first, words.substr(firstEnd));
+  if (isCodeOfLetters(last)) return named(last, words.substr(0, lastBegin));
   return std::nullopt;
 }
 
@@ -53,10 +57,7 @@ std::optional<ShortPlaceCode> shortCode(std::string_view words) {
 std::optional<PlaceText> readCode(const std::string& text) {
   if (const auto position = readUtm(text)) return checked(*position);
   if (const auto position = readMgrs(text)) return checked(*position);
-  if (const auto position = readMaidenhead(text)) {
-    if (text.size() > 4) return *position;
-    return PlaceNameOrLocator{text, *position};
-  }
+  if (const auto position = readMaidenhead(text)) return *position;
   return std::nullopt;
 }
 

@@ -21,14 +21,8 @@ struct ShortPlaceCode {
   std::string place;
 };
 
-/// A short Maidenhead locator, if it is not the name of a place: "JO57", "AB12".
-struct PlaceNameOrLocator {
-  std::string words;
-  Coordinate position;
-};
-
 /// What a text means by which a person says a place.
-using PlaceText = std::variant<PlaceName, Coordinate, ShortPlaceCode, PlaceNameOrLocator, Failure>;
+using PlaceText = std::variant<PlaceName, Coordinate, ShortPlaceCode, Failure>;
 
 /// Reads a place as people write and share it: degrees, geo: addresses and links to maps, Open
 /// Location Codes, UTM, MGRS, Maidenhead locators. Everything else is a name; a position that is

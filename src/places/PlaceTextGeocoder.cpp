@@ -30,8 +30,6 @@ void PlaceTextGeocoder::geocodeAddress(const std::string& address, std::optional
     answerPosition(*position, std::move(completion));
   } else if (const auto* code = std::get_if<ShortPlaceCode>(&text)) {
     answerShortCode(*code, near, std::move(completion));
-  } else if (const auto* locator = std::get_if<PlaceNameOrLocator>(&text)) {
-    answerNameOrLocator(*locator, near, std::move(completion));
   } else if (const auto* wrong = std::get_if<Failure>(&text)) {
     answerError(wrong->message, std::move(completion));
   } else {
@@ -76,19 +74,6 @@ void PlaceTextGeocoder::answerShortCode(const ShortPlaceCode& code, std::optiona
         }
         answerPosition(nearestOfShortCode(digits, answer.places->front().coordinate), completion);
       });
-}
-
-void PlaceTextGeocoder::answerNameOrLocator(const PlaceNameOrLocator& text,
-                                            std::optional<Coordinate> near, Completion completion) {
-  mNames->geocodeAddress(text.words, near,
-                         [this, position = text.position,
-                          completion = std::move(completion)](const GeocoderAnswer& answer) {
-                           if (!hasPlaces(answer)) {
-                             answerPosition(position, completion);
-                           } else if (completion) {
-                             completion(answer);
-                           }
-                         });
 }
 
 void PlaceTextGeocoder::answerError(const std::string& error, Completion completion) {

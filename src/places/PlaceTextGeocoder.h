@@ -25,8 +25,6 @@ class PlaceTextGeocoder : public Geocoder {
   void answerPosition(Coordinate position, Completion completion);
   void answerShortCode(const ShortPlaceCode& code, std::optional<Coordinate> near,
                        Completion completion);
-  void answerNameOrLocator(const PlaceNameOrLocator& text, std::optional<Coordinate> near,
-                           Completion completion);
   void answerError(const std::string& error, Completion completion);
 
   MainQueue& mMainQueue;

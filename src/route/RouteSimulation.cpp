@@ -50,6 +50,7 @@ RouteSimulation::~RouteSimulation() {
 Status RouteSimulation::refresh() {
   if (mIsWriting) return done();
   auto preferences = RouteFile(mFiles).load();
+  mIsUnread = !preferences;
   if (!preferences) return preferences.failure();
   mPreferences = std::move(*preferences);
   if (mPreferences.points) prepare(*mPreferences.points);

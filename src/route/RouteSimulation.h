@@ -68,7 +68,8 @@ class RouteSimulation {
   const RoutePreferences& preferences() const { return mPreferences; }
   /// Whether the file is the one that was last read or written here.
   bool isCurrent() const {
-    return mIsWriting || mPreferences.version == mFiles.currentVersion(SettingsFile::Route);
+    return mIsWriting ||
+           (!mIsUnread && mPreferences.version == mFiles.currentVersion(SettingsFile::Route));
   }
 
   std::int32_t now() const { return mClock.wholeSecondsSince1970(); }
@@ -106,6 +107,8 @@ class RouteSimulation {
   const Clock& mClock;
   std::optional<Background> mBackground;
   RoutePreferences mPreferences;
+  /// The last reading failed.
+  bool mIsUnread = false;
   bool mIsWriting = false;
   /// Gone with this object, for answers that come later.
   std::shared_ptr<bool> mIsAlive = std::make_shared<bool>(true);

@@ -56,15 +56,6 @@ TEST_F(PlaceTextGeocoderTest, ShortCodesNeedAPlaceNearby) {
   EXPECT_TRUE(mAnswer && mAnswer->error);
 }
 
-TEST_F(PlaceTextGeocoderTest, AShortLocatorIsANameFirst) {
-  ask("AB12");
-  mNames->addresses.back().second(at({57.1, -2.1}, "Aberdeen"));
-  EXPECT_EQ(firstFormattedLine(*mAnswer), "Aberdeen");
-  ask("JO57");
-  mNames->addresses.back().second({std::nullopt, "No place"});
-  EXPECT_EQ(mNames->coordinates.back().first, (Coordinate{57.5, 11}));
-}
-
 TEST_F(PlaceTextGeocoderTest, WrongPositionsAreNoNamesAndNobodyIsToldAfterItsEnd) {
   ask("95,11");
   EXPECT_TRUE(mNames->addresses.empty());

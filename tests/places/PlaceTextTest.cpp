@@ -17,7 +17,7 @@ std::string said(const PlaceText& text, const std::string& pasted) {
   if (const auto* wrong = std::get_if<Failure>(&text)) {
     return wrong->message.empty() ? "silent" : "wrong";
   }
-  return std::holds_alternative<Coordinate>(text) ? "position" : "locator";
+  return "position";
 }
 
 bool isPosition(const PlaceText& text, const std::string& expected) {

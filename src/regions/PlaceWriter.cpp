@@ -2,14 +2,12 @@
 
 #include <algorithm>
 #include <cmath>
-#include <map>
 #include <set>
-#include <unordered_set>
 
 #include "geo/WebMercator.h"
 #include "regions/PlaceGrid.h"
 #include "regions/ShapeBlob.h"
-#include "regions/SimilarWords.h"
+#include "regions/Vocabulary.h"
 
 namespace wayloom {
 
@@ -125,32 +123,6 @@ std::vector<Line> continuousPolygon(const std::vector<Line>& rings) {
   }
   return moved;
 }
-
-// The plain words of names, each once, by length; those of more important places come first.
-class Vocabulary {
- public:
-  void add(const std::string& word) {
-    if (word.size() < kShortestWord || !isPlainWord(word)) return;
-    if (mKnown.insert(word).second) mByLength[word.size()] += word;
-  }
-
-  Status write(Database& database) const {
-    auto insert = database.prepare("INSERT INTO place_word VALUES (?1, ?2)");
-    if (!insert) return insert.failure();
-    for (const auto& [length, words] : mByLength) {
-      auto status = insert->bind(1, static_cast<std::int64_t>(length)).bind(2, words).run();
-      if (!status) return status;
-    }
-    return done();
-  }
-
- private:
-  // One letter less than the shortest that may be misspelt.
-  static constexpr std::size_t kShortestWord = 3;
-
-  std::unordered_set<std::string> mKnown;
-  std::map<std::size_t, std::string> mByLength;
-};
 
 // The statements that fill the tables, and the numbers they have reached.
 class Tables {

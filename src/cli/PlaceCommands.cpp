@@ -5,6 +5,7 @@
 #include "cli/PlaceArgument.h"
 #include "cli/Table.h"
 #include "cli/TextForms.h"
+#include "fixed/SearchInput.h"
 #include "regions/GroundGeometry.h"
 #include "regions/PlaceIndex.h"
 #include "settings/TrimmedText.h"
@@ -31,6 +32,7 @@ std::variant<Question, ExitStatus> understand(CommandLine& line, const std::stri
   if (near && !(question.near = parseCoordinate(*near))) {
     return line.wrongUsage(inQuotes(*near) + " is no position: give LATITUDE,LONGITUDE in degrees");
   }
+  if (const auto position = markedPosition(question.text)) question.text = *position;
   if (question.text.empty()) return line.wrongUsage("the text to search for is empty");
   return question;
 }

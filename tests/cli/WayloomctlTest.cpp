@@ -98,6 +98,12 @@ TEST_F(WayloomctlTest, AnswersBadInputInOneShortLine) {
   }
 }
 
+TEST_F(WayloomctlTest, APositionBelowTheEquatorIsNoOption) {
+  for (const char* const place : {"-33.9,151.2", "'-33,9 151,2'", "'#: -33.9, 151.2'"}) {
+    EXPECT_THAT(run(std::string("search ") + place).out, HasSubstr("-33.900000, 151.200000"));
+  }
+}
+
 TEST_F(WayloomctlTest, NamesADamagedRegionOrListOfServicesAndGoesOn) {
   writeBytes(index.folder().path() / "broken.region", "no database");
   const ShellRun search = run("search paris");

@@ -26,6 +26,14 @@ SettingsWatch::SettingsWatch(std::filesystem::path folder, QObject* parent)
 }
 
 void SettingsWatch::watchNearest() {
+  // While one folder gets its watch the next one below may be made unseen; so it is looked for
+  // again.
+  constexpr int kMostLevels = 16;
+  for (int level = 0; level < kMostLevels && !isNearestWatched(); ++level) {
+  }
+}
+
+bool SettingsWatch::isNearestWatched() {
   std::filesystem::path nearest = mFolder;
   std::error_code ignored;
   while (!std::filesystem::is_directory(nearest, ignored) && nearest.has_relative_path()) {
@@ -36,10 +44,11 @@ void SettingsWatch::watchNearest() {
                           QString::fromStdString(nearest.parent_path().string())};
   const auto version = versionAt(nearest);
   const std::uint64_t number = version ? version->number : 0;
-  if (number == mNumber && mWatcher.directories().contains(paths.front())) return;
+  if (number == mNumber && mWatcher.directories().contains(paths.front())) return true;
   mNumber = number;
   if (!mWatcher.directories().isEmpty()) mWatcher.removePaths(mWatcher.directories());
   mWatcher.addPaths(paths);
+  return false;
 }
 
 }  // namespace wayloom

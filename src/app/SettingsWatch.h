@@ -24,6 +24,8 @@ class SettingsWatch : public QObject {
 
  private:
   void watchNearest();
+  /// Whether the folder, or the nearest above it, has its watch; gives it one if not.
+  bool isNearestWatched();
 
   const std::filesystem::path mFolder;
   QFileSystemWatcher mWatcher;

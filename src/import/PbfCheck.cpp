@@ -24,18 +24,20 @@ struct Refusal {
 
 // The fields of an object that libosmium reckons with, by the numbers that the format gives them.
 // Those named in the plural are packed, each number as the difference from the one before.
-enum class Content { kId, kZigZagId, kIds, kLatitude, kLatitudes, kLongitude, kLongitudes };
+enum class FieldContent { kId, kZigZagId, kIds, kLatitude, kLatitudes, kLongitude, kLongitudes };
 struct Field {
   protozero::pbf_tag_type number;
-  Content content;
+  FieldContent content;
 };
 constexpr Field kNode[] = {
-    {1, Content::kZigZagId}, {8, Content::kLatitude}, {9, Content::kLongitude}};
+    {1, FieldContent::kZigZagId}, {8, FieldContent::kLatitude}, {9, FieldContent::kLongitude}};
 constexpr Field kDenseNodes[] = {
-    {1, Content::kIds}, {8, Content::kLatitudes}, {9, Content::kLongitudes}};
-constexpr Field kWay[] = {
-    {1, Content::kId}, {8, Content::kIds}, {9, Content::kLatitudes}, {10, Content::kLongitudes}};
-constexpr Field kRelation[] = {{1, Content::kId}, {9, Content::kIds}};
+    {1, FieldContent::kIds}, {8, FieldContent::kLatitudes}, {9, FieldContent::kLongitudes}};
+constexpr Field kWay[] = {{1, FieldContent::kId},
+                          {8, FieldContent::kIds},
+                          {9, FieldContent::kLatitudes},
+                          {10, FieldContent::kLongitudes}};
+constexpr Field kRelation[] = {{1, FieldContent::kId}, {9, FieldContent::kIds}};
 // A group's field 1 is a node, and so on.
 constexpr std::span<const Field> kObjects[] = {kNode, kDenseNodes, kWay, kRelation};
 
@@ -119,12 +121,12 @@ class BlockCheck {
     }
   }
 
-  void checkNumber(pbf_reader& object, Content content) const {
-    if (content == Content::kId) return checkId(object.get_int64());
+  void checkNumber(pbf_reader& object, FieldContent content) const {
+    if (content == FieldContent::kId) return checkId(object.get_int64());
     check(object.get_sint64(), content);
   }
 
-  void checkNumbers(const Deltas& deltas, Content content) const {
+  void checkNumbers(const Deltas& deltas, FieldContent content) const {
     std::int64_t number = 0;
     for (const std::int64_t delta : deltas) {
       if (__builtin_add_overflow(number, delta, &number)) throw Refusal{"its numbers overflow"};
@@ -132,17 +134,17 @@ class BlockCheck {
     }
   }
 
-  void check(std::int64_t number, Content content) const {
+  void check(std::int64_t number, FieldContent content) const {
     switch (content) {
-      case Content::kId:
-      case Content::kZigZagId:
-      case Content::kIds:
+      case FieldContent::kId:
+      case FieldContent::kZigZagId:
+      case FieldContent::kIds:
         return checkId(number);
-      case Content::kLatitude:
-      case Content::kLatitudes:
+      case FieldContent::kLatitude:
+      case FieldContent::kLatitudes:
         return checkDegrees(number, mLatitude);
-      case Content::kLongitude:
-      case Content::kLongitudes:
+      case FieldContent::kLongitude:
+      case FieldContent::kLongitudes:
         return checkDegrees(number, mLongitude);
     }
   }

@@ -19,7 +19,7 @@ constexpr std::size_t kSouthernBands = 10;
 // Separators, and the letters of "672000 mE" and "N6399000": eastings come first in any case.
 constexpr std::string_view kBetweenNumbers = " ,;:/MEN";
 
-bool isDigit(char character) {
+bool isAsciiDigit(char character) {
   return character >= '0' && character <= '9';
 }
 
@@ -46,7 +46,7 @@ std::optional<UtmParts> utmParts(const std::string& text) {
   UtmParts parts;
   bool hasZone = false;
   for (std::size_t at = text.starts_with("UTM") ? 3 : 0; at < text.size();) {
-    if (isDigit(text[at])) {
+    if (isAsciiDigit(text[at])) {
       double number = 0;
       const auto read =
           std::from_chars(&text[at], text.data() + text.size(), number, std::chars_format::fixed);
@@ -114,7 +114,7 @@ std::optional<Result<Coordinate>> readMgrs(std::string_view text) {
   const std::string_view digits = std::string_view(reference).substr(zone + 3);
   const auto isLetter = [](char character) { return character >= 'A' && character <= 'Z'; };
   if (!std::all_of(letters.begin(), letters.end(), isLetter)) return std::nullopt;
-  if (!std::all_of(digits.begin(), digits.end(), isDigit) || digits.size() % 2 != 0) {
+  if (!std::all_of(digits.begin(), digits.end(), isAsciiDigit) || digits.size() % 2 != 0) {
     return std::nullopt;
   }
   return converted([&](double& latitude, double& longitude) {

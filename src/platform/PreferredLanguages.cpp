@@ -14,7 +14,7 @@ namespace {
 
 using Languages = std::vector<std::string>;
 
-constexpr std::size_t kFileLimitBytes = std::size_t{4} << 20;
+constexpr std::size_t kPreferencesLimitBytes = std::size_t{4} << 20;
 constexpr std::size_t kLongestTagBytes = 35;
 
 /// Tags go into web addresses as they are, so nothing else may pass for one.
@@ -34,7 +34,7 @@ std::string withScript(const std::string& language) {
 }
 
 Languages listedIn(const std::filesystem::path& globalPreferences) {
-  const auto bytes = readFileHead(globalPreferences, kFileLimitBytes);
+  const auto bytes = readFileHead(globalPreferences, kPreferencesLimitBytes);
   const auto parsed = parsePropertyList(bytes.value_or(""));
   const auto* root = parsed.value ? parsed.value->get<PropertyList::Dictionary>() : nullptr;
   if (!root) return {};

@@ -53,15 +53,15 @@ constexpr std::size_t kMostUnits = 2000;
 
 class LatinLetters::Transliterator {
  public:
-  explicit Transliterator(const IcuLibrary* icu) : mIcu(icu) {
+  Transliterator() {
     UErrorCode error = U_ZERO_ERROR;
-    if (icu) {
+    if (const IcuLibrary* icu = icuLibrary()) {
       mHandle =
           icu->open(u"Any-Latin; Latin-ASCII", -1, UTRANS_FORWARD, nullptr, 0, nullptr, &error);
     }
   }
   ~Transliterator() {
-    if (mHandle) mIcu->close(mHandle);
+    if (mHandle) icuLibrary()->close(mHandle);
   }
   Transliterator(const Transliterator&) = delete;
   Transliterator& operator=(const Transliterator&) = delete;
@@ -73,8 +73,8 @@ class LatinLetters::Transliterator {
     std::int32_t limit = size;
     letters.resize(kMostUnits);
     UErrorCode error = U_ZERO_ERROR;
-    mIcu->translate(mHandle, letters.data(), &size, static_cast<std::int32_t>(kMostUnits), 0,
-                    &limit, &error);
+    icuLibrary()->translate(mHandle, letters.data(), &size, static_cast<std::int32_t>(kMostUnits),
+                            0, &limit, &error);
     if (U_FAILURE(error)) return std::nullopt;
     std::string latin;
     for (std::int32_t at = 0; at < size; ++at) {
@@ -86,7 +86,6 @@ class LatinLetters::Transliterator {
   }
 
  private:
-  const IcuLibrary* mIcu;
   UTransliterator* mHandle = nullptr;
 };
 
@@ -111,7 +110,7 @@ std::string LatinLetters::from(std::string_view text) {
       at += step.length;
       continue;
     }
-    if (!mTransliterator) mTransliterator = std::make_unique<Transliterator>(icuLibrary());
+    if (!mTransliterator) mTransliterator = std::make_unique<Transliterator>();
     const auto latin = mTransliterator->rewritten(std::move(letters));
     result += latin ? *latin : std::string(text.substr(start, at - start));
   }

@@ -32,9 +32,11 @@ double enclosedArea(const std::vector<MapPath>& rings) {
 TEST(ContourTest, ClosedLinesPartHighGroundFromLow) {
   for (unsigned seed = 1; seed <= 20; ++seed) {
     std::mt19937 random(seed);
-    HeightGrid grid{.columns = 12, .rows = 9, .heights = std::vector<float>(12 * 9, 0)};
+    HeightGrid grid{
+        .columns = 12, .rows = 9, .heights = std::vector<float>(std::size_t{12} * 9, 0)};
     for (int row = 1; row < 8; ++row) {
-      for (int column = 1; column < 11; ++column) grid.at(column, row) = random() % 5;
+      for (int column = 1; column < 11; ++column)
+        grid.at(column, row) = static_cast<float>(random() % 5);
     }
     const auto rings = contours(grid, 1.5);
     for (const MapPath& ring : rings) EXPECT_EQ(ring.front(), ring.back()) << seed;

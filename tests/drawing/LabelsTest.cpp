@@ -54,7 +54,8 @@ TEST(PlaceLabelsTest, NeverTouchAtAnyZoom) {
 std::vector<Street> namesakes(int rows, int columns, double metresApart) {
   std::vector<Street> streets;
   for (int i = 0; i < rows * columns; ++i) {
-    const MapPoint west{i % columns * 200.0, i / columns * metresApart};
+    const int row = i / columns;
+    const MapPoint west{i % columns * 200.0, row * metresApart};
     streets.push_back({Street::Kind::kPrimary, false, false, 0, "Ringweg", "A 1", {{west}}});
     streets.back().paths.front().push_back({west.x + 200, west.y});
   }

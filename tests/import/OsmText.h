@@ -15,9 +15,9 @@ namespace wayloom {
 class OsmText {
  public:
   OsmText& node(int id, const OsmTags& tags = {}) {
-    mNodes[id] = "<node id='" + std::to_string(id) + "' lat='" +
-                 std::to_string(47 + id / 10 * 0.001) + "' lon='" +
-                 std::to_string(9 + id % 10 * 0.001) + "'>" + text(tags) + "</node>\n";
+    const int row = id / 10;
+    mNodes[id] = "<node id='" + std::to_string(id) + "' lat='" + std::to_string(47 + row * 0.001) +
+                 "' lon='" + std::to_string(9 + id % 10 * 0.001) + "'>" + text(tags) + "</node>\n";
     return *this;
   }
 

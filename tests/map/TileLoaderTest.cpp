@@ -36,7 +36,7 @@ TEST(TileLoaderTest, DrawsTheMostWantedFirstAndDropsWhatNobodyWants) {
 
 TEST(TileLoaderTest, KeepsItsMemoryBoundedButNeverDropsWhatIsWanted) {
   const auto source = std::make_shared<FakeTileSource>();
-  const std::int64_t tileBytes = 512 * 512 * 4;
+  const std::int64_t tileBytes = std::int64_t{512} * 512 * 4;
   TileLoader loader(source, 3 * tileBytes + 2000);
   for (int first = 0; first < 40; first += 4) {
     loader.want(&loader, row(9, first, 4));

@@ -31,7 +31,7 @@ class Listener : public LocationDelegate {
   std::vector<std::string> told;
 
  private:
-  void tell(Location* sender, std::string what) {
+  void tell(Location* sender, const std::string& what) {
     told.push_back(what + (sender ? " (sender)" : ""));
   }
 };

@@ -63,9 +63,9 @@ class FailingFiles : public FileSystem {
     return isHit;
   }
   bool fails(const std::string& call) {
-    if (!isHit(call)) return false;
-    errno = fault.error;
-    return true;
+    const bool isFailing = isHit(call);
+    if (isFailing) errno = fault.error;
+    return isFailing;
   }
   bool isShort(const std::string& call, std::size_t count) { return count > 1 && isHit(call); }
 };

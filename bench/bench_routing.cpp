@@ -7,6 +7,7 @@
 #include <random>
 #include <vector>
 
+#include "roads/EvenRecords.h"
 #include "roads/Router.h"
 
 namespace wayloom {
@@ -43,7 +44,8 @@ void plan(benchmark::State& state) {
     unanswered = 0;
     for (const Drive& drive : asked) {
       const auto start = std::chrono::steady_clock::now();
-      const auto routes = router.plan(drive.from, drive.to, static_cast<int>(state.range(0)));
+      auto routes = router.plan(drive.from, drive.to, static_cast<int>(state.range(0)));
+      if (routes && state.range(1) == 1) std::for_each(routes->begin(), routes->end(), spaceEvenly);
       const std::chrono::duration<double, std::milli> taken =
           std::chrono::steady_clock::now() - start;
       // Refusals are quick and would flatter the figures.
@@ -61,7 +63,13 @@ void plan(benchmark::State& state) {
   state.counters["max_ms"] = milliseconds.back();
   state.counters["unanswered"] = unanswered;
 }
-BENCHMARK(plan)->ArgName("alternates")->Arg(0)->Arg(2)->Unit(benchmark::kMillisecond);
+BENCHMARK(plan)
+    ->ArgNames({"alternates", "evenly"})
+    ->Args({0, 0})
+    ->Args({2, 0})
+    ->Args({0, 1})
+    ->Args({2, 1})
+    ->Unit(benchmark::kMillisecond);
 
 void firstPlan(benchmark::State& state) {
   for (auto _ : state) {

@@ -8,7 +8,7 @@ _wayloomctl_words() {
     "fixed drift") echo "on off" ;;
     "fixed drift on" | "fixed drift off") echo "--speed" ;;
     route) echo "plan on off where" ;;
-    "route plan") echo "--from --to --start --geojson" ;;
+    "route plan") echo "--from --to --start --geojson --profile" ;;
     "route on") echo "--from --to --start --end" ;;
     "route where") echo "--at" ;;
     favorites) echo "list add remove choose" ;;

@@ -26,7 +26,7 @@ struct Typed {
   bool suggest = false;
   std::string name;
   long long number = 0;
-  bool geoJson = false;
+  RouteForm routeForm = RouteForm::Summary;
   std::function<ExitStatus(CommandLine&)> command;
 };
 
@@ -157,10 +157,15 @@ void addRouteCommands(CLI::App& app, Typed& typed) {
   auto* plan = route->add_subcommand("plan", "Show the quickest drive, without turning it on");
   addPlaces(plan);
   plan->add_option("--start", typed.drive.start, "When it starts, for what holds at certain hours");
-  plan->add_flag("--geojson", typed.geoJson, "Answer with the whole line as GeoJSON");
+  const auto addForm = [&](const std::string& name, RouteForm form, const std::string& help) {
+    return plan->add_flag_callback(
+        name, [&typed, form] { typed.routeForm = form; }, help);
+  };
+  addForm("--profile", RouteForm::Profile, "Answer with times and speeds at each bend")
+      ->excludes(addForm("--geojson", RouteForm::GeoJson, "Answer with the whole line as GeoJSON"));
   plan->callback([&typed] {
     typed.command = [&typed](CommandLine& line) {
-      return planRoute(line, typed.drive, typed.geoJson ? RouteForm::GeoJson : RouteForm::Summary);
+      return planRoute(line, typed.drive, typed.routeForm);
     };
   });
 

@@ -46,7 +46,7 @@ ExitStatus searchPlaces(CommandLine& line, const std::string& text,
 ExitStatus showAddress(CommandLine& line, const std::string& place);
 
 /// In what form a planned route is shown.
-enum class RouteForm { Summary, GeoJson };
+enum class RouteForm { Summary, GeoJson, Profile };
 
 /// A drive as it was typed: two PLACEs and two TIMEs.
 struct Drive {

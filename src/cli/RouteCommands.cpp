@@ -2,6 +2,7 @@
 
 #include "cli/Commands.h"
 #include "cli/PlaceArgument.h"
+#include "cli/Table.h"
 #include "cli/TextForms.h"
 #include "cli/TimeArgument.h"
 #include "route/RouteSimulation.h"
@@ -38,7 +39,7 @@ std::string joined(const std::vector<std::string>& names) {
 
 Answer summaryOf(const Route& route) {
   nlohmann::json points = nlohmann::json::array();
-  for (const Coordinate& position : route.polyline) points.push_back(toJson(position));
+  for (const Coordinate& position : route.geometry) points.push_back(toJson(position));
   return {englishText(distancePhrase(route.distanceMetres)) + ", " +
               durationText(route.expectedSeconds) + ", " + std::to_string(route.polyline.size()) +
               " points\nfrom " + coordinateText(route.polyline.front()) + "\nto   " +
@@ -46,12 +47,13 @@ Answer summaryOf(const Route& route) {
           {{"metres", route.distanceMetres},
            {"seconds", route.expectedSeconds},
            {"regions", route.regions},
+           {"positions", route.polyline.size()},
            {"points", std::move(points)}}};
 }
 
 Answer geoJsonOf(const Route& route) {
   nlohmann::json positions = nlohmann::json::array();
-  for (const auto& [latitude, longitude] : route.polyline) {
+  for (const auto& [latitude, longitude] : route.geometry) {
     positions.push_back({longitude, latitude});
   }
   nlohmann::json feature = {
@@ -63,6 +65,26 @@ Answer geoJsonOf(const Route& route) {
       {"geometry", {{"type", "LineString"}, {"coordinates", std::move(positions)}}}};
   std::string text = feature.dump();
   return {std::move(text), std::move(feature)};
+}
+
+Answer profileOf(const Route& route) {
+  const auto hundredths = [](double value) { return std::round(value * 100) / 100; };
+  Table table;
+  for (std::size_t at = 0; at < route.passages.size(); ++at) {
+    const RoutePassage& passage = route.passages[at];
+    nlohmann::json json = toJson(route.geometry[at]);
+    std::vector<std::string> cells;
+    for (const auto& [name, value] : {std::pair("seconds", passage.seconds),
+                                      {"metres", passage.metres},
+                                      {"kmPerHour", passage.metresPerSecond * 3.6},
+                                      {"waitSeconds", passage.waitSeconds}}) {
+      json[name] = hundredths(value);
+      cells.push_back(json[name].dump());
+    }
+    cells.push_back(coordinateText(route.geometry[at]));
+    table.add(cells, std::move(json));
+  }
+  return std::move(table).orNote("the drive has no profile");
 }
 
 /// Understands both places of a drive; the status, already reported, when one cannot be had.
@@ -96,7 +118,15 @@ ExitStatus planRoute(CommandLine& line, const Drive& drive, RouteForm form) {
   const DirectionsAnswer found = directionsNow(line, request);
   if (found.error) return line.fail("no route: " + *found.error);
   const Route& route = found.routes.front();
-  return line.answer(form == RouteForm::GeoJson ? geoJsonOf(route) : summaryOf(route));
+  switch (form) {
+    case RouteForm::GeoJson:
+      return line.answer(geoJsonOf(route));
+    case RouteForm::Profile:
+      return line.answer(profileOf(route));
+    case RouteForm::Summary:
+      break;
+  }
+  return line.answer(summaryOf(route));
 }
 
 ExitStatus turnRouteOn(CommandLine& line, const Drive& drive) {

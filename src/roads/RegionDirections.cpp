@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "roads/EvenRecords.h"
+
 namespace wayloom {
 
 namespace {
@@ -15,6 +17,7 @@ DirectionsAnswer answerTo(const DirectionsRequest& request, Router& router) {
   if (request.startTime) start = roadTime(*request.startTime);
   auto routes = router.plan(request.source, request.destination, alternates, start);
   if (!routes) return {{}, routes.message()};
+  for (Route& route : *routes) spaceEvenly(route);
   return {std::move(*routes), std::nullopt};
 }
 

@@ -91,15 +91,19 @@ Result<RoadPath> quickest(RouterSearch& search, Coordinate from, Coordinate to,
   return Failure{"no road leads from the start to the end"};
 }
 
-void append(Line& line, Coordinate position) {
-  if (line.empty() || line.back() != position) line.push_back(position);
+// Goes on to a position, as fast as allowed.
+void append(Route& route, Coordinate position, float limit) {
+  if (route.geometry.back() == position) return;
+  route.geometry.push_back(position);
+  route.limits.push_back(limit);
 }
 
-// The positions of an edge on a step of a path, but not where the step begins, nor where the last
-// one ends.
-void appendStep(const RoadGraph& graph, const RoadPath::Step& step, bool isLast, Line& line) {
-  Line positions = graph.line(edgeOf(step.arc));
-  const double whole = graph.metres(edgeOf(step.arc));
+// The positions of an edge on a step of a path, but not where the step begins.
+void appendStep(const RoadGraph& graph, const RoadPath::Step& step, Coordinate last, Route& route) {
+  const std::uint32_t edge = edgeOf(step.arc);
+  const auto limit = static_cast<float>(graph.edges()[edge].use.kmPerHour / 3.6);
+  Line positions = graph.line(edge);
+  const double whole = graph.metres(edge);
   double begin = step.begin;
   double end = step.end;
   if (!isForward(step.arc)) {
@@ -110,9 +114,52 @@ void appendStep(const RoadGraph& graph, const RoadPath::Step& step, bool isLast,
   double along = 0;
   for (std::size_t at = 1; at + 1 < positions.size(); ++at) {
     along += distanceMetres(positions[at - 1], positions[at]);
-    if (begin < along && along < end) append(line, positions[at]);
+    if (begin < along && along < end) append(route, positions[at], limit);
   }
-  if (!isLast) append(line, end < whole ? positionAlong(positions, end) : positions.back());
+  append(route, last, limit);
+}
+
+// Where a step ends, when the path goes on.
+Coordinate endOf(const RoadGraph& graph, const RoadPath::Step& step) {
+  const std::uint32_t edge = edgeOf(step.arc);
+  const auto& network = graph.network();
+  const double whole = graph.metres(edge);
+  if (isForward(step.arc) ? step.end >= whole : step.end <= 0) {
+    return coordinateOf(network.junctions[network.head(step.arc)]);
+  }
+  return positionAlong(graph.line(edge), step.end);
+}
+
+// Signals are red for half of those who come, by chance, but always the same for the same drive: a
+// generator (SplitMix64) whose seeds are the spots of the drive and the arc that leads there.
+std::optional<double> signalSeconds(const RoadPath& path, RoadArc arc) {
+  const auto mixed = [](std::uint64_t value) {
+    value += 0x9E3779B97F4A7C15;
+    value = (value ^ value >> 30) * 0xBF58476D1CE4E5B9;
+    value = (value ^ value >> 27) * 0x94D049BB133111EB;
+    return value ^ value >> 31;
+  };
+  std::uint64_t chance = mixed(arc);
+  for (const RoadSpot* spot : {&path.from, &path.to}) {
+    const RoadPoint point = roadPoint(spot->coordinate);
+    for (const std::int32_t each : {point.longitude, point.latitude}) {
+      chance = mixed(chance ^ static_cast<std::uint32_t>(each));
+    }
+  }
+  if (chance % 2 == 0) return std::nullopt;
+  // The mean over all who come is what searches reckon with.
+  return 2 * kSignalSeconds * static_cast<double>(1 + (chance >> 1) % 1999) / 1000;
+}
+
+// Where one waits before going on from one step to the next.
+void appendStop(const RoadGraph& graph, const RoadPath& path, std::size_t step, Route& route) {
+  const RoadArc arc = path.steps[step].arc;
+  const std::size_t here = route.geometry.size() - 1;
+  if (path.steps[step + 1].arc == reversed(arc)) {
+    route.stops.push_back({here, kTurnRoundSeconds});
+  } else if (graph.arrival(arc).hasSignal) {
+    if (const auto seconds = signalSeconds(path, arc)) route.stops.push_back({here, *seconds});
+  }
 }
 
 // What it takes to go on from one step to the next.
@@ -130,18 +177,23 @@ double turnSeconds(const RoadGraph& graph, const RoadPath::Step& step, const Roa
 
 Route routeOf(const RoadGraph& graph, const RoadPath& path) {
   Route route;
-  append(route.polyline, path.from.coordinate);
+  route.geometry.push_back(path.from.coordinate);
   for (std::size_t at = 0; at < path.steps.size(); ++at) {
     const RoadPath::Step& step = path.steps[at];
+    const bool isLast = at + 1 == path.steps.size();
     if (at > 0) route.expectedSeconds += turnSeconds(graph, path.steps[at - 1], step);
-    appendStep(graph, step, at + 1 == path.steps.size(), route.polyline);
+    appendStep(graph, step, isLast ? path.to.coordinate : endOf(graph, step), route);
+    if (!isLast) appendStop(graph, path, at, route);
     const double metres = std::abs(step.end - step.begin);
     const double whole = graph.metres(edgeOf(step.arc));
     route.distanceMetres += metres;
     if (whole > 0) route.expectedSeconds += metres / whole * graph.seconds(edgeOf(step.arc));
   }
-  append(route.polyline, path.to.coordinate);
-  if (route.polyline.size() == 1) route.polyline.push_back(route.polyline.front());
+  if (route.geometry.size() == 1) {
+    route.geometry.push_back(route.geometry.front());
+    route.limits.push_back(1);
+  }
+  route.polyline = route.geometry;
   return route;
 }
 

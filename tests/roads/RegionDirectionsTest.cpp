@@ -40,13 +40,14 @@ TEST_F(DirectionsOnRegionsTest, AnswerInOrderOnTheMainThread) {
   ASSERT_TRUE(mLoop.runUntil([&] { return answers.size() == 3; }, 30s));
   ASSERT_EQ(answers[0].routes.size(), 1u);
   EXPECT_FALSE(answers[0].error);
-  EXPECT_EQ(mRoads.passed(answers[0].routes[0].polyline), "ABC");
+  EXPECT_EQ(mRoads.passed(answers[0].routes[0].geometry), "ABC");
   EXPECT_NEAR(answers[0].routes[0].distanceMetres, 8 * 111.2, 1);
-  EXPECT_NEAR(answers[0].routes[0].expectedSeconds, 8 * 111.2 / 50 * 3.6, 1);
+  // With 50 km/h, and what it takes to gain and lose them.
+  EXPECT_NEAR(answers[0].routes[0].expectedSeconds, 8 * 111.2 / 50 * 3.6 + 9.6, 1);
   EXPECT_TRUE(answers[1].routes.empty());
   EXPECT_FALSE(answers[1].error.value_or("").empty());
   ASSERT_EQ(answers[2].routes.size(), 2u);
-  EXPECT_EQ(mRoads.passed(answers[2].routes[1].polyline), "ADEC");
+  EXPECT_EQ(mRoads.passed(answers[2].routes[1].geometry), "ADEC");
 }
 
 // Destroyed at any moment: while a question waits, is being answered, or its answer is on the way.

@@ -24,7 +24,7 @@ ExitStatus changeFixed(CommandLine& line, ChangeNotice& notice, Change&& change)
     FixedLocation fixed(line.files(), notice);
     const auto state = fixed.refresh();
     if (!state) return state.failure();
-    fixed.setCoordinate(state->coordinate);
+    if (state->hasCoordinate) fixed.setCoordinate(state->coordinate);
     return change(fixed, *state);
   }());
 }

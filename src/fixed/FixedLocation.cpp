@@ -47,6 +47,7 @@ Result<FixedLocationState> FixedLocation::refresh() {
   auto settings = mFiles.loadLocationSettings();
   mIsOthers = !settings;  // Once it can be read, it is read, though it be the same again.
   if (!settings) return settings.failure();
+  mWasRead = true;
   mPreferences = std::move(*settings).value_or(PropertyList::Dictionary());
   mVersion = mFiles.seenVersion(SettingsFile::Location);
   return stateOf(*mPreferences);
@@ -72,11 +73,19 @@ void FixedLocation::setCoordinate(Coordinate coordinate) {
   }
 }
 
-Status FixedLocation::setEnable(bool on) {
+Status FixedLocation::setEnable(bool on, std::optional<Coordinate> shown) {
   mNotice.post(kChangeNoticeName);
+  const auto turn = mFiles.takeTurn();
+  if (!turn) return turn.failure();
+  if (!mCoordinate) {
+    const auto stored = readFixedLocation(mFiles);
+    if (!stored) return stored.failure();
+    if (shown && !stored->hasCoordinate) setCoordinate(*shown);
+  }
+  if (!mCoordinate) return write({{"enable", formatFlag(on)}});
   return write({{"enable", formatFlag(on)},
-                {"longitude", formatReal(mCoordinate.longitude)},
-                {"latitude", formatReal(mCoordinate.latitude)}});
+                {"longitude", formatReal(mCoordinate->longitude)},
+                {"latitude", formatReal(mCoordinate->latitude)}});
 }
 
 Status FixedLocation::setAuto(bool on, float speed) {
@@ -92,6 +101,7 @@ Status FixedLocation::centerMoved(Coordinate center) {
   mCoordinate = center;
   auto settings = load();
   if (!settings) return settings.failure();
+  mWasRead = true;
   mPreferences = std::move(*settings);
   mVersion = mFiles.seenVersion(SettingsFile::Location);
   return write(
@@ -111,13 +121,14 @@ Status FixedLocation::leaveForRoute() {
 }
 
 Status FixedLocation::write(Entries entries) {
-  if (!mPreferences) return load().status();
+  if (!mPreferences && mWasRead) return load().status();
   const auto turn = mFiles.takeTurn();
   if (!turn) return turn.failure();
   auto current = load();
   if (!current) return current.failure();
   const bool isThere = current->has_value();
-  PropertyList::Dictionary changed = std::move(*current).value_or(*mPreferences);
+  PropertyList::Dictionary changed =
+      std::move(*current).value_or(mPreferences.value_or(PropertyList::Dictionary()));
   const bool setsEnable = entries.begin()->first == std::string_view("enable");
   const bool wasOn = isThere && boolValue(valueOf(changed, "enable"));
   for (const auto& [key, value] : entries) changed.insert_or_assign(key, value);

@@ -66,14 +66,15 @@ class FixedLocation {
   /// that the position is on; null otherwise.
   const char* refusalToLeave() const;
 
-  /// The chosen position: the map's centre after its last move, or what was set.
-  Coordinate coordinate() const { return mCoordinate; }
+  /// The chosen position: the map's centre after its last move, or what was set; none before that.
+  const std::optional<Coordinate>& coordinate() const { return mCoordinate; }
   /// A coordinate of which a number is too large for any is none, and changes nothing.
   void setCoordinate(Coordinate coordinate);
 
   /// The enable switch: posts the notice, then writes "enable" and the chosen position; refused
-  /// while a drive is on.
-  [[nodiscard]] Status setEnable(bool on);
+  /// while a drive is on. As long as none was chosen, the file's own stays, and where it has none
+  /// the position `shown` on the map is chosen by this.
+  [[nodiscard]] Status setEnable(bool on, std::optional<Coordinate> shown = std::nullopt);
 
   /// The drift switch: posts the notice, then writes "a" and "s".
   [[nodiscard]] Status setAuto(bool on, float speed);
@@ -110,7 +111,9 @@ class FixedLocation {
   std::optional<PropertyList::Dictionary> mPreferences;
   std::optional<FileVersion> mVersion;
   bool mIsOthers = false;
-  Coordinate mCoordinate;
+  /// The file could be read at least once.
+  bool mWasRead = false;
+  std::optional<Coordinate> mCoordinate;
 };
 
 }  // namespace wayloom

@@ -45,12 +45,17 @@ void SpotloomViewController::followFiles() {
 bool SpotloomViewController::followPosition() {
   const auto state = readFixedLocation(mServices.files);
   const bool isElsewhere = state && state->enabled && state->hasCoordinate &&
-                           !isSamePosition(state->coordinate, mFixedLocation.coordinate());
+                           !(chosen && isSamePosition(state->coordinate, *chosen));
   // What moves the map just now ends first.
   mMustFollow = isElsewhere && mIsMapMoving;
   if (!isElsewhere || mIsMapMoving) return false;
+Coordinate SpotloomViewController::shownCoordinate() const {
+  return mFixedLocation.coordinate().value_or(mMainMapView->region().center);
+}
+
   mIsFollowing = true;
   mMainMapView->setCenterCoordinate(state->coordinate, Animated::No);
+  const auto& chosen = mFixedLocation.coordinate();
   mIsFollowing = false;
   mFixedLocation.setCoordinate(state->coordinate);
   return true;
@@ -67,6 +72,7 @@ void SpotloomViewController::refreshViewByStatusWithLocation(bool withLocation) 
     view.drifting = state.drifting;
     // With nothing stored, the panel and the slider stay as they are.
     if (state.hasSettings) {
+  if (!refreshed) mMustPlace = mMustPlace || withLocation;
       view.autoPanelShown = state.enabled;
       view.driftSpeed = sliderSpeed(state.driftSpeed);
     }
@@ -74,7 +80,8 @@ void SpotloomViewController::refreshViewByStatusWithLocation(bool withLocation) 
   refreshButtonWithEnable(state.enabled);
   if (state.hasSettings) refreshAuotViewWithEnable(state.drifting);
 
-  if (!withLocation) return;
+  const bool mustPlace = std::exchange(mMustPlace, false) && !mFixedLocation.coordinate();
+  if (!withLocation && !mustPlace) return;
   if (!state.enabled) {
     startLocation();
     return;
@@ -100,7 +107,9 @@ void SpotloomViewController::setEnable(bool on) {
     mActivity = {isForgotten ? FixedActivity::Kind::TouchAgain : FixedActivity::Kind::None};
   }
   update([&](View& view) { view.enabled = on; });
-  if (keep(mFixedLocation.setEnable(on), before)) refreshViewByStatusWithLocation(false);
+  if (!keep(mFixedLocation.setEnable(on, mMainMapView->region().center), before)) return;
+  refreshViewByStatusWithLocation(false);
+  followPosition();
 }
 
 void SpotloomViewController::setAuto(bool on) {
@@ -166,8 +175,8 @@ void SpotloomViewController::regionDidChange() {
   mIsMapMoving = false;
   if (std::exchange(mMustFollow, false) && followPosition()) return;
   // A position that no map shows stays where it is until the map is moved away from it.
-  const bool stays = isBeyondTheEdge(*mMainMapView, mFixedLocation.coordinate());
-  const Coordinate center = stays ? mFixedLocation.coordinate() : mMainMapView->region().center;
+  const bool stays = isBeyondTheEdge(*mMainMapView, shownCoordinate());
+  const Coordinate center = stays ? shownCoordinate() : mMainMapView->region().center;
   if (!mIsFollowing && !stays) moved(mFixedLocation.centerMoved(center));
   mAsked.push_back(center);
   mServices.location.addressWithCoordinate(center, this);
@@ -216,7 +225,7 @@ void SpotloomViewController::addToFavorites() {
 
 void SpotloomViewController::okButtonClicked() {
   if (!mView.namingFavorite) return;  // The panel is fading out already.
-  const Status added = mFavorites.add(mView.favoriteName.toStdString(), mFixedLocation.coordinate(),
+  const Status added = mFavorites.add(mView.favoriteName.toStdString(), shownCoordinate(),
                                       localizedText("Unknow").toStdString());
   if (report(added)) cancelButtonClicked();
 }

@@ -66,7 +66,8 @@ class SpotloomViewController : public QObject, public LocationDelegate, public F
   /// the position is on, the map; that move writes nothing.
   void followFiles();
 
-  /// Reloads the settings and brings every control in line with them; with location, the map too.
+  /// Reloads the settings and brings every control in line with them; with location, or where that
+  /// failed before and no place was chosen since, the map too.
   void refreshViewByStatusWithLocation(bool withLocation);
   void refreshButtonWithEnable(bool enabled);
   void refreshAuotViewWithEnable(bool on);
@@ -159,6 +160,8 @@ class SpotloomViewController : public QObject, public LocationDelegate, public F
   void begin(FixedActivity activity);
   /// Moves the map to the file's position if that is on and elsewhere; true if it did.
   bool followPosition();
+  /// The position that was chosen, or what the map shows as long as none was.
+  Coordinate shownCoordinate() const;
   void regionWillChange();
   void regionDidChange();
   void moved(const Status& written);
@@ -187,6 +190,8 @@ class SpotloomViewController : public QObject, public LocationDelegate, public F
   bool mMustFollow = false;
   /// The overlay is attached to no view until the first address search; showing it before that
   /// shows nothing.
+  /// The files could not be read when the map was to be placed by them: it is once they can.
+  bool mMustPlace = false;
   bool mOverlayAttached = false;
 };
 

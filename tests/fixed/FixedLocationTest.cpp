@@ -23,6 +23,37 @@ TEST(FixedLocationTest, WritesIntoTheFileAsItIsNow) {
   EXPECT_EQ(textsIn(files, SettingsFile::Location), written);
 }
 
+TEST(FixedLocationTest, TurningOnWritesNoPositionThatNobodyChose) {
+  const Coordinate shown{3, 4};
+  const Dictionary placed = {{"latitude", "1.000000"}, {"longitude", "2.000000"}};
+  const Dictionary outside = {{"latitude", "1e999"}, {"longitude", "2.000000"}};
+  const struct {
+    Dictionary file;
+    std::optional<Coordinate> shown;
+    Texts wanted;
+  } cases[] = {
+      {placed, shown, {{"latitude", "1.000000"}, {"longitude", "2.000000"}}},
+      {outside, shown, {{"latitude", "3.000000"}, {"longitude", "4.000000"}}},
+      {outside, {}, {{"latitude", "1e999"}, {"longitude", "2.000000"}}},
+      {{{"a", "0"}}, shown, {{"a", "0"}, {"latitude", "3.000000"}, {"longitude", "4.000000"}}},
+  };
+  for (auto [file, offered, wanted] : cases) {
+    for (const bool wasRead : {true, false}) {
+      const TemporaryRoot root;
+      SettingsFiles files(root.path());
+      RecordedNotice notice(files);
+      FixedLocation fixed(files, notice);
+      ASSERT_TRUE(files.saveLocationSettings(file));
+      if (wasRead) {
+        ASSERT_TRUE(fixed.refresh());
+      }
+      ASSERT_TRUE(fixed.setEnable(true, offered));
+      wanted["enable"] = "1";
+      EXPECT_EQ(textsIn(files, SettingsFile::Location), wanted);
+    }
+  }
+}
+
 TEST(FixedLocationTest, ReadsLenientlyWhateverTheFileHolds) {
   const Dictionary numbers = {
       {"enable", true}, {"a", 1}, {"s", 0.25}, {"latitude", -3.5}, {"longitude", 7}};

@@ -119,6 +119,37 @@ TEST_F(SpotloomScreenTest, WithoutAFileItGoesToTheDeviceAndTheSwitchSpringsBackO
             (Texts{{"enable", "1"}, {"latitude", "57.700000"}, {"longitude", "11.970000"}}));
 }
 
+TEST_F(SpotloomScreenTest, AFileThatCouldNotBeReadAtFirstIsTakenAsItIsOnceItCan) {
+  const auto appear = [this] { controller->viewWillAppear(); };
+  const struct {
+    const char* then;
+    PropertyList::Dictionary file;
+    std::function<void()> act;
+    const char* enable;
+    bool asksTheDevice;
+  } cases[] = {
+      {"appearing while on", kOn, appear, "1", false},
+      {"appearing while off", kOff, appear, "0", true},
+      {"turning on", kOff, [this] { screen.click("enableSwitch"); }, "1", false},
+  };
+  for (const auto& test : cases) {
+    ASSERT_TRUE(screen.files.saveLocationSettings(test.file));
+    screen.system.fault = {"open", screen.system.calls["open"] + 1, EIO};
+    screen.position = nullptr;
+    open({});
+    ASSERT_TRUE(screen.system.hasFailed);
+    EXPECT_TRUE(screen.find("statusLine")->property("isFailure").toBool()) << test.then;
+    test.act();
+    const Texts wanted = {
+        {"enable", test.enable}, {"latitude", "10.000000"}, {"longitude", "20.000000"}};
+    EXPECT_EQ(stored(), wanted) << test.then;
+    EXPECT_EQ(screen.position != nullptr, test.asksTheDevice) << test.then;
+    const double wantedLatitude = test.asksTheDevice ? 0 : 10;
+    EXPECT_NEAR(map->region().center.latitude, wantedLatitude, 1e-7) << test.then;
+    screen.view.setSource({});
+  }
+}
+
 TEST_F(SpotloomScreenTest, SwitchesPostBeforeTheyWriteAndTheMapDoesNot) {
   open(kOn);
   screen.notice.posts.clear();

@@ -48,6 +48,10 @@
         <translation>Zurück</translation>
     </message>
     <message>
+        <source>Both are on: turn the position or the drive off</source>
+        <translation>Beide sind ein: Schalten Sie Position oder Fahrt aus</translation>
+    </message>
+    <message>
         <source>CANCEL</source>
         <translation>Abbrechen</translation>
     </message>
@@ -168,6 +172,10 @@
         <translation>Ein: %1</translation>
     </message>
     <message>
+        <source>On at a position that is not on the globe</source>
+        <translation>Ein an einer Position, die nicht auf der Erde liegt</translation>
+    </message>
+    <message>
         <source>Path planning failure, rechoose Start/End please</source>
         <translation>Keine Strecke gefunden, bitte Start oder Ziel neu wählen</translation>
     </message>
@@ -238,6 +246,10 @@
     <message>
         <source>Switch mode</source>
         <translation>Modus wechseln</translation>
+    </message>
+    <message>
+        <source>The drive ends before it starts</source>
+        <translation>Die Fahrt endet, bevor sie beginnt</translation>
     </message>
     <message>
         <source>The drive has no path</source>

@@ -48,6 +48,10 @@
         <translation>Atrás</translation>
     </message>
     <message>
+        <source>Both are on: turn the position or the drive off</source>
+        <translation>Ambos están activados: desactive la posición o el trayecto</translation>
+    </message>
+    <message>
         <source>CANCEL</source>
         <translation>Cancelar</translation>
     </message>
@@ -168,6 +172,10 @@
         <translation>Activado: %1</translation>
     </message>
     <message>
+        <source>On at a position that is not on the globe</source>
+        <translation>Activado en una posición que no está en el globo</translation>
+    </message>
+    <message>
         <source>Path planning failure, rechoose Start/End please</source>
         <translation>No se encontró ninguna ruta; elija otro origen o destino</translation>
     </message>
@@ -238,6 +246,10 @@
     <message>
         <source>Switch mode</source>
         <translation>Cambiar de modo</translation>
+    </message>
+    <message>
+        <source>The drive ends before it starts</source>
+        <translation>El trayecto termina antes de empezar</translation>
     </message>
     <message>
         <source>The drive has no path</source>

@@ -48,6 +48,10 @@
         <translation>Retour</translation>
     </message>
     <message>
+        <source>Both are on: turn the position or the drive off</source>
+        <translation>Les deux sont activés : désactivez la position ou le trajet</translation>
+    </message>
+    <message>
         <source>CANCEL</source>
         <translation>Annuler</translation>
     </message>
@@ -168,6 +172,10 @@
         <translation>Activé : %1</translation>
     </message>
     <message>
+        <source>On at a position that is not on the globe</source>
+        <translation>Activé à une position qui n’est pas sur le globe</translation>
+    </message>
+    <message>
         <source>Path planning failure, rechoose Start/End please</source>
         <translation>Aucun itinéraire trouvé, choisissez un autre départ ou une autre arrivée</translation>
     </message>
@@ -238,6 +246,10 @@
     <message>
         <source>Switch mode</source>
         <translation>Changer de mode</translation>
+    </message>
+    <message>
+        <source>The drive ends before it starts</source>
+        <translation>Le trajet se termine avant de commencer</translation>
     </message>
     <message>
         <source>The drive has no path</source>

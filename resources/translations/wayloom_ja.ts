@@ -48,6 +48,10 @@
         <translation>戻る</translation>
     </message>
     <message>
+        <source>Both are on: turn the position or the drive off</source>
+        <translation>両方がオンです：位置か走行をオフにしてください</translation>
+    </message>
+    <message>
         <source>CANCEL</source>
         <translation>キャンセル</translation>
     </message>
@@ -168,6 +172,10 @@
         <translation>オン：%1</translation>
     </message>
     <message>
+        <source>On at a position that is not on the globe</source>
+        <translation>オン：地球上にない位置です</translation>
+    </message>
+    <message>
         <source>Path planning failure, rechoose Start/End please</source>
         <translation>経路が見つかりません。起点または終点を選び直してください</translation>
     </message>
@@ -238,6 +246,10 @@
     <message>
         <source>Switch mode</source>
         <translation>モードを切り替える</translation>
+    </message>
+    <message>
+        <source>The drive ends before it starts</source>
+        <translation>到着時刻が出発時刻より前です</translation>
     </message>
     <message>
         <source>The drive has no path</source>

@@ -48,6 +48,10 @@
         <translation>返回</translation>
     </message>
     <message>
+        <source>Both are on: turn the position or the drive off</source>
+        <translation>两者都已开启：请关闭位置或行程</translation>
+    </message>
+    <message>
         <source>CANCEL</source>
         <translation>取消</translation>
     </message>
@@ -168,6 +172,10 @@
         <translation>已开启：%1</translation>
     </message>
     <message>
+        <source>On at a position that is not on the globe</source>
+        <translation>已开启：位置不在地球上</translation>
+    </message>
+    <message>
         <source>Path planning failure, rechoose Start/End please</source>
         <translation>路径规划失败，请重新选择起点或终点</translation>
     </message>
@@ -238,6 +246,10 @@
     <message>
         <source>Switch mode</source>
         <translation>切换模式</translation>
+    </message>
+    <message>
+        <source>The drive ends before it starts</source>
+        <translation>行程的结束早于开始</translation>
     </message>
     <message>
         <source>The drive has no path</source>

@@ -26,7 +26,7 @@ AppDelegate::AppDelegate(AppServices& services)
                           .alerts = services.alerts,
                           .screens = *this,
                           .tiles = services.tiles,
-                          .isDriving = [this] { return wayloomController.isDriving(); }}),
+                          .drive = [this] { return wayloomController.statusOfDrive(); }}),
       wayloomController({.files = services.files,
                          .clock = services.clock,
                          .background = {services.saves, services.mainQueue},

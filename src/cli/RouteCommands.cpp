@@ -5,9 +5,9 @@
 #include "cli/Table.h"
 #include "cli/TextForms.h"
 #include "cli/TimeArgument.h"
+#include "route/DriveStatus.h"
 #include "route/RouteSimulation.h"
 #include "settings/ModeSwitch.h"
-#include "settings/Phrase.h"
 
 namespace wayloom {
 
@@ -25,12 +25,6 @@ DirectionsAnswer directionsNow(CommandLine& line, const DirectionsRequest& reque
   return std::move(*answer);
 }
 
-std::string durationText(double seconds) {
-  const long whole = std::lround(seconds);
-  return whole < 60 ? std::to_string(whole) + " s"
-                    : std::to_string(whole / 60) + " min " + std::to_string(whole % 60) + " s";
-}
-
 std::string joined(const std::vector<std::string>& names) {
   std::string text;
   for (const std::string& name : names) text += (text.empty() ? "" : ", ") + oneLine(name);
@@ -40,8 +34,8 @@ std::string joined(const std::vector<std::string>& names) {
 Answer summaryOf(const Route& route) {
   nlohmann::json points = nlohmann::json::array();
   for (const Coordinate& position : route.geometry) points.push_back(toJson(position));
-  return {englishText(distancePhrase(route.distanceMetres)) + ", " +
-              durationText(route.expectedSeconds) + ", " + std::to_string(route.polyline.size()) +
+  const PlannedDrive planned{false, route.distanceMetres, route.expectedSeconds};
+  return {englishText(choiceStatus(0, {}, planned)) + ", " + std::to_string(route.polyline.size()) +
               " points\nfrom " + coordinateText(route.polyline.front()) + "\nto   " +
               coordinateText(route.polyline.back()) + "\nin   " + joined(route.regions),
           {{"metres", route.distanceMetres},

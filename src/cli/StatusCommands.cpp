@@ -34,6 +34,7 @@ Result<Reading> readFiles(CommandLine& line) {
 
 std::string fixedText(const FixedLocationState& fixed) {
   const std::string onOff = fixed.enabled ? "on" : "off";
+  if (!isOnGlobe(fixed.coordinate)) return onOff + " at a position that is not on the globe";
   return fixed.hasCoordinate ? onOff + " at " + coordinateText(fixed.coordinate) : onOff;
 }
 
@@ -44,7 +45,7 @@ std::string driftText(const FixedLocationState& fixed) {
 std::string routeText(const RoutePreferences& route) {
   if (!route.enabled()) return "off";
   return "on from " + oneLine(route.startText()) + " to " + oneLine(route.endText()) + ", " +
-         timeText(route.start()) + " to " + timeText(route.end());
+         timeText(route.writtenStart()) + " to " + timeText(route.writtenEnd());
 }
 
 /// Where the phone says it is; none for the device's own position.
@@ -72,21 +73,16 @@ nlohmann::json toJson(const RoutePreferences& route) {
   if (!route.enabled()) return json;
   json.update({{"from", route.startText()},
                {"to", route.endText()},
-               {"start", route.start()},
-               {"end", route.end()},
+               {"start", static_cast<std::int64_t>(route.writtenStart())},
+               {"end", static_cast<std::int64_t>(route.writtenEnd())},
                {"points", route.points ? route.points->count() : 0}});
   return json;
 }
 
-/// The words of the current screen's status line; those of the other one where only its simulation
-/// is on.
+/// The words of a window's status line.
 std::string statusText(const Reading& status, const std::string& address) {
-  const bool isFixed = status.fixed.enabled == status.route.enabled()
-                           ? status.mode == Mode::FixedLocation
-                           : status.fixed.enabled;
   const std::int32_t now = SystemClock().wholeSecondsSince1970();
-  return oneLine(
-      englishText(isFixed ? fixedStatus(status.fixed, address) : driveStatus(now, status.route)));
+  return oneLine(englishText(fixedStatus(status.fixed, address, statusWhileOn(now, status.route))));
 }
 
 /// The address of the fixed position while that is on; empty when none is known.
@@ -95,18 +91,22 @@ std::string addressOf(CommandLine& line, const FixedLocationState& fixed) {
   return firstFormattedLine(reverseGeocodeNow(line, fixed.coordinate)).value_or("");
 }
 
+std::string positionText(const Reading& status) {
+  if (const auto position = positionNow(status)) return coordinateText(*position);
+  return status.fixed.enabled || status.route.enabled() ? "unknown" : "the device's own";
+}
+
 Answer answerOf(const Reading& status, const std::string& address) {
-  const auto position = positionNow(status);
   const std::string words = statusText(status, address);
   nlohmann::json json = {{"status", words},
                          {"mode", nameOf(status.mode)},
                          {"fixed", toJson(status.fixed)},
                          {"route", toJson(status.route)},
-                         {"position", toJson(position)}};
+                         {"position", toJson(positionNow(status))}};
   std::string text = "status    " + words + "\nmode      " + nameOf(status.mode) + "\nfixed     " +
                      fixedText(status.fixed) + "\ndrift     " + driftText(status.fixed) +
                      "\nroute     " + routeText(status.route) + "\nposition  " +
-                     (position ? coordinateText(*position) : "the device's own");
+                     positionText(status);
   return {std::move(text), std::move(json)};
 }
 
@@ -120,7 +120,7 @@ ExitStatus showStatus(CommandLine& line) {
 
 ExitStatus answerDone(CommandLine& line) {
   const auto reading = readFiles(line);
-  if (reading) return line.answer(answerOf(*reading, {}));
+  if (reading) return line.answer(answerOf(*reading, addressOf(line, reading->fixed)));
   line.warn("it is done, but " + reading.message());
   return line.answer({"done", {{"done", true}}});
 }

@@ -5,10 +5,15 @@
 namespace wayloom {
 
 Phrase fixedStatus(const FixedLocationState& state, const std::string& address,
-                   const FixedActivity& activity) {
+                   const std::optional<Phrase>& drive, const FixedActivity& activity) {
   using Kind = FixedActivity::Kind;
   if (activity.kind == Kind::Searching) return Phrase{"Searching …"};
+  if (drive && state.enabled) {
+    return Phrase{"Both are on: turn the position or the drive off"};
+  }
+  if (drive) return *drive;
   if (state.enabled) {
+    if (!isOnGlobe(state.coordinate)) return Phrase{"On at a position that is not on the globe"};
     if (!state.hasCoordinate) return Phrase{"On"};
     return Phrase{"On at %1", {address.empty() ? coordinateText(state.coordinate) : address}};
   }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "fixed/FixedLocation.h"
@@ -21,9 +22,12 @@ struct FixedActivity {
   std::string searched = {};
 };
 
-/// What a status line says of the fixed position. `address` is that of the position in the file;
-/// while it is not known, the position itself is named.
+/// What a status line says of the fixed position, or of the drive where only that is on. `address`
+/// is that of the position in the file; while it is not known, the position itself is named.
+/// `drive` is what is said of a drive that is on, none while it is off: nothing here turns both on,
+/// but a file that somebody edits can.
 Phrase fixedStatus(const FixedLocationState& state, const std::string& address,
+                   const std::optional<Phrase>& drive = std::nullopt,
                    const FixedActivity& activity = {});
 
 }  // namespace wayloom

@@ -1,5 +1,7 @@
 #include "fixed/SpotloomViewController.h"
 
+#include <chrono>
+
 #include "kit/FailureText.h"
 #include "kit/LocalizedText.h"
 #include "map/ShownPoint.h"
@@ -11,6 +13,7 @@ namespace {
 
 constexpr int kButtonInset = 86;
 constexpr int kAutoPanelInset = 44;
+constexpr std::chrono::seconds kTick{1};
 
 }  // namespace
 
@@ -18,7 +21,11 @@ SpotloomViewController::SpotloomViewController(const Services& services, QObject
     : QObject(parent),
       mServices(services),
       mFixedLocation(services.files, services.notice),
-      mFavorites(services.files) {}
+      mFavorites(services.files) {
+  mDriveTimer.setInterval(kTick);
+  mDriveTimer.setSingleShot(true);
+  connect(&mDriveTimer, &QTimer::timeout, this, &SpotloomViewController::showStatus);
+}
 
 void SpotloomViewController::viewDidLoad(MapView* mainMapView) {
   mMainMapView = mainMapView;
@@ -42,20 +49,20 @@ void SpotloomViewController::followFiles() {
   showStatus();
 }
 
+Coordinate SpotloomViewController::shownCoordinate() const {
+  return mFixedLocation.coordinate().value_or(mMainMapView->region().center);
+}
+
 bool SpotloomViewController::followPosition() {
   const auto state = readFixedLocation(mServices.files);
+  const auto& chosen = mFixedLocation.coordinate();
   const bool isElsewhere = state && state->enabled && state->hasCoordinate &&
                            !(chosen && isSamePosition(state->coordinate, *chosen));
   // What moves the map just now ends first.
   mMustFollow = isElsewhere && mIsMapMoving;
   if (!isElsewhere || mIsMapMoving) return false;
-Coordinate SpotloomViewController::shownCoordinate() const {
-  return mFixedLocation.coordinate().value_or(mMainMapView->region().center);
-}
-
   mIsFollowing = true;
   mMainMapView->setCenterCoordinate(state->coordinate, Animated::No);
-  const auto& chosen = mFixedLocation.coordinate();
   mIsFollowing = false;
   mFixedLocation.setCoordinate(state->coordinate);
   return true;
@@ -65,6 +72,7 @@ void SpotloomViewController::refreshViewByStatusWithLocation(bool withLocation) 
   const auto refreshed = mFixedLocation.refresh();
   mStatus.setReading(refreshed.status());
   showStatus();
+  if (!refreshed) mMustPlace = mMustPlace || withLocation;
   if (!refreshed) return;
   const FixedLocationState& state = *refreshed;
   update([&](View& view) {
@@ -72,7 +80,6 @@ void SpotloomViewController::refreshViewByStatusWithLocation(bool withLocation) 
     view.drifting = state.drifting;
     // With nothing stored, the panel and the slider stay as they are.
     if (state.hasSettings) {
-  if (!refreshed) mMustPlace = mMustPlace || withLocation;
       view.autoPanelShown = state.enabled;
       view.driftSpeed = sliderSpeed(state.driftSpeed);
     }
@@ -138,9 +145,9 @@ bool SpotloomViewController::report(const Status& status) {
 void SpotloomViewController::showStatus() {
   const FixedLocationState state = mFixedLocation.known();
   const bool isThere = isSamePosition(state.coordinate, mAddressPlace);
-  const bool isOther = !state.enabled && mServices.isDriving && mServices.isDriving();
-  mStatus.show(isOther ? Phrase{kWayloomIsWorking}
-                       : fixedStatus(state, isThere ? mAddress : std::string(), mActivity),
+  const auto drive = mServices.drive ? mServices.drive() : std::nullopt;
+  if (drive) mDriveTimer.start();
+  mStatus.show(fixedStatus(state, isThere ? mAddress : std::string(), drive, mActivity),
                std::nullopt, mServices.files, {SettingsFile::Location, SettingsFile::Master});
 }
 

@@ -6,6 +6,7 @@
 #include <QtCore/QObject>
 #include <QtCore/QPointer>
 #include <QtCore/QString>
+#include <QtCore/QTimer>
 #include <QtQml/qqmlregistration.h>
 
 #include "fixed/FixedStatus.h"
@@ -51,8 +52,9 @@ class SpotloomViewController : public QObject, public LocationDelegate, public F
     Alerts& alerts;
     ScreenSwitcher& screens;
     std::shared_ptr<TileSource> tiles;
-    /// Whether the route file says that a drive is on; may be left out.
-    std::function<bool()> isDriving = {};
+    /// What the status line says of the drive if the route file says that it is on; may be left
+    /// out.
+    std::function<std::optional<Phrase>()> drive = {};
   };
 
   explicit SpotloomViewController(const Services& services, QObject* parent = nullptr);
@@ -158,10 +160,10 @@ class SpotloomViewController : public QObject, public LocationDelegate, public F
   void showStatus();
   /// What is going on, which no file says, from now on.
   void begin(FixedActivity activity);
-  /// Moves the map to the file's position if that is on and elsewhere; true if it did.
-  bool followPosition();
   /// The position that was chosen, or what the map shows as long as none was.
   Coordinate shownCoordinate() const;
+  /// Moves the map to the file's position if that is on and elsewhere; true if it did.
+  bool followPosition();
   void regionWillChange();
   void regionDidChange();
   void moved(const Status& written);
@@ -182,16 +184,18 @@ class SpotloomViewController : public QObject, public LocationDelegate, public F
   /// The address that came last, empty where there is none, and of which place.
   std::string mAddress;
   Coordinate mAddressPlace;
+  /// While a drive is on, how far it is.
+  QTimer mDriveTimer;
   /// A move of the map is under way.
   bool mIsMapMoving = false;
   /// That move only follows the file.
   bool mIsFollowing = false;
+  /// The files could not be read when the map was to be placed by them: it is once they can.
+  bool mMustPlace = false;
   /// The file's position changed meanwhile: it is followed when the move ends.
   bool mMustFollow = false;
   /// The overlay is attached to no view until the first address search; showing it before that
   /// shows nothing.
-  /// The files could not be read when the map was to be placed by them: it is once they can.
-  bool mMustPlace = false;
   bool mOverlayAttached = false;
 };
 

@@ -1,7 +1,6 @@
 #include "kit/LocalizedText.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QDateTime>
 #include <QtCore/QLocale>
 
 #include "kit/ShownText.h"
@@ -14,14 +13,11 @@ class UsersLanguage : public Wording {
  public:
   std::string text(const char* key) const override { return localizedText(key).toStdString(); }
   std::string number(const Phrase::Number& number) const override {
-    return QLocale().toString(number.value, 'f', number.decimals).toStdString();
-  }
-  std::string moment(const Phrase::Moment& moment) const override {
-    const auto time = QDateTime::fromSecsSinceEpoch(static_cast<qint64>(moment.secondsSince1970));
-    const QLocale locale;
-    return (moment.isAnotherDay ? locale.toString(time, QLocale::ShortFormat)
-                                : locale.toString(time.time(), QLocale::ShortFormat))
-        .toStdString();
+    // English is said alike everywhere, here and by the command line.
+    QLocale locale;
+    if (locale.language() == QLocale::English) locale = QLocale::c();
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    return locale.toString(number.value, 'f', number.decimals).toStdString();
   }
 };
 

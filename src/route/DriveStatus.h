@@ -13,6 +13,8 @@ std::optional<double> progressAt(std::int32_t now, const RoutePreferences& prefe
 
 /// What a status line says of the drive as its file holds it.
 Phrase driveStatus(std::int32_t now, const RoutePreferences& preferences);
+/// The same of a drive that is on; none while it is off.
+std::optional<Phrase> statusWhileOn(std::int32_t now, const RoutePreferences& preferences);
 
 /// What came of the last plan.
 struct PlannedDrive {
@@ -22,6 +24,8 @@ struct PlannedDrive {
 };
 
 /// What a status line says while a drive is being chosen; `planned` is none before the first plan.
-Phrase choiceStatus(const RouteChoices& choices, const std::optional<PlannedDrive>& planned);
+/// The time given is what would be left if it were turned on `now`.
+Phrase choiceStatus(std::int32_t now, const RouteChoices& choices,
+                    const std::optional<PlannedDrive>& planned);
 
 }  // namespace wayloom

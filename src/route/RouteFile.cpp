@@ -1,5 +1,7 @@
 #include "route/RouteFile.h"
 
+#include <cmath>
+#include <limits>
 #include <utility>
 
 #include "settings/TextConversions.h"
@@ -16,6 +18,28 @@ std::int32_t RoutePreferences::start() const {
 
 std::int32_t RoutePreferences::end() const {
   return intValue(valueOf(entries, "end"));
+}
+
+namespace {
+
+/// What every reader takes, or what is written where 32 bits do not hold it and a calendar does.
+double written(const PropertyList* value, std::int32_t taken) {
+  constexpr double kEndOfYear9999 = 253'402'300'799;
+  const double seconds = std::trunc(doubleValue(value));
+  return seconds > taken && taken == std::numeric_limits<std::int32_t>::max() &&
+                 seconds <= kEndOfYear9999
+             ? seconds
+             : taken;
+}
+
+}  // namespace
+
+double RoutePreferences::writtenStart() const {
+  return written(valueOf(entries, "start"), start());
+}
+
+double RoutePreferences::writtenEnd() const {
+  return written(valueOf(entries, "end"), end());
 }
 
 std::string RoutePreferences::text(const char* key) const {

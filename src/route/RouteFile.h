@@ -27,6 +27,9 @@ struct RoutePreferences {
   /// Seconds since 1970, as every reader of the file takes them.
   std::int32_t start() const;
   std::int32_t end() const;
+  /// The same as they were written, to be shown: also after 2038.
+  double writtenStart() const;
+  double writtenEnd() const;
   /// The addresses of both ends; empty when they are missing or no texts.
   std::string startText() const { return text("s"); }
   std::string endText() const { return text("e"); }

@@ -15,6 +15,7 @@ namespace wayloom {
 namespace {
 
 constexpr std::chrono::seconds kTick{1};
+constexpr std::chrono::seconds kChoiceTick{10};
 
 }  // namespace
 
@@ -25,6 +26,8 @@ WayloomViewController::WayloomViewController(const Services& services, QObject* 
       mPlan(services.directions, this) {
   mTimer.setInterval(kTick);
   connect(&mTimer, &QTimer::timeout, this, &WayloomViewController::refreshLocation);
+  mChoiceTimer.setInterval(kChoiceTick);
+  connect(&mChoiceTimer, &QTimer::timeout, this, &WayloomViewController::showStatus);
   connect(&mPlan, &PathPlan::started, this, [this] { showHUDView(); });
   connect(&mPlan, &PathPlan::ended, this, [this] { hideHUDView(); });
   connect(&mPlan, &PathPlan::answered, this, &WayloomViewController::showStatus);
@@ -118,18 +121,44 @@ bool WayloomViewController::report(const Status& status) {
   return static_cast<bool>(status);
 }
 
-bool WayloomViewController::isDriving() {
+std::optional<Phrase> WayloomViewController::statusOfDrive() {
   if (!mSimulation.isCurrent()) refresh();
-  return mSimulation.preferences().enabled();
+  return statusWhileOn(mSimulation.now(), mSimulation.preferences());
 }
 
-Phrase WayloomViewController::statusPhrase() const {
-  const RoutePreferences& preferences = mSimulation.preferences();
-  if (preferences.enabled()) return driveStatus(mSimulation.now(), preferences);
+Phrase WayloomViewController::statusPhrase() {
+  const auto drive = statusWhileOn(mSimulation.now(), mSimulation.preferences());
   // The other simulation may be on all the same.
   const auto fixed = readFixedLocation(mServices.files);
-  if (fixed && fixed->enabled) return fixedStatus(*fixed, {});
-  return mIsChoosing ? choiceStatus(choices(), mPlan.drive()) : Phrase{"Off"};
+  if (fixed && fixed->enabled) return fixedStatus(*fixed, addressOf(*fixed), drive);
+  if (drive) return *drive;
+  return mIsChoosing ? choiceStatus(mSimulation.now(), choices(), mPlan.drive()) : Phrase{"Off"};
+}
+
+const std::string& WayloomViewController::addressOf(const FixedLocationState& fixed) {
+  if (fixed.hasCoordinate && mAsked != fixed.coordinate) {
+    mAsked = fixed.coordinate;
+    mAddress.clear();
+    ++mAnswersDue;
+    mServices.location.addressWithCoordinate(fixed.coordinate, this);
+  }
+  return mAddress;
+}
+
+void WayloomViewController::addressKnown(const std::string& address) {
+  if (--mAnswersDue > 0) return;  // They come in the order of the questions.
+  mAddress = address;
+  showStatus();
+}
+
+void WayloomViewController::reverseGeocoderSuccess(Location* /*location*/,
+                                                   const std::string& address) {
+  addressKnown(address);
+}
+
+void WayloomViewController::reverseGeocoderFailed(Location* /*location*/,
+                                                  const std::optional<std::string>& /*error*/) {
+  addressKnown({});
 }
 
 void WayloomViewController::showStatus() {
@@ -140,6 +169,7 @@ void WayloomViewController::showStatus() {
 
 void WayloomViewController::showChoices() {
   mIsChoosing = true;
+  mChoiceTimer.start();
   showStatus();
 }
 
@@ -186,6 +216,7 @@ void WayloomViewController::turnedOff(const Status& status) {
 
 void WayloomViewController::endDrive() {
   mIsChoosing = false;
+  mChoiceTimer.stop();
   showStatus();
   update([](View& view) { view.tipText.clear(); });
   down();

@@ -5,6 +5,7 @@
 #include <QtCore/QPointer>
 #include <QtCore/QTimer>
 
+#include "fixed/FixedLocation.h"
 #include "kit/BaseViewController.h"
 #include "kit/DatePicker.h"
 #include "kit/ScreenSwitcher.h"
@@ -58,8 +59,8 @@ class WayloomViewController : public wayloom::BaseViewController, public Locatio
   /// Another program may have changed the route file: a drive that was turned on there goes on here
   /// as after a start, one that was turned off ends.
   void followFiles() override;
-  /// Whether the route file says that a drive is on, shown or not.
-  bool isDriving();
+  /// What the status line says of the drive if the route file says that it is on, shown or not.
+  std::optional<Phrase> statusOfDrive();
 
   Q_INVOKABLE void setEnable(bool on);
   /// Shows where the drive is now.
@@ -85,6 +86,8 @@ class WayloomViewController : public wayloom::BaseViewController, public Locatio
 
   void locationSuccess(Location* location, double latitude, double longitude) override;
   void locationFailed(Location* location, const std::optional<std::string>& error) override;
+  void reverseGeocoderSuccess(Location* location, const std::string& address) override;
+  void reverseGeocoderFailed(Location* location, const std::optional<std::string>& error) override;
 
   bool enabled() const { return mView.enabled; }
   bool collapsed() const { return mView.collapsed; }
@@ -135,7 +138,11 @@ class WayloomViewController : public wayloom::BaseViewController, public Locatio
   /// Reads the file again.
   void refresh();
   void showStatus();
-  Phrase statusPhrase() const;
+  Phrase statusPhrase();
+  /// The address of the fixed position, which may be on while this screen is shown; empty while it
+  /// is asked for.
+  const std::string& addressOf(const FixedLocationState& fixed);
+  void addressKnown(const std::string& address);
   /// The status line says what is chosen, from now on.
   void showChoices();
   /// The switch shows what the file says.
@@ -160,6 +167,12 @@ class WayloomViewController : public wayloom::BaseViewController, public Locatio
   StatusText mStatus;
   /// Something was chosen, or planned, since the last drive.
   bool mIsChoosing = false;
+  /// Brings the time that a chosen drive has left up to date.
+  QTimer mChoiceTimer;
+  /// Whose address was asked for last, its address, and how many answers are to come.
+  std::optional<Coordinate> mAsked;
+  std::string mAddress;
+  int mAnswersDue = 0;
 
   /// The drive's file that tip, panel, path and timer belong to.
   std::optional<FileVersion> mShownVersion;

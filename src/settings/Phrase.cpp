@@ -18,20 +18,21 @@ class English : public Wording {
     std::snprintf(digits.data(), digits.size(), "%.*f", number.decimals, number.value);
     return digits.data();
   }
-  std::string moment(const Phrase::Moment& moment) const override {
-    const auto seconds = static_cast<std::time_t>(moment.secondsSince1970);
-    std::tm parts{};
-    std::array<char, 40> text{};
-    const char* form = moment.isAnotherDay ? "%Y-%m-%d %H:%M" : "%H:%M";
-    if (!localtime_r(&seconds, &parts)) return std::to_string(seconds);
-    std::strftime(text.data(), text.size(), form, &parts);
-    return text.data();
-  }
 };
+
+std::string said(const Phrase::Moment& moment) {
+  const auto seconds = static_cast<std::time_t>(moment.secondsSince1970);
+  std::tm parts{};
+  std::array<char, 40> text{};
+  const char* form = moment.isAnotherDay ? "%Y-%m-%d %H:%M" : "%H:%M";
+  if (!localtime_r(&seconds, &parts)) return std::to_string(seconds);
+  std::strftime(text.data(), text.size(), form, &parts);
+  return text.data();
+}
 
 std::string said(const Phrase::Gap& gap, const Wording& wording) {
   if (const auto* number = std::get_if<Phrase::Number>(&gap)) return wording.number(*number);
-  if (const auto* moment = std::get_if<Phrase::Moment>(&gap)) return wording.moment(*moment);
+  if (const auto* moment = std::get_if<Phrase::Moment>(&gap)) return said(*moment);
   if (const auto* phrase = std::get_if<Phrase>(&gap)) return said(*phrase, wording);
   return std::get<std::string>(gap);
 }

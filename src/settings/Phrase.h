@@ -15,10 +15,10 @@ struct Phrase {
     double value = 0;
     int decimals = 0;
   };
-  /// A time of day.
+  /// A time of day in local time, to the minute: 14:05 in every language, or 2026-11-24 14:05 where
+  /// it is not today.
   struct Moment {
     double secondsSince1970 = 0;
-    /// Not today: it is named with its date.
     bool isAnotherDay = false;
   };
   struct Gap;
@@ -39,17 +39,16 @@ inline Phrase::Phrase(const char* phraseKey) : key(phraseKey) {}
 inline Phrase::Phrase(const char* phraseKey, std::vector<Gap> inGaps)
     : key(phraseKey), gaps(std::move(inGaps)) {}
 
-/// How a language says the parts of a phrase, UTF-8.
+/// How a language says the parts of a phrase, UTF-8. Numbers are not grouped.
 class Wording {
  public:
   virtual ~Wording() = default;
   virtual std::string text(const char* key) const = 0;
   virtual std::string number(const Phrase::Number& number) const = 0;
-  virtual std::string moment(const Phrase::Moment& moment) const = 0;
 };
 
 std::string said(const Phrase& phrase, const Wording& wording);
-/// With the keys as they are, a decimal point, and local time as 14:05 or 2026-11-24 14:05.
+/// With the keys as they are and a decimal point.
 std::string englishText(const Phrase& phrase);
 
 /// "850 m" or "12.3 km".

@@ -2,19 +2,24 @@
 // by one on standard output when what it asked for is over: "done SCREEN SWITCH", with the screen
 // that was touched and what the touched switch then shows, "refused TEXT" after an alert, "failed
 // TEXT" when the status line says so, "cannot LINE"; "shown" by the screen, its switch and the
-// status line, "say LABEL" by its text, "rows" by how many the list has.
+// status line, "say LABEL" by its text, "value NAME PROPERTY" by that, "metres" by the lesser side
+// of what the map shows, "rows" by how many the list has.
 //   window_by_command ROOT REGIONS
 
-#include <cstdio>
+#include <algorithm>
+#include <cmath>
 #include <iostream>
 #include <string>
 
 #include <QtCore/QSettings>
 #include <QtCore/QSocketNotifier>
 #include <QtGui/QGuiApplication>
+#include <QtGui/QKeySequence>
+#include <QtTest/QTest>
 
 #include "app/AppDelegate.h"
 #include "app/WindowDriver.h"
+#include "map/MapView.h"
 
 namespace {
 
@@ -27,6 +32,8 @@ class Commands {
   std::string answer(const std::string& line) {
     if (line == "shown") return shown();
     if (line.starts_with("say ")) return text(line.substr(4).c_str());
+    if (line.starts_with("value ")) return value(line.substr(6));
+    if (line == "metres") return std::to_string(std::lround(metres()));
     if (line == "rows") return std::to_string(mWindow.property("mainTableView", "count").toInt());
     mTouched = screen();
     const bool isRun = run(line);
@@ -51,8 +58,114 @@ class Commands {
     if (word == "remove") return pressFirst(Qt::Key_Delete);
     if (word == "undo") return undo();
     if (word == "close") return close();
+    if (word == "click") return mWindow.click(rest.toLatin1());
+    if (word == "place") return pickPlace(rest.section(' ', 0, 0), rest.section(' ', 1));
+    if (word == "accept") return acceptPlace();
+    if (word == "turn") return turn(rest.section(' ', 0, 0), rest.section(' ', 1).toInt());
+    if (word == "picked") return pickTime();
+    if (word == "resize")
+      return resize(rest.section(' ', 0, 0).toInt(), rest.section(' ', 1).toInt());
+    if (word == "focus") return focus(rest);
+    if (word == "keys") return pressKeys(rest);
+    if (const QQuickItem* map = mWindow.find(mapName())) return touchMap(*map, word);
     return word == "wait";
   }
+
+  /// Zooms that begin away from the middle.
+  bool touchMap(const QQuickItem& map, const std::string& word) {
+    const QPoint at = map.mapToScene(QPointF(60, map.height() - 90)).toPoint();
+    QQuickWindow* window = map.window();
+    if (word == "wheel") {
+      QWheelEvent event(at, at, {}, {0, 6 * QWheelEvent::DefaultDeltasPerStep}, Qt::NoButton,
+                        Qt::NoModifier, Qt::NoScrollPhase, false);
+      QCoreApplication::sendEvent(window, &event);
+    } else if (word == "double") {
+      QTest::mouseDClick(window, Qt::LeftButton, {}, at);
+    } else if (word == "pinch") {
+      const QPoint step(12, -12);
+      QTest::touchEvent(window, mScreen).press(0, at).press(1, at + 3 * step);
+      for (int move = 4; move <= 14; ++move) {
+        QTest::touchEvent(window, mScreen).stationary(0).move(1, at + move * step);
+      }
+      QTest::touchEvent(window, mScreen).release(0, at).release(1, at + 14 * step);
+    } else if (word != "rest") {
+      return word == "wait";
+    }
+    return mWindow.waitForMap(mapName());
+  }
+
+  bool pickPlace(const QString& label, const QString& address) {
+    const auto isSettled = [this] {
+      return !mWindow.property("HUD", "shown").toBool() && !mWindow.isShown("spinner") &&
+             !text("addressLabel").empty();
+    };
+    const auto waitForAddress = [&] {
+      return mWindow.waitUntil("an address", isSettled) && mWindow.waitForMap("mainMapView");
+    };
+    if (!mWindow.click(label.toLatin1()) || !mWindow.waitForScreen("buttonBar")) return false;
+    if (!waitForAddress() || !mWindow.click("searchField")) return false;
+    mWindow.type(address);
+    mWindow.press(Qt::Key_Return);
+    return waitForAddress();
+  }
+
+  bool acceptPlace() {
+    return mWindow.click("btn_ok") &&
+           mWindow.waitUntil("the route screen", [this] { return !mWindow.isShown("buttonBar"); });
+  }
+
+  /// A wheel of the date picker, with the keys.
+  bool turn(const QString& wheel, int row) {
+    if (!focus(wheel)) return false;
+    const auto value = [&] { return mWindow.property(wheel.toLatin1(), "value").toInt(); };
+    for (int presses = 0; value() != row && presses < 100; ++presses) {
+      mWindow.press(value() < row ? Qt::Key_Down : Qt::Key_Up);
+    }
+    return value() == row;
+  }
+
+  bool pickTime() {
+    mWindow.press(Qt::Key_Return);
+    return mWindow.waitUntil("the date picker's end",
+                             [this] { return !mWindow.isShown("v_picker"); });
+  }
+
+  bool resize(int width, int height) {
+    QQuickWindow* window = mWindow.find(mapName())->window();
+    window->resize(width, height);
+    return mWindow.waitUntil("the new size",
+                             [=] { return window->contentItem()->height() == height; });
+  }
+
+  bool focus(const QString& name) {
+    QQuickItem* item = mWindow.find(name.toLatin1());
+    if (item) item->forceActiveFocus(Qt::TabFocusReason);
+    return item && item->hasActiveFocus();
+  }
+
+  bool pressKeys(const QString& names) {
+    for (const QString& name : names.split(' ')) {
+      mWindow.press(QKeySequence::fromString(name)[0].key());
+    }
+    return true;
+  }
+
+  double metres() {
+    const MapRegion shown = qobject_cast<MapView*>(mWindow.find(mapName()))->region();
+    constexpr double kMetresOfADegree = 111'195;
+    return kMetresOfADegree *
+           std::min(shown.span.latitudeDelta,
+                    shown.span.longitudeDelta * std::cos(shown.center.latitude * M_PI / 180));
+  }
+
+  std::string value(const std::string& line) {
+    const auto blank = line.find(' ');
+    return mWindow.property(line.substr(0, blank).c_str(), line.substr(blank + 1).c_str())
+        .toString()
+        .toStdString();
+  }
+
+  const char* mapName() const { return mWindow.isShown("mainMapView") ? "mainMapView" : "mv_main"; }
 
   /// What the window has to say about it; an alert is closed.
   std::string outcome() {
@@ -153,6 +266,7 @@ class Commands {
 
   WindowDriver mWindow;
   std::string mTouched;
+  QPointingDevice* mScreen = QTest::createTouchDevice();
 };
 
 }  // namespace

@@ -85,8 +85,6 @@ def random_touch(chance, number, is_modal):
 
 def kind(words):
     """What a status line says, without what only one of the two programs knows."""
-    if words.startswith("Wayloom is working"):
-        return "Driving"
     own = ("Drive:", "No roads", "Touch again", "Nothing found")
     return "Off" if words.startswith(own) else re.match(r"On at|[A-Za-z ]*", words)[0].strip()
 

@@ -181,10 +181,14 @@ void SpotloomViewController::regionWillChange() {
 void SpotloomViewController::regionDidChange() {
   mIsMapMoving = false;
   if (std::exchange(mMustFollow, false) && followPosition()) return;
+  if (mMustPlace) {
+    refreshViewByStatusWithLocation(false);
+    if (mFixedLocation.coordinate()) return;  // The file's place is shown now.
+  }
   // A position that no map shows stays where it is until the map is moved away from it.
   const bool stays = isBeyondTheEdge(*mMainMapView, shownCoordinate());
   const Coordinate center = stays ? shownCoordinate() : mMainMapView->region().center;
-  if (!mIsFollowing && !stays) moved(mFixedLocation.centerMoved(center));
+  if (!mIsFollowing && !stays && !mMustPlace) moved(mFixedLocation.centerMoved(center));
   mAsked.push_back(center);
   mServices.location.addressWithCoordinate(center, this);
 }

@@ -130,6 +130,12 @@ TEST_F(SpotloomScreenTest, AFileThatCouldNotBeReadAtFirstIsTakenAsItIsOnceItCan)
   } cases[] = {
       {"appearing while on", kOn, appear, "1", false},
       {"appearing while off", kOff, appear, "0", true},
+      {"zooming while on", kOn,
+       [this] {
+         screen.wheel("mainMapView", {20, 300}, 1);
+         EXPECT_TRUE(QTest::qWaitFor([&] { return map->region().center.latitude > 9; }));
+       },
+       "1", false},
       {"turning on", kOff, [this] { screen.click("enableSwitch"); }, "1", false},
   };
   for (const auto& test : cases) {

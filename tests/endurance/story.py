@@ -12,7 +12,7 @@ from datetime import datetime, timedelta, timezone
 from programs import ENVIRONMENT, Window, check
 from walking import DRIVE
 
-PATIENCE = 10
+PATIENCE = 30
 
 
 def night_of_two_clocks():

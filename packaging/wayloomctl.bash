@@ -11,7 +11,8 @@ _wayloomctl_words() {
     "route plan") echo "--from --to --start --geojson --profile" ;;
     "route on") echo "--from --to --start --end" ;;
     "route where") echo "--at" ;;
-    favorites) echo "list add remove choose" ;;
+    favorites) echo "list add remove choose rename move export import" ;;
+    "favorites export"*) echo "--format" ;;
     whitelist) echo "list toggle" ;;
     search*) echo "--near --limit --suggest" ;;
     region) echo "list import remove" ;;
@@ -24,13 +25,14 @@ _wayloomctl() {
   case $before in
     --root | --regions) mapfile -t COMPREPLY < <(compgen -d -- "$word") && return ;;
     --service) mapfile -t COMPREPLY < <(compgen -W "regions web" -- "$word") && return ;;
-    import) mapfile -t COMPREPLY < <(compgen -f -- "$word") && return ;;
+    --format) mapfile -t COMPREPLY < <(compgen -W "gpx kml geojson" -- "$word") && return ;;
+    import | export) mapfile -t COMPREPLY < <(compgen -f -- "$word") && return ;;
     --from | --to | --start | --end | --at | --speed | --near | --limit | --name) return ;;
   esac
   for ((i = 1; i < COMP_CWORD; ++i)); do
     case ${COMP_WORDS[i]} in
       --root | --regions | --service | --from | --to | --start | --end | --at | --speed | --near | \
-        --limit | --name) ((++i)) ;;
+        --limit | --name | --format) ((++i)) ;;
       -*) ;;
       *) command+="${command:+ }${COMP_WORDS[i]}" ;;
     esac

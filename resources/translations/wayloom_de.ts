@@ -4,6 +4,18 @@
 <context>
     <name>Wayloom</name>
     <message>
+        <source>%1 added, %2 were there before</source>
+        <translation>%1 hinzugefügt, %2 waren schon da</translation>
+    </message>
+    <message>
+        <source>%1 exported</source>
+        <translation>%1 exportiert</translation>
+    </message>
+    <message>
+        <source>%1 exported, %2 without a position left out</source>
+        <translation>%1 exportiert, %2 ohne Position ausgelassen</translation>
+    </message>
+    <message>
         <source>%1 h %2 min</source>
         <translation>%1 h %2 min</translation>
     </message>
@@ -26,6 +38,10 @@
     <message>
         <source>%1 min</source>
         <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1 of %2 ticked</source>
+        <translation>%1 von %2 markiert</translation>
     </message>
     <message>
         <source>Add To →</source>
@@ -116,8 +132,20 @@
         <translation>Adresse eingeben</translation>
     </message>
     <message>
+        <source>Export favorites to a file</source>
+        <translation>Favoriten in eine Datei exportieren</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportieren…</translation>
+    </message>
+    <message>
         <source>Favorites</source>
         <translation>Favoriten</translation>
+    </message>
+    <message>
+        <source>Find an application</source>
+        <translation>App suchen</translation>
     </message>
     <message>
         <source>Fixed location</source>
@@ -128,16 +156,40 @@
         <translation>Auswahl ausblenden</translation>
     </message>
     <message>
+        <source>Import favorites from a file</source>
+        <translation>Favoriten aus einer Datei importieren</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importieren…</translation>
+    </message>
+    <message>
         <source>Information</source>
         <translation>Informationen</translation>
+    </message>
+    <message>
+        <source>It was changed elsewhere meanwhile</source>
+        <translation>Es wurde inzwischen anderswo geändert</translation>
+    </message>
+    <message>
+        <source>Keep the ticks as they are under a name, and take them back later.</source>
+        <translation>Die Häkchen unter einem Namen aufheben und später wieder herstellen.</translation>
     </message>
     <message>
         <source>Map</source>
         <translation>Karte</translation>
     </message>
     <message>
+        <source>Moved “%1”</source>
+        <translation>„%1“ verschoben</translation>
+    </message>
+    <message>
         <source>My location</source>
         <translation>Mein Standort</translation>
+    </message>
+    <message>
+        <source>Name of the set</source>
+        <translation>Name des Satzes</translation>
     </message>
     <message>
         <source>No applications found</source>
@@ -150,6 +202,10 @@
     <message>
         <source>No roads lead from %1 to %2</source>
         <translation>Keine Straße führt von %1 nach %2</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>Nichts gefunden</translation>
     </message>
     <message>
         <source>Nothing found for %1: the position is off</source>
@@ -208,6 +264,10 @@
         <translation>Bitte die Abfahrtszeit wählen</translation>
     </message>
     <message>
+        <source>Save</source>
+        <translation>Sichern</translation>
+    </message>
+    <message>
         <source>Search</source>
         <translation>Suchen</translation>
     </message>
@@ -222,6 +282,10 @@
     <message>
         <source>Searching …</source>
         <translation>Suche läuft …</translation>
+    </message>
+    <message>
+        <source>Sets</source>
+        <translation>Sätze</translation>
     </message>
     <message>
         <source>Show the choices</source>
@@ -254,6 +318,10 @@
     <message>
         <source>The drive has no path</source>
         <translation>Die Fahrt hat keine Strecke</translation>
+    </message>
+    <message>
+        <source>Ticked only</source>
+        <translation>Nur markierte</translation>
     </message>
     <message>
         <source>Today</source>

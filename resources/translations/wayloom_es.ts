@@ -4,6 +4,18 @@
 <context>
     <name>Wayloom</name>
     <message>
+        <source>%1 added, %2 were there before</source>
+        <translation>%1 añadidos, %2 ya estaban</translation>
+    </message>
+    <message>
+        <source>%1 exported</source>
+        <translation>%1 exportados</translation>
+    </message>
+    <message>
+        <source>%1 exported, %2 without a position left out</source>
+        <translation>%1 exportados, %2 sin posición omitidos</translation>
+    </message>
+    <message>
         <source>%1 h %2 min</source>
         <translation>%1 h %2 min</translation>
     </message>
@@ -26,6 +38,10 @@
     <message>
         <source>%1 min</source>
         <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1 of %2 ticked</source>
+        <translation>%1 de %2 marcadas</translation>
     </message>
     <message>
         <source>Add To →</source>
@@ -116,8 +132,20 @@
         <translation>Escriba una dirección</translation>
     </message>
     <message>
+        <source>Export favorites to a file</source>
+        <translation>Exportar los favoritos a un archivo</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportar…</translation>
+    </message>
+    <message>
         <source>Favorites</source>
         <translation>Favoritos</translation>
+    </message>
+    <message>
+        <source>Find an application</source>
+        <translation>Buscar una aplicación</translation>
     </message>
     <message>
         <source>Fixed location</source>
@@ -128,16 +156,40 @@
         <translation>Ocultar las opciones</translation>
     </message>
     <message>
+        <source>Import favorites from a file</source>
+        <translation>Importar favoritos de un archivo</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importar…</translation>
+    </message>
+    <message>
         <source>Information</source>
         <translation>Información</translation>
+    </message>
+    <message>
+        <source>It was changed elsewhere meanwhile</source>
+        <translation>Entretanto se cambió en otro lugar</translation>
+    </message>
+    <message>
+        <source>Keep the ticks as they are under a name, and take them back later.</source>
+        <translation>Guarda las marcas actuales con un nombre y recupéralas después.</translation>
     </message>
     <message>
         <source>Map</source>
         <translation>Mapa</translation>
     </message>
     <message>
+        <source>Moved “%1”</source>
+        <translation>«%1» movido</translation>
+    </message>
+    <message>
         <source>My location</source>
         <translation>Mi ubicación</translation>
+    </message>
+    <message>
+        <source>Name of the set</source>
+        <translation>Nombre del conjunto</translation>
     </message>
     <message>
         <source>No applications found</source>
@@ -150,6 +202,10 @@
     <message>
         <source>No roads lead from %1 to %2</source>
         <translation>Ninguna carretera lleva de %1 a %2</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>Nada encontrado</translation>
     </message>
     <message>
         <source>Nothing found for %1: the position is off</source>
@@ -208,6 +264,10 @@
         <translation>Elija la hora de salida</translation>
     </message>
     <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
         <source>Search</source>
         <translation>Buscar</translation>
     </message>
@@ -222,6 +282,10 @@
     <message>
         <source>Searching …</source>
         <translation>Buscando…</translation>
+    </message>
+    <message>
+        <source>Sets</source>
+        <translation>Conjuntos</translation>
     </message>
     <message>
         <source>Show the choices</source>
@@ -254,6 +318,10 @@
     <message>
         <source>The drive has no path</source>
         <translation>El trayecto no tiene recorrido</translation>
+    </message>
+    <message>
+        <source>Ticked only</source>
+        <translation>Solo marcadas</translation>
     </message>
     <message>
         <source>Today</source>

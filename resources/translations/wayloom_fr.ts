@@ -4,6 +4,18 @@
 <context>
     <name>Wayloom</name>
     <message>
+        <source>%1 added, %2 were there before</source>
+        <translation>%1 ajoutés, %2 y étaient déjà</translation>
+    </message>
+    <message>
+        <source>%1 exported</source>
+        <translation>%1 exportés</translation>
+    </message>
+    <message>
+        <source>%1 exported, %2 without a position left out</source>
+        <translation>%1 exportés, %2 sans position omis</translation>
+    </message>
+    <message>
         <source>%1 h %2 min</source>
         <translation>%1 h %2 min</translation>
     </message>
@@ -26,6 +38,10 @@
     <message>
         <source>%1 min</source>
         <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1 of %2 ticked</source>
+        <translation>%1 sur %2 cochées</translation>
     </message>
     <message>
         <source>Add To →</source>
@@ -116,8 +132,20 @@
         <translation>Saisir une adresse</translation>
     </message>
     <message>
+        <source>Export favorites to a file</source>
+        <translation>Exporter les favoris dans un fichier</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exporter…</translation>
+    </message>
+    <message>
         <source>Favorites</source>
         <translation>Favoris</translation>
+    </message>
+    <message>
+        <source>Find an application</source>
+        <translation>Chercher une application</translation>
     </message>
     <message>
         <source>Fixed location</source>
@@ -128,16 +156,40 @@
         <translation>Masquer les choix</translation>
     </message>
     <message>
+        <source>Import favorites from a file</source>
+        <translation>Importer des favoris depuis un fichier</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importer…</translation>
+    </message>
+    <message>
         <source>Information</source>
         <translation>Informations</translation>
+    </message>
+    <message>
+        <source>It was changed elsewhere meanwhile</source>
+        <translation>Il a été modifié ailleurs entre-temps</translation>
+    </message>
+    <message>
+        <source>Keep the ticks as they are under a name, and take them back later.</source>
+        <translation>Gardez les coches actuelles sous un nom et reprenez-les plus tard.</translation>
     </message>
     <message>
         <source>Map</source>
         <translation>Carte</translation>
     </message>
     <message>
+        <source>Moved “%1”</source>
+        <translation>« %1 » déplacé</translation>
+    </message>
+    <message>
         <source>My location</source>
         <translation>Ma position</translation>
+    </message>
+    <message>
+        <source>Name of the set</source>
+        <translation>Nom du jeu</translation>
     </message>
     <message>
         <source>No applications found</source>
@@ -150,6 +202,10 @@
     <message>
         <source>No roads lead from %1 to %2</source>
         <translation>Aucune route ne mène de %1 à %2</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>Rien trouvé</translation>
     </message>
     <message>
         <source>Nothing found for %1: the position is off</source>
@@ -208,6 +264,10 @@
         <translation>Veuillez choisir l’heure de départ</translation>
     </message>
     <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
         <source>Search</source>
         <translation>Chercher</translation>
     </message>
@@ -222,6 +282,10 @@
     <message>
         <source>Searching …</source>
         <translation>Recherche…</translation>
+    </message>
+    <message>
+        <source>Sets</source>
+        <translation>Jeux</translation>
     </message>
     <message>
         <source>Show the choices</source>
@@ -254,6 +318,10 @@
     <message>
         <source>The drive has no path</source>
         <translation>Le trajet n’a pas d’itinéraire</translation>
+    </message>
+    <message>
+        <source>Ticked only</source>
+        <translation>Cochées seules</translation>
     </message>
     <message>
         <source>Today</source>

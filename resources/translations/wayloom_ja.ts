@@ -4,6 +4,18 @@
 <context>
     <name>Wayloom</name>
     <message>
+        <source>%1 added, %2 were there before</source>
+        <translation>%1 件を追加、%2 件は登録済み</translation>
+    </message>
+    <message>
+        <source>%1 exported</source>
+        <translation>%1 件を書き出しました</translation>
+    </message>
+    <message>
+        <source>%1 exported, %2 without a position left out</source>
+        <translation>%1 件を書き出し、位置のない %2 件を省きました</translation>
+    </message>
+    <message>
         <source>%1 h %2 min</source>
         <translation>%1 時間 %2 分</translation>
     </message>
@@ -26,6 +38,10 @@
     <message>
         <source>%1 min</source>
         <translation>%1 分</translation>
+    </message>
+    <message>
+        <source>%1 of %2 ticked</source>
+        <translation>%2 件中 %1 件選択</translation>
     </message>
     <message>
         <source>Add To →</source>
@@ -116,8 +132,20 @@
         <translation>住所を入力</translation>
     </message>
     <message>
+        <source>Export favorites to a file</source>
+        <translation>お気に入りをファイルに書き出す</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>書き出す…</translation>
+    </message>
+    <message>
         <source>Favorites</source>
         <translation>お気に入り</translation>
+    </message>
+    <message>
+        <source>Find an application</source>
+        <translation>アプリを検索</translation>
     </message>
     <message>
         <source>Fixed location</source>
@@ -128,16 +156,40 @@
         <translation>選択項目を隠す</translation>
     </message>
     <message>
+        <source>Import favorites from a file</source>
+        <translation>お気に入りをファイルから読み込む</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>読み込む…</translation>
+    </message>
+    <message>
         <source>Information</source>
         <translation>情報</translation>
+    </message>
+    <message>
+        <source>It was changed elsewhere meanwhile</source>
+        <translation>その間に別の場所で変更されました</translation>
+    </message>
+    <message>
+        <source>Keep the ticks as they are under a name, and take them back later.</source>
+        <translation>今の選択に名前を付けて保存し、後で元に戻せます。</translation>
     </message>
     <message>
         <source>Map</source>
         <translation>地図</translation>
     </message>
     <message>
+        <source>Moved “%1”</source>
+        <translation>「%1」を移動しました</translation>
+    </message>
+    <message>
         <source>My location</source>
         <translation>現在地</translation>
+    </message>
+    <message>
+        <source>Name of the set</source>
+        <translation>セットの名前</translation>
     </message>
     <message>
         <source>No applications found</source>
@@ -150,6 +202,10 @@
     <message>
         <source>No roads lead from %1 to %2</source>
         <translation>%1 から %2 への道はありません</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>見つかりません</translation>
     </message>
     <message>
         <source>Nothing found for %1: the position is off</source>
@@ -208,6 +264,10 @@
         <translation>開始時刻を選んでください</translation>
     </message>
     <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
         <source>Search</source>
         <translation>検索</translation>
     </message>
@@ -222,6 +282,10 @@
     <message>
         <source>Searching …</source>
         <translation>検索中…</translation>
+    </message>
+    <message>
+        <source>Sets</source>
+        <translation>セット</translation>
     </message>
     <message>
         <source>Show the choices</source>
@@ -254,6 +318,10 @@
     <message>
         <source>The drive has no path</source>
         <translation>ルートに道筋がありません</translation>
+    </message>
+    <message>
+        <source>Ticked only</source>
+        <translation>選択のみ</translation>
     </message>
     <message>
         <source>Today</source>

@@ -4,6 +4,18 @@
 <context>
     <name>Wayloom</name>
     <message>
+        <source>%1 added, %2 were there before</source>
+        <translation>已添加 %1 个，%2 个原已存在</translation>
+    </message>
+    <message>
+        <source>%1 exported</source>
+        <translation>已导出 %1 个</translation>
+    </message>
+    <message>
+        <source>%1 exported, %2 without a position left out</source>
+        <translation>已导出 %1 个，略去 %2 个没有位置的</translation>
+    </message>
+    <message>
         <source>%1 h %2 min</source>
         <translation>%1 小时 %2 分钟</translation>
     </message>
@@ -26,6 +38,10 @@
     <message>
         <source>%1 min</source>
         <translation>%1 分钟</translation>
+    </message>
+    <message>
+        <source>%1 of %2 ticked</source>
+        <translation>已勾选 %1 / %2</translation>
     </message>
     <message>
         <source>Add To →</source>
@@ -116,8 +132,20 @@
         <translation>请输入地址</translation>
     </message>
     <message>
+        <source>Export favorites to a file</source>
+        <translation>将收藏导出到文件</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>导出…</translation>
+    </message>
+    <message>
         <source>Favorites</source>
         <translation>收藏夹</translation>
+    </message>
+    <message>
+        <source>Find an application</source>
+        <translation>查找应用</translation>
     </message>
     <message>
         <source>Fixed location</source>
@@ -128,16 +156,40 @@
         <translation>隐藏选项</translation>
     </message>
     <message>
+        <source>Import favorites from a file</source>
+        <translation>从文件导入收藏</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>导入…</translation>
+    </message>
+    <message>
         <source>Information</source>
         <translation>信息</translation>
+    </message>
+    <message>
+        <source>It was changed elsewhere meanwhile</source>
+        <translation>期间已在别处被更改</translation>
+    </message>
+    <message>
+        <source>Keep the ticks as they are under a name, and take them back later.</source>
+        <translation>为当前的勾选命名保存，以后可以恢复。</translation>
     </message>
     <message>
         <source>Map</source>
         <translation>地图</translation>
     </message>
     <message>
+        <source>Moved “%1”</source>
+        <translation>已移动“%1”</translation>
+    </message>
+    <message>
         <source>My location</source>
         <translation>我的位置</translation>
+    </message>
+    <message>
+        <source>Name of the set</source>
+        <translation>组合名称</translation>
     </message>
     <message>
         <source>No applications found</source>
@@ -150,6 +202,10 @@
     <message>
         <source>No roads lead from %1 to %2</source>
         <translation>没有道路从%1通往%2</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>未找到</translation>
     </message>
     <message>
         <source>Nothing found for %1: the position is off</source>
@@ -208,6 +264,10 @@
         <translation>请选择开始时间</translation>
     </message>
     <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
         <source>Search</source>
         <translation>搜索</translation>
     </message>
@@ -222,6 +282,10 @@
     <message>
         <source>Searching …</source>
         <translation>正在搜索…</translation>
+    </message>
+    <message>
+        <source>Sets</source>
+        <translation>组合</translation>
     </message>
     <message>
         <source>Show the choices</source>
@@ -254,6 +318,10 @@
     <message>
         <source>The drive has no path</source>
         <translation>行程没有路线</translation>
+    </message>
+    <message>
+        <source>Ticked only</source>
+        <translation>仅已勾选</translation>
     </message>
     <message>
         <source>Today</source>

@@ -4,6 +4,18 @@
 <context>
     <name>Wayloom</name>
     <message>
+        <source>%1 added, %2 were there before</source>
+        <translation>已加入 %1 個，%2 個原已存在</translation>
+    </message>
+    <message>
+        <source>%1 exported</source>
+        <translation>已匯出 %1 個</translation>
+    </message>
+    <message>
+        <source>%1 exported, %2 without a position left out</source>
+        <translation>已匯出 %1 個，略去 %2 個沒有位置的</translation>
+    </message>
+    <message>
         <source>%1 h %2 min</source>
         <translation>%1 小時 %2 分鐘</translation>
     </message>
@@ -26,6 +38,10 @@
     <message>
         <source>%1 min</source>
         <translation>%1 分鐘</translation>
+    </message>
+    <message>
+        <source>%1 of %2 ticked</source>
+        <translation>已勾選 %1 / %2</translation>
     </message>
     <message>
         <source>Add To →</source>
@@ -116,8 +132,20 @@
         <translation>請輸入地址</translation>
     </message>
     <message>
+        <source>Export favorites to a file</source>
+        <translation>將收藏匯出到檔案</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>匯出…</translation>
+    </message>
+    <message>
         <source>Favorites</source>
         <translation>我的最愛</translation>
+    </message>
+    <message>
+        <source>Find an application</source>
+        <translation>尋找應用程式</translation>
     </message>
     <message>
         <source>Fixed location</source>
@@ -128,16 +156,40 @@
         <translation>隱藏選項</translation>
     </message>
     <message>
+        <source>Import favorites from a file</source>
+        <translation>從檔案匯入收藏</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>匯入…</translation>
+    </message>
+    <message>
         <source>Information</source>
         <translation>資訊</translation>
+    </message>
+    <message>
+        <source>It was changed elsewhere meanwhile</source>
+        <translation>期間已在別處被更改</translation>
+    </message>
+    <message>
+        <source>Keep the ticks as they are under a name, and take them back later.</source>
+        <translation>為目前的勾選命名儲存，以後可以恢復。</translation>
     </message>
     <message>
         <source>Map</source>
         <translation>地圖</translation>
     </message>
     <message>
+        <source>Moved “%1”</source>
+        <translation>已移動「%1」</translation>
+    </message>
+    <message>
         <source>My location</source>
         <translation>我的位置</translation>
+    </message>
+    <message>
+        <source>Name of the set</source>
+        <translation>組合名稱</translation>
     </message>
     <message>
         <source>No applications found</source>
@@ -150,6 +202,10 @@
     <message>
         <source>No roads lead from %1 to %2</source>
         <translation>沒有道路從%1通往%2</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>找不到</translation>
     </message>
     <message>
         <source>Nothing found for %1: the position is off</source>
@@ -208,6 +264,10 @@
         <translation>請選擇開始時間</translation>
     </message>
     <message>
+        <source>Save</source>
+        <translation>儲存</translation>
+    </message>
+    <message>
         <source>Search</source>
         <translation>搜尋</translation>
     </message>
@@ -222,6 +282,10 @@
     <message>
         <source>Searching …</source>
         <translation>正在搜尋…</translation>
+    </message>
+    <message>
+        <source>Sets</source>
+        <translation>組合</translation>
     </message>
     <message>
         <source>Show the choices</source>
@@ -254,6 +318,10 @@
     <message>
         <source>The drive has no path</source>
         <translation>行程沒有路線</translation>
+    </message>
+    <message>
+        <source>Ticked only</source>
+        <translation>僅已勾選</translation>
     </message>
     <message>
         <source>Today</source>

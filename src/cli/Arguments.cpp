@@ -6,6 +6,7 @@
 #include "cli/Commands.h"
 #include "cli/TextForms.h"
 #include "settings/TrimmedText.h"
+#include "tracks/WaypointFile.h"
 
 namespace wayloom {
 
@@ -26,6 +27,8 @@ struct Typed {
   bool suggest = false;
   std::string name;
   long long number = 0;
+  long long destination = 0;
+  std::optional<std::string> format;
   RouteForm routeForm = RouteForm::Summary;
   std::function<ExitStatus(CommandLine&)> command;
 };
@@ -80,6 +83,24 @@ void addFixedCommands(CLI::App& app, Typed& typed) {
   });
 }
 
+void addFavoriteFileCommands(CLI::App& favorites, Typed& typed) {
+  auto* to = favorites.add_subcommand("export", "Write them for other programs");
+  to->add_option("FILE", typed.place, "A file that is not there yet; else it is shown");
+  to->add_option("--format", typed.format, "The file's ending when not given, else gpx")
+      ->check(CLI::IsMember(
+          std::vector<std::string>(kWaypointFormats.begin(), kWaypointFormats.end())));
+  to->callback([&typed] {
+    typed.command = [&typed](CommandLine& line) {
+      return exportFavoritesTo(line, typed.format, typed.place);
+    };
+  });
+  auto* from = favorites.add_subcommand("import", "Add the places of a file behind the last");
+  from->add_option("FILE", typed.text, "A file in GPX, KML or GeoJSON")->required();
+  from->callback([&typed] {
+    typed.command = [&typed](CommandLine& line) { return importFavoritesFrom(line, typed.text); };
+  });
+}
+
 void addFavoriteCommands(CLI::App& app, Typed& typed) {
   auto* favorites = app.add_subcommand("favorites", "The saved places")->require_subcommand(1);
   favorites->add_subcommand("list", "List them")->callback([&typed] {
@@ -104,6 +125,25 @@ void addFavoriteCommands(CLI::App& app, Typed& typed) {
   };
   addNumbered("remove", "Delete number N", removeFavorite);
   addNumbered("choose", "Turn the fixed location on at number N", chooseFavorite);
+
+  auto* rename = favorites->add_subcommand("rename", "Give number N another NAME");
+  rename->add_option("N", typed.number, "Its number in the list, from 1")->required();
+  rename->add_option("NAME", typed.name)->required();
+  rename->callback([&typed] {
+    typed.command = [&typed](CommandLine& line) {
+      return renameFavorite(line, typed.number, typed.name);
+    };
+  });
+
+  auto* move = favorites->add_subcommand("move", "Make number FROM number TO of the list");
+  move->add_option("FROM", typed.number, "Its number in the list, from 1")->required();
+  move->add_option("TO", typed.destination, "The number that it gets")->required();
+  move->callback([&typed] {
+    typed.command = [&typed](CommandLine& line) {
+      return moveFavorite(line, typed.number, typed.destination);
+    };
+  });
+  addFavoriteFileCommands(*favorites, typed);
 }
 
 void addApplicationCommands(CLI::App& app, Typed& typed) {

@@ -30,6 +30,13 @@ ExitStatus addFavorite(CommandLine& line, const std::string& name,
 /// Favourites are counted from 1.
 ExitStatus removeFavorite(CommandLine& line, long long number);
 ExitStatus chooseFavorite(CommandLine& line, long long number);
+ExitStatus renameFavorite(CommandLine& line, long long number, const std::string& name);
+/// The favourite becomes number `to`.
+ExitStatus moveFavorite(CommandLine& line, long long from, long long to);
+/// On standard output, as GPX when no format is given, or to a file that is not there yet.
+ExitStatus exportFavoritesTo(CommandLine& line, const std::optional<std::string>& format,
+                             const std::optional<std::string>& file);
+ExitStatus importFavoritesFrom(CommandLine& line, const std::string& file);
 
 /// Everything that stands in the whitelist file.
 ExitStatus listWhitelist(CommandLine& line);

@@ -4,6 +4,7 @@
 #include "cli/PlaceArgument.h"
 #include "cli/Table.h"
 #include "fixed/FixedLocation.h"
+#include "lists/FavoriteFiles.h"
 #include "lists/Favorites.h"
 #include "settings/ModeSwitch.h"
 #include "settings/TextConversions.h"
@@ -93,6 +94,15 @@ Result<Coordinate> fixedPosition(CommandLine& line) {
   return failed("no position was chosen yet: give one, as in 'favorites add Home 57.7,12'");
 }
 
+nlohmann::json exportJson(const ExportedFavorites& exported) {
+  return {{"exported", exported.places.size()}, {"leftOut", exported.leftOut}};
+}
+
+void warnOfLeftOut(CommandLine& line, const ExportedFavorites& exported) {
+  if (exported.leftOut == 0) return;
+  line.warn(std::to_string(exported.leftOut) + " without a position on the globe left out");
+}
+
 }  // namespace
 
 ExitStatus listFavorites(CommandLine& line) {
@@ -120,6 +130,51 @@ ExitStatus removeFavorite(CommandLine& line, long long number) {
   return show(line, changeFavorite(line, number, [](Favorites& favorites, std::size_t index) {
                 return favorites.removeAt(index);
               }));
+}
+
+ExitStatus renameFavorite(CommandLine& line, long long number, const std::string& name) {
+  return show(line, changeFavorite(line, number, [&](Favorites& favorites, std::size_t index) {
+                return favorites.rename(index, name);
+              }));
+}
+
+ExitStatus moveFavorite(CommandLine& line, long long from, long long to) {
+  return show(line, changeFavorite(line, from, [&](Favorites& favorites, std::size_t index) {
+                if (const auto why = refusal(favorites, to)) return Status(failed(*why));
+                return favorites.move(index, static_cast<std::size_t>(to) - 1);
+              }));
+}
+
+ExitStatus exportFavoritesTo(CommandLine& line, const std::optional<std::string>& format,
+                             const std::optional<std::string>& file) {
+  const auto favorites = load(line);
+  if (!favorites) return line.fail(favorites.failure());
+  auto chosen = format ? waypointFormatNamed(*format) : std::nullopt;
+  if (!file) {
+    chosen = chosen.value_or(WaypointFormat::Gpx);
+    const ExportedFavorites exported = exportedFavorites(*favorites);
+    warnOfLeftOut(line, exported);
+    std::string document = writeWaypoints(exported.places, *chosen);
+    nlohmann::json json = exportJson(exported);
+    json["document"] = document;
+    document.pop_back();  // The answer ends its line itself.
+    return line.answer({std::move(document), std::move(json)});
+  }
+  const auto exported = exportFavorites(*favorites, *file, chosen);
+  if (!exported) return line.fail(exported.failure());
+  warnOfLeftOut(line, *exported);
+  return line.answer(
+      {std::to_string(exported->places.size()) + " exported", exportJson(*exported)});
+}
+
+ExitStatus importFavoritesFrom(CommandLine& line, const std::string& file) {
+  auto favorites = load(line);
+  if (!favorites) return line.fail(favorites.failure());
+  const auto imported = importFavorites(*favorites, file, kUnnamed);
+  if (!imported) return line.fail(imported.failure());
+  return line.answer({std::to_string(imported->added) + " added, " +
+                          std::to_string(imported->skipped) + " skipped",
+                      {{"added", imported->added}, {"skipped", imported->skipped}}});
 }
 
 ExitStatus chooseFavorite(CommandLine& line, long long number) {

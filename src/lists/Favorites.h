@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -9,12 +10,13 @@
 #include "settings/PropertyList.h"
 #include "settings/Result.h"
 #include "settings/SettingsFiles.h"
+#include "tracks/Waypoint.h"
 
 namespace wayloom {
 
-/// The favourites file: named places in the order of adding. The list is a copy of the file; each
-/// change is made to the file as it is at that moment, and the copy then shows the result. A change
-/// that fails changes neither. Main thread only.
+/// The favourites file: named places in the user's order, which is that of adding at first. The
+/// list is a copy of the file; each change is made to the file as it is at that moment, and the
+/// copy then shows the result. A change that fails changes neither. Main thread only.
 class Favorites {
  public:
   /// `files` must outlive this object.
@@ -36,12 +38,32 @@ class Favorites {
   /// Appends a place. A name of blanks only becomes `unnamed`.
   [[nodiscard]] Status add(std::string_view name, Coordinate coordinate, std::string_view unnamed);
 
+  /// What became of many places.
+  struct Added {
+    std::size_t added = 0;
+    /// Those that the list had before, with the same name at the same place.
+    std::size_t skipped = 0;
+  };
+  /// Appends places in one writing; nothing is written when the list has them all. One without a
+  /// name becomes `unnamed`.
+  [[nodiscard]] Result<Added> addAll(const Waypoints& places, std::string_view unnamed);
+
   // The rest goes by the list as last read; indices must be in range.
+
+  /// Where an entry stands, looked for at `index` first; none when the list has it no more.
+  std::optional<std::size_t> find(const PropertyList& entry, std::size_t index) const;
 
   /// Takes an entry out, wherever the file has it now. One that the file has no more is no failure.
   [[nodiscard]] Status removeAt(std::size_t index);
   /// Puts an entry back, behind the last if the list has become shorter.
   [[nodiscard]] Status insertAt(std::size_t index, PropertyList entry);
+
+  /// Gives an entry another name, wherever the file has it now. It fails when the file has it no
+  /// more as it was, and when nothing but blanks is left of the name.
+  [[nodiscard]] Status rename(std::size_t index, std::string_view name);
+  /// Puts an entry where it is number `to` of the list without it: behind the entry that is before
+  /// it then, wherever the file has that now. It fails when the file has the entry no more.
+  [[nodiscard]] Status move(std::size_t from, std::size_t to);
 
   /// Makes an entry the fixed location: turned on, at the entry's coordinates as they are stored.
   /// A coordinate that the entry lacks is taken out of the location file, and while the position
@@ -50,7 +72,7 @@ class Favorites {
   [[nodiscard]] Status choose(std::size_t index);
 
  private:
-  [[nodiscard]] Status change(const std::function<void(PropertyList::Array&)>& edit);
+  [[nodiscard]] Status change(const std::function<Status(PropertyList::Array&)>& edit);
 
   SettingsFiles& mFiles;
   PropertyList::Array mEntries;

@@ -24,7 +24,8 @@ class FavoritesModel : public QAbstractListModel {
   /// The name as a row shows it: one line, cut where no row is so wide.
   QString name(int row) const;
 
-  /// Shows the list as it is now. A row that came or went is announced as such.
+  /// Shows the list as it is now. What came, went or moved in one place is announced as
+  /// such.
   void update();
 
  private:

@@ -3,14 +3,36 @@
 #include <algorithm>
 #include <chrono>
 
+#include <QtCore/QDir>
+#include <QtCore/QStandardPaths>
+#include <QtCore/QUrl>
+
 #include "kit/FailureText.h"
 #include "kit/LocalizedText.h"
+#include "lists/FavoriteFiles.h"
 
 namespace wayloom {
 
 namespace {
 
 constexpr std::chrono::seconds kUndoDuration{8};
+
+/// The text with the name in its gap; isolated, a name that turns the writing's direction leaves
+/// the rest as it is.
+QString aboutName(const QString& text, const QString& name) {
+  return text.arg(QChar(0x2068) + name + QChar(0x2069));
+}
+
+Phrase::Number counted(std::size_t count) {
+  return {static_cast<double>(count), 0};
+}
+
+std::filesystem::path pathOf(const QString& file) {
+  const QString text = file.trimmed();
+  if (text.startsWith(u"file:")) return QUrl(text).toLocalFile().toStdString();
+  const bool isInHome = text == u"~" || text.startsWith(u"~/");
+  return (isInHome ? QDir::homePath() + text.mid(1) : text).toStdString();
+}
 
 }  // namespace
 
@@ -27,16 +49,19 @@ FavoritesViewController::FavoritesViewController(SettingsFiles& files, Favorites
   mUndoEnd.setSingleShot(true);
   mUndoEnd.setInterval(kUndoDuration);
   connect(&mUndoEnd, &QTimer::timeout, this, [this] {
-    mDeleted.clear();
+    mSteps.clear();
     Q_EMIT undoChanged();
   });
 }
 
 void FavoritesViewController::followFiles() {
-  if (!mFavorites.isCurrent()) report(mFavorites.load());
+  if (mFavorites.isCurrent()) return;
+  report(mFavorites.load());
+  followRenamed();
 }
 
 void FavoritesViewController::edit() {
+  commitName();
   // Unlike the first title, these two stay as they are in every language.
   mEditTitle = mEditing ? QStringLiteral("Edit") : QStringLiteral("Done");
   mEditing = !mEditing;
@@ -45,7 +70,15 @@ void FavoritesViewController::edit() {
 }
 
 void FavoritesViewController::didSelectRow(int row) {
-  if (!isRow(row) || mEditing) return;
+  if (!isRow(row)) return;
+  if (mEditing) {
+    commitName();
+    if (!isRow(row)) return;
+    mRenamed = Renamed{row, mFavorites.entries()[static_cast<std::size_t>(row)], mModel.name(row)};
+    setTypedName(mRenamed->name);
+    Q_EMIT renamedRowChanged();
+    return;
+  }
   if (!report(mFavorites.choose(static_cast<std::size_t>(row)))) return;
   done();
   mDelegate.favoritesDidSelected();
@@ -54,20 +87,31 @@ void FavoritesViewController::didSelectRow(int row) {
 void FavoritesViewController::deleteRow(int row) {
   if (!isRow(row)) return;
   const auto index = static_cast<std::size_t>(row);
-  Deleted deleted{row, mFavorites.entries()[index], mModel.name(row)};
-  if (!report(mFavorites.removeAt(index))) return;
-  mDeleted.push_back(std::move(deleted));
+  const QString text = aboutName(localizedText("Deleted “%1”"), mModel.name(row));
+  Step step{row, std::nullopt, mFavorites.entries()[index], text};
+  if (report(mFavorites.removeAt(index))) addStep(std::move(step));
+}
+
+void FavoritesViewController::moveRow(int row, int to) {
+  if (!isRow(row) || !isRow(to) || row == to) return;
+  const auto index = static_cast<std::size_t>(row);
+  const QString text = aboutName(localizedText("Moved “%1”"), mModel.name(row));
+  Step step{row, to, mFavorites.entries()[index], text};
+  if (report(mFavorites.move(index, static_cast<std::size_t>(to)))) addStep(std::move(step));
+}
+
+void FavoritesViewController::addStep(Step step) {
+  followRenamed();
+  mSteps.push_back(std::move(step));
   mUndoEnd.start();
   Q_EMIT undoChanged();
 }
 
-void FavoritesViewController::undoDelete() {
-  if (!undoShown()) return;
-  const Deleted& last = mDeleted.back();
-  const auto place = std::min(static_cast<std::size_t>(last.row), mFavorites.entries().size());
-  if (!report(mFavorites.insertAt(place, last.entry))) return;
-  mDeleted.pop_back();
-  if (mDeleted.empty()) {
+void FavoritesViewController::undo() {
+  if (!undoShown() || !report(takeBack(mSteps.back()))) return;
+  followRenamed();
+  mSteps.pop_back();
+  if (mSteps.empty()) {
     mUndoEnd.stop();
   } else {
     mUndoEnd.start();
@@ -75,11 +119,83 @@ void FavoritesViewController::undoDelete() {
   Q_EMIT undoChanged();
 }
 
+Status FavoritesViewController::takeBack(const Step& step) {
+  const std::size_t count = mFavorites.entries().size();
+  const auto row = static_cast<std::size_t>(step.row);
+  if (!step.to) return mFavorites.insertAt(std::min(row, count), step.entry);
+  const auto there = mFavorites.find(step.entry, static_cast<std::size_t>(*step.to));
+  // What was deleted meanwhile has no place to go back to.
+  return there ? mFavorites.move(*there, std::min(row, count - 1)) : wayloom::done();
+}
+
+void FavoritesViewController::setTypedName(const QString& name) {
+  if (name == mTypedName) return;
+  mTypedName = name;
+  Q_EMIT typedNameChanged();
+}
+
+void FavoritesViewController::commitName() {
+  if (!mRenamed) return;
+  const auto row = static_cast<std::size_t>(mRenamed->row);
+  const bool isSame = mTypedName == mRenamed->name;
+  mRenamed.reset();
+  if (!isSame) report(mFavorites.rename(row, mTypedName.toStdString()));
+  Q_EMIT renamedRowChanged();
+}
+
+void FavoritesViewController::cancelName() {
+  mRenamed.reset();
+  Q_EMIT renamedRowChanged();
+}
+
+void FavoritesViewController::followRenamed() {
+  if (!mRenamed) return;
+  const auto row = mFavorites.find(mRenamed->entry, static_cast<std::size_t>(mRenamed->row));
+  if (row) {
+    mRenamed->row = static_cast<int>(*row);
+  } else {
+    mRenamed.reset();
+    say(localizedText("It was changed elsewhere meanwhile"), true);
+  }
+  Q_EMIT renamedRowChanged();
+}
+
+void FavoritesViewController::importFile(const QString& file) {
+  commitName();
+  const auto added =
+      importFavorites(mFavorites, pathOf(file), localizedText("Unknow").toStdString());
+  if (!report(added.status())) return;
+  say(localizedText(Phrase{"%1 added, %2 were there before",
+                           {counted(added->added), counted(added->skipped)}}),
+      false);
+}
+
+void FavoritesViewController::exportFile(const QString& file) {
+  commitName();
+  const auto exported = exportFavorites(mFavorites, pathOf(file));
+  if (!report(exported.status())) return;
+  const auto written = counted(exported->places.size());
+  say(exported->leftOut == 0 ? localizedText(Phrase{"%1 exported", {written}})
+                             : localizedText(Phrase{"%1 exported, %2 without a position left out",
+                                                    {written, counted(exported->leftOut)}}),
+      exported->leftOut > 0);
+}
+
+QString FavoritesViewController::suggestedFile() const {
+  const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  return documents + QStringLiteral("/favorites.gpx");
+}
+
 bool FavoritesViewController::report(const Status& status) {
   mModel.update();
-  mStatusText = failureText(status);
-  Q_EMIT statusTextChanged();
+  say(failureText(status), true);
   return static_cast<bool>(status);
+}
+
+void FavoritesViewController::say(const QString& text, bool isFailure) {
+  mStatusText = text;
+  mStatusIsFailure = isFailure;
+  Q_EMIT statusTextChanged();
 }
 
 }  // namespace wayloom

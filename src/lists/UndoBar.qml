@@ -1,11 +1,11 @@
 import QtQuick
 import Wayloom.Kit
 
-// For a few seconds after a deletion: what was deleted, and the way back.
+// For a few seconds after a change: what was changed, and the way back.
 Rectangle {
     id: bar
 
-    property string deletedName: ""
+    property alias text: label.text
     property bool shown: false
 
     signal undone()
@@ -33,8 +33,6 @@ Rectangle {
         anchors.right: undoButton.left
         anchors.margins: FlatPalette.margin
         anchors.verticalCenter: parent.verticalCenter
-        // Isolated, a name that turns the writing's direction leaves the rest as it is.
-        text: qsTranslate("Wayloom", "Deleted “%1”").arg("\u2068" + bar.deletedName + "\u2069")
         color: FlatPalette.clouds
         font.pixelSize: FlatPalette.bodySize
         elide: Text.ElideRight

@@ -47,5 +47,84 @@ TEST(FavoritesTest, ChoosingKeepsOtherKeysOnlyWhileThePositionWasOn) {
   }
 }
 
+PropertyList place(const std::string& name) {
+  return Dictionary{{"name", name}, {"latitude", "1.000000"}, {"longitude", "2.000000"}};
+}
+
+std::string names(const std::optional<PropertyList::Array>& entries) {
+  std::string all;
+  for (const PropertyList& entry : entries.value_or(PropertyList::Array())) {
+    all += Favorites::nameOf(entry);
+  }
+  return all;
+}
+
+/// A list that was read, and the file that somebody else changed since.
+class ChangedFavoritesTest : public testing::Test {
+ protected:
+  void begin(const std::string& read, const std::string& now) {
+    save(read);
+    ASSERT_TRUE(favorites.load());
+    save(now);
+  }
+  void save(const std::string& all) {
+    PropertyList::Array entries;
+    for (const char c : all) entries.push_back(place(std::string(1, c)));
+    ASSERT_TRUE(files.save(SettingsFile::Favorites, entries));
+  }
+  std::string stored() const { return names(arrayIn(files, SettingsFile::Favorites)); }
+
+  TemporaryRoot root;
+  SettingsFiles files{root.path()};
+  Favorites favorites{files};
+};
+
+TEST_F(ChangedFavoritesTest, MovingKeepsWhatIsInTheFileNow) {
+  const struct {
+    const char* read;
+    const char* now;
+    std::size_t from, to;
+    const char* stored;
+  } cases[] = {
+      {"abcd", "abcd", 0, 3, "bcda"},     {"abcd", "abcd", 3, 0, "dabc"},
+      {"abcd", "abcd", 1, 2, "acbd"},     {"abcd", "abcd", 2, 2, "abcd"},
+      {"abcd", "abcdef", 3, 1, "adbcef"}, {"abcd", "xabcd", 0, 2, "xbcad"},
+      {"abcd", "abd", 0, 2, "bda"},       {"abcd", "cd", 3, 2, "cd"},
+  };
+  for (const auto& test : cases) {
+    begin(test.read, test.now);
+    ASSERT_TRUE(favorites.move(test.from, test.to)) << test.read << ' ' << test.now;
+    EXPECT_EQ(stored(), test.stored) << test.read << ' ' << test.now;
+    EXPECT_EQ(names(favorites.entries()), test.stored);
+  }
+}
+
+TEST_F(ChangedFavoritesTest, WhatIsGoneIsNeitherRenamedNorMoved) {
+  begin("abc", "xbc");
+  EXPECT_THAT(favorites.rename(0, "new").message(), testing::HasSubstr("elsewhere"));
+  EXPECT_EQ(names(favorites.entries()), "xbc") << "the list shows what is there";
+  begin("abc", "xbc");
+  EXPECT_THAT(favorites.move(0, 2).message(), testing::HasSubstr("elsewhere"));
+  EXPECT_EQ(stored(), "xbc");
+  begin("abc", "yabc");
+  EXPECT_FALSE(favorites.rename(0, " \n"));
+  ASSERT_TRUE(favorites.rename(0, " new "));
+  EXPECT_EQ(stored(), "ynewbc");
+}
+
+TEST_F(ChangedFavoritesTest, AddsManyAtOnceWithoutThoseItHas) {
+  begin("", "a");
+  const Waypoints places{{"a", {1, 2}},   {"a", {1.0000004, 2}}, {"a", {1.000001, 2}},
+                         {" b ", {1, 2}}, {"b", {1, 2}},         {" ", {3, 4}}};
+  auto added = favorites.addAll(places, "Unknow");
+  ASSERT_TRUE(added) << added.message();
+  EXPECT_EQ(added->added, 3U);
+  EXPECT_EQ(added->skipped, 3U);
+  EXPECT_EQ(stored(), "aabUnknow");
+  const auto before = files.currentVersion(SettingsFile::Favorites);
+  EXPECT_EQ(favorites.addAll(places, "Unknow")->added, 0U);
+  EXPECT_EQ(files.currentVersion(SettingsFile::Favorites), before) << "nothing is written";
+}
+
 }  // namespace
 }  // namespace wayloom

@@ -13,7 +13,8 @@ _wayloomctl_words() {
     "route where") echo "--at" ;;
     favorites) echo "list add remove choose rename move export import" ;;
     "favorites export"*) echo "--format" ;;
-    whitelist) echo "list toggle" ;;
+    whitelist) echo "list toggle set" ;;
+    "whitelist set") echo "list save use remove" ;;
     search*) echo "--near --limit --suggest" ;;
     region) echo "list import remove" ;;
     "region import"*) echo "--name" ;;

@@ -2,6 +2,7 @@
 #include "cli/Table.h"
 #include "lists/ApplicationList.h"
 #include "lists/Whitelist.h"
+#include "lists/WhitelistSets.h"
 #include "platform/HomeScreen.h"
 
 namespace wayloom {
@@ -54,6 +55,36 @@ ExitStatus toggleWhitelist(CommandLine& line, const std::string& identifier) {
   if (!whitelist) return line.fail(whitelist.failure());
   const bool ticked = whitelist->isTicked(identifier);
   return line.answer({tableRow({tickText(ticked), identifier}), entryJson(ticked, identifier)});
+}
+
+ExitStatus listWhitelistSets(CommandLine& line) {
+  const auto sets = WhitelistSets().all();
+  if (!sets) return line.fail(sets.failure());
+  Table table;
+  for (const WhitelistSets::Set& set : *sets) {
+    table.add({std::to_string(set.count), set.name}, {{"name", set.name}, {"ticked", set.count}});
+  }
+  return line.answer(
+      std::move(table).orNote("no sets; keep the ticks with 'whitelist set save NAME'"));
+}
+
+ExitStatus saveWhitelistSet(CommandLine& line, const std::string& name) {
+  const auto whitelist = load(line);
+  if (!whitelist) return line.fail(whitelist.failure());
+  const Status saved = WhitelistSets().save(name, *whitelist);
+  return saved ? listWhitelistSets(line) : line.fail(saved.failure());
+}
+
+ExitStatus useWhitelistSet(CommandLine& line, const std::string& name) {
+  auto whitelist = load(line);
+  if (!whitelist) return line.fail(whitelist.failure());
+  const Status used = WhitelistSets().use(name, *whitelist);
+  return used ? listWhitelist(line) : line.fail(used.failure());
+}
+
+ExitStatus removeWhitelistSet(CommandLine& line, const std::string& name) {
+  const Status removed = WhitelistSets().remove(name);
+  return removed ? listWhitelistSets(line) : line.fail(removed.failure());
 }
 
 ExitStatus listApplications(CommandLine& line) {

@@ -160,6 +160,22 @@ void addApplicationCommands(CLI::App& app, Typed& typed) {
   toggle->callback([&typed] {
     typed.command = [&typed](CommandLine& line) { return toggleWhitelist(line, typed.text); };
   });
+
+  auto* set = whitelist->add_subcommand("set", "Ticks that are kept under names");
+  set->require_subcommand(1);
+  set->add_subcommand("list", "List the sets: how many they tick, name")->callback([&typed] {
+    typed.command = listWhitelistSets;
+  });
+  const auto addNamed = [&](const char* verb, const char* help, auto command) {
+    auto* named = set->add_subcommand(verb, help);
+    named->add_option("NAME", typed.name)->required();
+    named->callback([&typed, command] {
+      typed.command = [&typed, command](CommandLine& line) { return command(line, typed.name); };
+    });
+  };
+  addNamed("save", "Keep the ticks as they are under NAME", saveWhitelistSet);
+  addNamed("use", "Tick what the set ticks, and nothing else", useWhitelistSet);
+  addNamed("remove", "Delete a set; the ticks stay", removeWhitelistSet);
 }
 
 void addPlaceCommands(CLI::App& app, Typed& typed) {

@@ -42,6 +42,11 @@ ExitStatus importFavoritesFrom(CommandLine& line, const std::string& file);
 ExitStatus listWhitelist(CommandLine& line);
 /// Turns the tick of one application over, installed here or not.
 ExitStatus toggleWhitelist(CommandLine& line, const std::string& identifier);
+/// Ticks that were kept under names.
+ExitStatus listWhitelistSets(CommandLine& line);
+ExitStatus saveWhitelistSet(CommandLine& line, const std::string& name);
+ExitStatus useWhitelistSet(CommandLine& line, const std::string& name);
+ExitStatus removeWhitelistSet(CommandLine& line, const std::string& name);
 /// The installed applications with their ticks.
 ExitStatus listApplications(CommandLine& line);
 

@@ -14,6 +14,8 @@ T.SwipeDelegate {
     /// The name is being typed.
     property bool renaming: false
     property alias typedName: nameField.text
+    /// It has been moved aside, all or some of the way.
+    readonly property bool open: swipe.position !== 0
     /// How far from its place it is drawn, while rows are sorted.
     property real shift: 0
     property bool shiftAnimated: false
@@ -127,7 +129,8 @@ T.SwipeDelegate {
                     if (!visible)
                         return
                     forceActiveFocus()
-                    selectAll()
+                    if (text === row.name)
+                        selectAll()
                 }
                 onTextEdited: row.typed(text)
                 onEditingFinished: if (row.renaming) row.finished()

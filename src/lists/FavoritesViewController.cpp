@@ -56,8 +56,17 @@ FavoritesViewController::FavoritesViewController(SettingsFiles& files, Favorites
 
 void FavoritesViewController::followFiles() {
   if (mFavorites.isCurrent()) return;
+  // While rows come and go, none has the field.
+  std::optional<Renamed> renamed;
+  std::swap(renamed, mRenamed);
+  if (renamed) Q_EMIT renamedRowChanged();
   report(mFavorites.load());
-  followRenamed();
+  if (!renamed) return;
+  const auto row = mFavorites.find(renamed->entry, static_cast<std::size_t>(renamed->row));
+  if (!row) return say(localizedText("It was changed elsewhere meanwhile"), true);
+  renamed->row = static_cast<int>(*row);
+  mRenamed = std::move(renamed);
+  Q_EMIT renamedRowChanged();
 }
 
 void FavoritesViewController::edit() {
@@ -70,46 +79,59 @@ void FavoritesViewController::edit() {
 }
 
 void FavoritesViewController::didSelectRow(int row) {
-  if (!isRow(row)) return;
+  const auto index = settledRow(row);
+  if (!index) return;
   if (mEditing) {
-    commitName();
-    if (!isRow(row)) return;
-    mRenamed = Renamed{row, mFavorites.entries()[static_cast<std::size_t>(row)], mModel.name(row)};
+    const int shown = static_cast<int>(*index);
+    mRenamed = Renamed{shown, mFavorites.entries()[*index], mModel.name(shown)};
     setTypedName(mRenamed->name);
     Q_EMIT renamedRowChanged();
     return;
   }
-  if (!report(mFavorites.choose(static_cast<std::size_t>(row)))) return;
+  if (!report(mFavorites.choose(*index))) return;
   done();
   mDelegate.favoritesDidSelected();
 }
 
 void FavoritesViewController::deleteRow(int row) {
-  if (!isRow(row)) return;
-  const auto index = static_cast<std::size_t>(row);
-  const QString text = aboutName(localizedText("Deleted “%1”"), mModel.name(row));
-  Step step{row, std::nullopt, mFavorites.entries()[index], text};
-  if (report(mFavorites.removeAt(index))) addStep(std::move(step));
+  if (row == renamedRow()) cancelName();
+  const auto index = settledRow(row);
+  if (!index) return;
+  const int shown = static_cast<int>(*index);
+  const QString text = aboutName(localizedText("Deleted “%1”"), mModel.name(shown));
+  Step step{shown, std::nullopt, mFavorites.entries()[*index], text};
+  if (report(mFavorites.removeAt(*index))) addStep(std::move(step));
 }
 
 void FavoritesViewController::moveRow(int row, int to) {
-  if (!isRow(row) || !isRow(to) || row == to) return;
+  if (!isRow(to) || row == to) return;
+  const auto index = settledRow(row);
+  if (!index || !isRow(to)) return;
+  const int shown = static_cast<int>(*index);
+  const QString text = aboutName(localizedText("Moved “%1”"), mModel.name(shown));
+  Step step{shown, to, mFavorites.entries()[*index], text};
+  if (report(mFavorites.move(*index, static_cast<std::size_t>(to)))) addStep(std::move(step));
+}
+
+std::optional<std::size_t> FavoritesViewController::settledRow(int row) {
+  if (!isRow(row)) return std::nullopt;
   const auto index = static_cast<std::size_t>(row);
-  const QString text = aboutName(localizedText("Moved “%1”"), mModel.name(row));
-  Step step{row, to, mFavorites.entries()[index], text};
-  if (report(mFavorites.move(index, static_cast<std::size_t>(to)))) addStep(std::move(step));
+  if (!mRenamed) return index;
+  if (row == mRenamed->row) return endRenaming() ? std::optional(index) : std::nullopt;
+  const PropertyList entry = mFavorites.entries()[index];
+  commitName();
+  return mFavorites.find(entry, index);
 }
 
 void FavoritesViewController::addStep(Step step) {
-  followRenamed();
   mSteps.push_back(std::move(step));
   mUndoEnd.start();
   Q_EMIT undoChanged();
 }
 
 void FavoritesViewController::undo() {
+  commitName();
   if (!undoShown() || !report(takeBack(mSteps.back()))) return;
-  followRenamed();
   mSteps.pop_back();
   if (mSteps.empty()) {
     mUndoEnd.stop();
@@ -135,28 +157,22 @@ void FavoritesViewController::setTypedName(const QString& name) {
 }
 
 void FavoritesViewController::commitName() {
-  if (!mRenamed) return;
+  endRenaming();
+}
+
+bool FavoritesViewController::endRenaming() {
+  if (!mRenamed) return true;
   const auto row = static_cast<std::size_t>(mRenamed->row);
   const bool isSame = mTypedName == mRenamed->name;
   mRenamed.reset();
-  if (!isSame) report(mFavorites.rename(row, mTypedName.toStdString()));
+  const bool isDone = isSame || report(mFavorites.rename(row, mTypedName.toStdString()));
   Q_EMIT renamedRowChanged();
+  return isDone;
 }
 
 void FavoritesViewController::cancelName() {
-  mRenamed.reset();
-  Q_EMIT renamedRowChanged();
-}
-
-void FavoritesViewController::followRenamed() {
   if (!mRenamed) return;
-  const auto row = mFavorites.find(mRenamed->entry, static_cast<std::size_t>(mRenamed->row));
-  if (row) {
-    mRenamed->row = static_cast<int>(*row);
-  } else {
-    mRenamed.reset();
-    say(localizedText("It was changed elsewhere meanwhile"), true);
-  }
+  mRenamed.reset();
   Q_EMIT renamedRowChanged();
 }
 

@@ -111,8 +111,11 @@ class FavoritesViewController : public wayloom::ModalViewController {
     PropertyList entry;
     QString name;
   };
-  /// Follows the entry to its row, or ends the renaming when it is gone.
-  void followRenamed();
+  /// False when the typed name could not be given.
+  bool endRenaming();
+  /// Ends a renaming before something else is done to a row; none when there is no such row, or it
+  /// was lost in doing so.
+  std::optional<std::size_t> settledRow(int row);
   std::optional<Renamed> mRenamed;
   QString mTypedName;
 

@@ -8,7 +8,7 @@ FocusScope {
 
     required property Screens.FavoritesViewController controller
 
-    /// The row whose delete button is in view.
+    /// The row that has been moved aside.
     property Item openRow: null
 
     function closed(row: Item) {
@@ -85,6 +85,8 @@ FocusScope {
 
         // qmllint disable unqualified
         delegate: FavoriteRow {
+            id: favoriteRow
+
             width: ListView.view.width
             z: index === sorter.dragged ? 1 : 0
             editing: root.controller.editing
@@ -95,19 +97,23 @@ FocusScope {
             shiftAnimated: sorter.dragged >= 0 && index !== sorter.dragged
             onClicked: root.controller.didSelectRow(index)
             onDeleted: {
-                root.openRow = null
+                swipe.close()
                 root.controller.deleteRow(index)
             }
             onTyped: name => root.controller.typedName = name
             onFinished: root.controller.commitName()
             onCancelled: root.controller.cancelName()
-            swipe.onOpened: root.openRow = this
-            swipe.onClosed: root.closed(this)
+            onOpenChanged: {
+                if (open)
+                    root.openRow = favoriteRow
+                else
+                    root.closed(favoriteRow)
+            }
             ListView.onPooled: {
                 swipe.close()
-                root.closed(this)
+                root.closed(favoriteRow)
             }
-            Component.onDestruction: root.closed(this)
+            Component.onDestruction: root.closed(favoriteRow)
         }
         // qmllint enable unqualified
         removeDisplaced: Transition { NumberAnimation { property: "y"; duration: 150 } }
@@ -225,7 +231,6 @@ FocusScope {
             mouse.accepted = open !== null && !within
             if (mouse.accepted) {
                 open.swipe.close()
-                root.openRow = null
             } else if (!open && !root.isInName(mouse.x, mouse.y)) {
                 Qt.inputMethod.commit()
                 root.controller.commitName()

@@ -16,7 +16,7 @@ MouseArea {
 
     signal moved(row: int, to: int)
 
-    readonly property real top: dragged * FlatPalette.rowHeight
+    readonly property real restingY: dragged * FlatPalette.rowHeight
 
     /// How far a row steps aside.
     function shiftOf(row: int): real {
@@ -33,7 +33,7 @@ MouseArea {
         const last = list.count - 1
         const y = list.contentY - list.originY + mouseY - grip
         const held = Math.max(0, Math.min(y, last * FlatPalette.rowHeight))
-        offset = held - top
+        offset = held - restingY
         target = Math.round(held / FlatPalette.rowHeight)
     }
 

@@ -18,12 +18,36 @@ bool Whitelist::isTicked(std::string_view bundle) const {
 }
 
 Status Whitelist::toggle(const std::string& bundle) {
+  return change([&](PropertyList::Dictionary& entries) {
+    entries.insert_or_assign(bundle, !isTicked(bundle));
+  });
+}
+
+std::set<std::string, std::less<>> Whitelist::ticked() const {
+  std::set<std::string, std::less<>> bundles;
+  for (const auto& [bundle, value] : mEntries) {
+    if (boolValue(&value)) bundles.insert(bundle);
+  }
+  return bundles;
+}
+
+Status Whitelist::tickOnly(const std::set<std::string, std::less<>>& bundles) {
+  return change([&](PropertyList::Dictionary& entries) {
+    for (auto& [bundle, value] : entries) {
+      const bool isTicked = bundles.contains(bundle);
+      if (boolValue(&value) != isTicked) value = isTicked;
+    }
+    for (const std::string& bundle : bundles) entries.try_emplace(bundle, true);
+  });
+}
+
+Status Whitelist::change(const std::function<void(PropertyList::Dictionary&)>& edit) {
   const auto turn = mFiles.takeTurn();
   if (!turn) return turn.failure();
   auto current = mFiles.loadDictionary(SettingsFile::Whitelist);
   if (!current) return current.failure();
   PropertyList::Dictionary entries = std::move(*current).value_or(PropertyList::Dictionary());
-  entries.insert_or_assign(bundle, !isTicked(bundle));
+  edit(entries);
   Status saved = mFiles.save(SettingsFile::Whitelist, entries);
   if (saved) mEntries = std::move(entries);
   if (saved) mVersion = mFiles.seenVersion(SettingsFile::Whitelist);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -31,7 +33,15 @@ class Whitelist {
   /// entries as they are there. An identifier never leaves it. A failure changes nothing.
   [[nodiscard]] Status toggle(const std::string& bundle);
 
+  /// The identifiers that are ticked, as the list has it.
+  std::set<std::string, std::less<>> ticked() const;
+  /// Ticks these applications and no others, and writes the whole file. As with a touch, an
+  /// identifier never leaves it, and an entry that already says so stays as it is.
+  [[nodiscard]] Status tickOnly(const std::set<std::string, std::less<>>& bundles);
+
  private:
+  [[nodiscard]] Status change(const std::function<void(PropertyList::Dictionary&)>& edit);
+
   SettingsFiles& mFiles;
   PropertyList::Dictionary mEntries;
   std::optional<FileVersion> mVersion;

@@ -18,7 +18,21 @@ fs::path homeFolder(const EnvironmentLookup& lookup) {
   return user != nullptr && user->pw_dir != nullptr ? user->pw_dir : "/";
 }
 
+const char* processLookup(const char* name) {
+  return std::getenv(name);
+}
+
 }  // namespace
+
+fs::path ownDataFolder(const EnvironmentLookup& lookup) {
+  const char* const dataFolder = lookup("XDG_DATA_HOME");
+  const bool isAbsolute = dataFolder != nullptr && *dataFolder == '/';
+  return (isAbsolute ? fs::path(dataFolder) : homeFolder(lookup) / ".local/share") / "wayloom";
+}
+
+fs::path ownDataFolder() {
+  return ownDataFolder(processLookup);
+}
 
 fs::path settingsRoot(const std::optional<fs::path>& fromArgument,
                       const EnvironmentLookup& lookup) {
@@ -29,14 +43,11 @@ fs::path settingsRoot(const std::optional<fs::path>& fromArgument,
   if (root != nullptr && *root != '\0') {
     return root;
   }
-  const char* const dataFolder = lookup("XDG_DATA_HOME");
-  const bool isAbsolute = dataFolder != nullptr && *dataFolder == '/';
-  const fs::path data = isAbsolute ? fs::path(dataFolder) : homeFolder(lookup) / ".local/share";
-  return data / "wayloom/phone";
+  return ownDataFolder(lookup) / "phone";
 }
 
 fs::path settingsRoot(const std::optional<fs::path>& fromArgument) {
-  return settingsRoot(fromArgument, [](const char* name) { return std::getenv(name); });
+  return settingsRoot(fromArgument, processLookup);
 }
 
 }  // namespace wayloom

@@ -39,6 +39,30 @@ TEST_F(ApplicationCommandsTest, TogglesAndLists) {
     {"identifier": "zoo.desktop", "ticked": true}])"));
 }
 
+TEST_F(ApplicationCommandsTest, SetsKeepTicksUnderNames) {
+  EXPECT_THAT(run("whitelist set list").out, HasSubstr("no sets"));
+  const Dictionary some{{"a", true}, {"b", "1"}, {"c", false}, {"d", "0"}};
+  ASSERT_TRUE(files.save(SettingsFile::Whitelist, some));
+  EXPECT_EQ(run("whitelist set save ' Work '").out, "2\tWork\n");
+  run("whitelist toggle a");
+  run("whitelist toggle e");
+  EXPECT_EQ(run("whitelist set save home").out, "2\tWork\n2\thome\n");
+  ASSERT_EQ(run("whitelist set use Work").status, 0);
+  EXPECT_EQ(stored(), (Dictionary{{"a", true}, {"b", "1"}, {"c", false}, {"d", "0"}, {"e", false}}))
+      << "no identifier leaves the file, and what is right already stays as it is";
+  ASSERT_TRUE(files.save(SettingsFile::Whitelist, Dictionary{{"b", true}, {"z", 1}}));
+  EXPECT_EQ(run("whitelist set use home").out, "yes\tb\nyes\te\nno\tz\n");
+  EXPECT_EQ(run("whitelist set remove home").out, "2\tWork\n");
+  for (const std::string command :
+       {"use home", "remove home", "save ' '", "save \"$(printf 'a\\001')\""}) {
+    EXPECT_EQ(run("whitelist set " + command).status, 1) << command;
+  }
+  const auto sets = root.path() / "data/wayloom/whitelist-sets.plist";
+  writeBytes(sets, "damaged");
+  EXPECT_EQ(run("whitelist set save new").out, "2\tnew\n");
+  EXPECT_EQ(bytesOf(sets.string() + ".damaged-1"), "damaged");
+}
+
 TEST_F(ApplicationCommandsTest, RefusesWhatNoFileKeeps) {
   for (const std::string identifier :
        {"''", "\"$(printf 'a\\001b')\"", "\"$(printf '\\377')\"", ""}) {

@@ -23,8 +23,11 @@ FocusScope {
     /// With Alt held, the current row moves; else the next one becomes the current one.
     function step(event: var, by: int) {
         event.accepted = controller.editing && (event.modifiers & Qt.AltModifier)
-        if (event.accepted)
-            controller.moveRow(mainTableView.currentIndex, mainTableView.currentIndex + by)
+        if (!event.accepted)
+            return
+        controller.moveRow(mainTableView.currentIndex, mainTableView.currentIndex + by)
+        // The current row goes with it before the next key comes.
+        mainTableView.forceLayout()
     }
 
     focus: true

@@ -24,7 +24,7 @@ class WhitelistScreenTest : public testing::Test {
   void open() {
     screen.view.engine()->addImageProvider(ApplicationIcons::providerName(),
                                            new ApplicationIcons(home));
-    controller.emplace(screen.files, home);
+    controller.emplace(screen.files, home, screen.root.path() / "own/sets.plist");
     checkModel(controller->appArray());
     QObject::connect(&*controller, &ModalViewController::dismissed, [this] { dismissed = true; });
     ASSERT_TRUE(screen.show("WhitelistViewController",
@@ -91,10 +91,67 @@ TEST_F(WhitelistScreenTest, TheKeyboardReachesEveryRow) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return screen.row(39) != nullptr; })) << "it comes into view";
   for (const auto key : {Qt::Key_Up, Qt::Key_Space, Qt::Key_Space}) press(key);
   EXPECT_EQ(stored(), (Dictionary{{"app38", false}, {"app39", true}}));
-  for (const auto key : {Qt::Key_Tab, Qt::Key_Tab}) press(key);
+  for (int turn = 0; turn < 5; ++turn) press(Qt::Key_Tab);
   EXPECT_TRUE(list->hasActiveFocus()) << "round the title bar and back";
-  for (const auto key : {Qt::Key_Backtab, Qt::Key_Return}) press(key);
+  for (int turn = 0; turn < 4; ++turn) press(Qt::Key_Backtab);
+  press(Qt::Key_Return);
   EXPECT_TRUE(dismissed);
+}
+
+TEST_F(WhitelistScreenTest, SeekingAndTickedOnlyKeepTheOrder) {
+  install(12);
+  home.names = {{"app3", "Maps"}, {"app7", "Road map"}};
+  ASSERT_TRUE(screen.files.save(SettingsFile::Whitelist,
+                                Dictionary{{"app7", true}, {"app9", true}, {"gone", true}}));
+  open();
+  EXPECT_EQ(controller->countText(), "2 of 12 ticked") << "of those that are installed";
+  const auto shown = [&] {
+    std::string all;
+    for (int row = 0; row < list->property("count").toInt(); ++row) {
+      all += screen.row(row)->property("appName").toString().toStdString() + ' ';
+    }
+    return all;
+  };
+  screen.click("soughtField");
+  screen.type("MAP");
+  EXPECT_EQ(shown(), "Maps Road map ");
+  screen.click(screen.row(0));
+  EXPECT_EQ(stored()->count("app3"), 1U) << "a touch means the row that is seen";
+  screen.click("soughtField");
+  QTest::keyClick(&screen.view, Qt::Key_Escape);
+  EXPECT_EQ(list->property("count"), 12);
+  EXPECT_FALSE(dismissed);
+  screen.click("tickedOnlyButton");
+  EXPECT_EQ(shown(), "Maps Road map app9 ");
+  screen.click(screen.row(2));
+  EXPECT_EQ(shown(), "Maps Road map app9 ") << "it stays in reach";
+  EXPECT_EQ(controller->countText(), "2 of 12 ticked");
+  screen.click("tickedOnlyButton");
+  screen.click("soughtField");
+  screen.type("app9");
+  EXPECT_EQ(shown(), "app9 ");
+  screen.type("nothing");
+  EXPECT_TRUE(screen.find("emptyNote")->isVisible());
+}
+
+TEST_F(WhitelistScreenTest, SetsBringTheirTicksBack) {
+  install(3);
+  ASSERT_TRUE(screen.files.save(SettingsFile::Whitelist, Dictionary{{"app0", true}}));
+  open();
+  screen.click("setsButton");
+  screen.type("Work");
+  screen.click("saveSetButton");
+  screen.click("setsCloseButton");
+  for (const int row : {0, 1}) screen.click(screen.row(row));
+  screen.click("setsButton");
+  screen.click("useButton");
+  EXPECT_EQ(stored(), (Dictionary{{"app0", true}, {"app1", false}}));
+  EXPECT_TRUE(hasCheckmark(0));
+  EXPECT_FALSE(hasCheckmark(1));
+  EXPECT_FALSE(screen.find("setsPanel")->isVisible());
+  screen.click("setsButton");
+  screen.click("removeButton");
+  EXPECT_TRUE(controller->setNames().isEmpty());
 }
 
 TEST_F(WhitelistScreenTest, NamesStayWithinTheirRowAndStandForThemselves) {

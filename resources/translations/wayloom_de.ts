@@ -48,6 +48,10 @@
         <translation>Merken →</translation>
     </message>
     <message>
+        <source>Added to favorites: %1</source>
+        <translation>Zu den Favoriten hinzugefügt: %1</translation>
+    </message>
+    <message>
         <source>Address is loading, please wait</source>
         <translation>Die Adresse wird noch gesucht, bitte warten</translation>
     </message>
@@ -78,6 +82,18 @@
     <message>
         <source>Contact Author</source>
         <translation>Autor anschreiben</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>Kopiert</translation>
+    </message>
+    <message>
+        <source>Copy coordinates</source>
+        <translation>Koordinaten kopieren</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Land</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -120,6 +136,10 @@
         <translation>Ziel</translation>
     </message>
     <message>
+        <source>End here</source>
+        <translation>Hier enden</translation>
+    </message>
+    <message>
         <source>End Time</source>
         <translation>Ankunft</translation>
     </message>
@@ -152,8 +172,20 @@
         <translation>Fester Standort</translation>
     </message>
     <message>
+        <source>Forget</source>
+        <translation>Vergessen:</translation>
+    </message>
+    <message>
+        <source>Forget recent searches</source>
+        <translation>Letzte Suchen vergessen</translation>
+    </message>
+    <message>
         <source>Hide the choices</source>
         <translation>Auswahl ausblenden</translation>
+    </message>
+    <message>
+        <source>House</source>
+        <translation>Haus</translation>
     </message>
     <message>
         <source>Import favorites from a file</source>
@@ -240,6 +272,10 @@
         <translation>Einen Ort auf der Karte wählen und „Merken →“ drücken.</translation>
     </message>
     <message>
+        <source>Place</source>
+        <translation>Ort von Interesse</translation>
+    </message>
+    <message>
         <source>Please Enter Favorites Name</source>
         <translation>Name des Favoriten</translation>
     </message>
@@ -264,8 +300,28 @@
         <translation>Bitte die Abfahrtszeit wählen</translation>
     </message>
     <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Postcode</source>
+        <translation>Postleitzahl</translation>
+    </message>
+    <message>
+        <source>Province</source>
+        <translation>Provinz</translation>
+    </message>
+    <message>
+        <source>Put the pin here</source>
+        <translation>Nadel hierher setzen</translation>
+    </message>
+    <message>
         <source>Save</source>
         <translation>Sichern</translation>
+    </message>
+    <message>
+        <source>Save as favorite</source>
+        <translation>Als Favorit sichern</translation>
     </message>
     <message>
         <source>Search</source>
@@ -300,12 +356,24 @@
         <translation>Start</translation>
     </message>
     <message>
+        <source>Start here</source>
+        <translation>Hier starten</translation>
+    </message>
+    <message>
         <source>Start Time</source>
         <translation>Abfahrt</translation>
     </message>
     <message>
         <source>Starts %1, arrives %2</source>
         <translation>Abfahrt %1, Ankunft %2</translation>
+    </message>
+    <message>
+        <source>Street</source>
+        <translation>Straße</translation>
+    </message>
+    <message>
+        <source>Suggestions</source>
+        <translation>Vorschläge</translation>
     </message>
     <message>
         <source>Switch mode</source>
@@ -330,6 +398,10 @@
     <message>
         <source>Touch again: there was no settings file yet</source>
         <translation>Nochmals berühren: Es gab noch keine Einstellungsdatei</translation>
+    </message>
+    <message>
+        <source>Town</source>
+        <translation>Ort</translation>
     </message>
     <message>
         <source>Turn on the switch will change your coordinate automatic in a range</source>

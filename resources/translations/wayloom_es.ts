@@ -48,6 +48,10 @@
         <translation>Guardar →</translation>
     </message>
     <message>
+        <source>Added to favorites: %1</source>
+        <translation>Añadido a favoritos: %1</translation>
+    </message>
+    <message>
         <source>Address is loading, please wait</source>
         <translation>Buscando la dirección, espere</translation>
     </message>
@@ -78,6 +82,18 @@
     <message>
         <source>Contact Author</source>
         <translation>Contactar al autor</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>Copiado</translation>
+    </message>
+    <message>
+        <source>Copy coordinates</source>
+        <translation>Copiar las coordenadas</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>País</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -120,6 +136,10 @@
         <translation>Destino</translation>
     </message>
     <message>
+        <source>End here</source>
+        <translation>Terminar aquí</translation>
+    </message>
+    <message>
         <source>End Time</source>
         <translation>Llegada</translation>
     </message>
@@ -152,8 +172,20 @@
         <translation>Ubicación fija</translation>
     </message>
     <message>
+        <source>Forget</source>
+        <translation>Olvidar</translation>
+    </message>
+    <message>
+        <source>Forget recent searches</source>
+        <translation>Olvidar las búsquedas recientes</translation>
+    </message>
+    <message>
         <source>Hide the choices</source>
         <translation>Ocultar las opciones</translation>
+    </message>
+    <message>
+        <source>House</source>
+        <translation>Casa</translation>
     </message>
     <message>
         <source>Import favorites from a file</source>
@@ -240,6 +272,10 @@
         <translation>Elija un lugar en el mapa y pulse «Guardar →».</translation>
     </message>
     <message>
+        <source>Place</source>
+        <translation>Lugar</translation>
+    </message>
+    <message>
         <source>Please Enter Favorites Name</source>
         <translation>Nombre del favorito</translation>
     </message>
@@ -264,8 +300,28 @@
         <translation>Elija la hora de salida</translation>
     </message>
     <message>
+        <source>Position</source>
+        <translation>Posición</translation>
+    </message>
+    <message>
+        <source>Postcode</source>
+        <translation>Código postal</translation>
+    </message>
+    <message>
+        <source>Province</source>
+        <translation>Provincia</translation>
+    </message>
+    <message>
+        <source>Put the pin here</source>
+        <translation>Poner el marcador aquí</translation>
+    </message>
+    <message>
         <source>Save</source>
         <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Save as favorite</source>
+        <translation>Guardar como favorito</translation>
     </message>
     <message>
         <source>Search</source>
@@ -300,12 +356,24 @@
         <translation>Origen</translation>
     </message>
     <message>
+        <source>Start here</source>
+        <translation>Empezar aquí</translation>
+    </message>
+    <message>
         <source>Start Time</source>
         <translation>Salida</translation>
     </message>
     <message>
         <source>Starts %1, arrives %2</source>
         <translation>Salida %1, llegada %2</translation>
+    </message>
+    <message>
+        <source>Street</source>
+        <translation>Calle</translation>
+    </message>
+    <message>
+        <source>Suggestions</source>
+        <translation>Sugerencias</translation>
     </message>
     <message>
         <source>Switch mode</source>
@@ -330,6 +398,10 @@
     <message>
         <source>Touch again: there was no settings file yet</source>
         <translation>Toque otra vez: aún no había archivo de ajustes</translation>
+    </message>
+    <message>
+        <source>Town</source>
+        <translation>Localidad</translation>
     </message>
     <message>
         <source>Turn on the switch will change your coordinate automatic in a range</source>

@@ -48,6 +48,10 @@
         <translation>Ajouter →</translation>
     </message>
     <message>
+        <source>Added to favorites: %1</source>
+        <translation>Ajouté aux favoris : %1</translation>
+    </message>
+    <message>
         <source>Address is loading, please wait</source>
         <translation>Recherche de l’adresse, veuillez patienter</translation>
     </message>
@@ -78,6 +82,18 @@
     <message>
         <source>Contact Author</source>
         <translation>Contacter l’auteur</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>Copié</translation>
+    </message>
+    <message>
+        <source>Copy coordinates</source>
+        <translation>Copier les coordonnées</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Pays</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -120,6 +136,10 @@
         <translation>Arrivée</translation>
     </message>
     <message>
+        <source>End here</source>
+        <translation>Arriver ici</translation>
+    </message>
+    <message>
         <source>End Time</source>
         <translation>Arrivée à</translation>
     </message>
@@ -152,8 +172,20 @@
         <translation>Position fixe</translation>
     </message>
     <message>
+        <source>Forget</source>
+        <translation>Oublier</translation>
+    </message>
+    <message>
+        <source>Forget recent searches</source>
+        <translation>Oublier les recherches récentes</translation>
+    </message>
+    <message>
         <source>Hide the choices</source>
         <translation>Masquer les choix</translation>
+    </message>
+    <message>
+        <source>House</source>
+        <translation>Maison</translation>
     </message>
     <message>
         <source>Import favorites from a file</source>
@@ -240,6 +272,10 @@
         <translation>Choisissez un lieu sur la carte et appuyez sur « Ajouter → ».</translation>
     </message>
     <message>
+        <source>Place</source>
+        <translation>Lieu</translation>
+    </message>
+    <message>
         <source>Please Enter Favorites Name</source>
         <translation>Nom du favori</translation>
     </message>
@@ -264,8 +300,28 @@
         <translation>Veuillez choisir l’heure de départ</translation>
     </message>
     <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Postcode</source>
+        <translation>Code postal</translation>
+    </message>
+    <message>
+        <source>Province</source>
+        <translation>Province</translation>
+    </message>
+    <message>
+        <source>Put the pin here</source>
+        <translation>Placer le repère ici</translation>
+    </message>
+    <message>
         <source>Save</source>
         <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Save as favorite</source>
+        <translation>Enregistrer comme favori</translation>
     </message>
     <message>
         <source>Search</source>
@@ -300,12 +356,24 @@
         <translation>Départ</translation>
     </message>
     <message>
+        <source>Start here</source>
+        <translation>Partir d’ici</translation>
+    </message>
+    <message>
         <source>Start Time</source>
         <translation>Départ à</translation>
     </message>
     <message>
         <source>Starts %1, arrives %2</source>
         <translation>Départ %1, arrivée %2</translation>
+    </message>
+    <message>
+        <source>Street</source>
+        <translation>Rue</translation>
+    </message>
+    <message>
+        <source>Suggestions</source>
+        <translation>Suggestions</translation>
     </message>
     <message>
         <source>Switch mode</source>
@@ -330,6 +398,10 @@
     <message>
         <source>Touch again: there was no settings file yet</source>
         <translation>Touchez encore : il n’y avait pas encore de fichier de réglages</translation>
+    </message>
+    <message>
+        <source>Town</source>
+        <translation>Localité</translation>
     </message>
     <message>
         <source>Turn on the switch will change your coordinate automatic in a range</source>

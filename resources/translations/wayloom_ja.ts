@@ -48,6 +48,10 @@
         <translation>追加 →</translation>
     </message>
     <message>
+        <source>Added to favorites: %1</source>
+        <translation>お気に入りに追加しました：%1</translation>
+    </message>
+    <message>
         <source>Address is loading, please wait</source>
         <translation>住所を読み込んでいます。お待ちください</translation>
     </message>
@@ -78,6 +82,18 @@
     <message>
         <source>Contact Author</source>
         <translation>作者に連絡</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>コピーしました</translation>
+    </message>
+    <message>
+        <source>Copy coordinates</source>
+        <translation>座標をコピー</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>国</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -120,6 +136,10 @@
         <translation>終点</translation>
     </message>
     <message>
+        <source>End here</source>
+        <translation>ここを目的地にする</translation>
+    </message>
+    <message>
         <source>End Time</source>
         <translation>終了時刻</translation>
     </message>
@@ -152,8 +172,20 @@
         <translation>固定位置</translation>
     </message>
     <message>
+        <source>Forget</source>
+        <translation>履歴から削除</translation>
+    </message>
+    <message>
+        <source>Forget recent searches</source>
+        <translation>最近の検索を消去</translation>
+    </message>
+    <message>
         <source>Hide the choices</source>
         <translation>選択項目を隠す</translation>
+    </message>
+    <message>
+        <source>House</source>
+        <translation>番地</translation>
     </message>
     <message>
         <source>Import favorites from a file</source>
@@ -240,6 +272,10 @@
         <translation>地図で場所を選び、「追加 →」を押してください。</translation>
     </message>
     <message>
+        <source>Place</source>
+        <translation>地点</translation>
+    </message>
+    <message>
         <source>Please Enter Favorites Name</source>
         <translation>お気に入りの名前</translation>
     </message>
@@ -264,8 +300,28 @@
         <translation>開始時刻を選んでください</translation>
     </message>
     <message>
+        <source>Position</source>
+        <translation>座標</translation>
+    </message>
+    <message>
+        <source>Postcode</source>
+        <translation>郵便番号</translation>
+    </message>
+    <message>
+        <source>Province</source>
+        <translation>州・県</translation>
+    </message>
+    <message>
+        <source>Put the pin here</source>
+        <translation>ここにピンを置く</translation>
+    </message>
+    <message>
         <source>Save</source>
         <translation>保存</translation>
+    </message>
+    <message>
+        <source>Save as favorite</source>
+        <translation>お気に入りに保存</translation>
     </message>
     <message>
         <source>Search</source>
@@ -300,12 +356,24 @@
         <translation>起点</translation>
     </message>
     <message>
+        <source>Start here</source>
+        <translation>ここを出発地にする</translation>
+    </message>
+    <message>
         <source>Start Time</source>
         <translation>開始時刻</translation>
     </message>
     <message>
         <source>Starts %1, arrives %2</source>
         <translation>出発 %1、到着 %2</translation>
+    </message>
+    <message>
+        <source>Street</source>
+        <translation>通り</translation>
+    </message>
+    <message>
+        <source>Suggestions</source>
+        <translation>候補</translation>
     </message>
     <message>
         <source>Switch mode</source>
@@ -330,6 +398,10 @@
     <message>
         <source>Touch again: there was no settings file yet</source>
         <translation>もう一度タッチしてください：設定ファイルがまだありませんでした</translation>
+    </message>
+    <message>
+        <source>Town</source>
+        <translation>市町村</translation>
     </message>
     <message>
         <source>Turn on the switch will change your coordinate automatic in a range</source>

@@ -48,6 +48,10 @@
         <translation>收藏 →</translation>
     </message>
     <message>
+        <source>Added to favorites: %1</source>
+        <translation>已添加到收藏夹：%1</translation>
+    </message>
+    <message>
         <source>Address is loading, please wait</source>
         <translation>正在获取地址，请稍候</translation>
     </message>
@@ -78,6 +82,18 @@
     <message>
         <source>Contact Author</source>
         <translation>联系作者</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>已复制</translation>
+    </message>
+    <message>
+        <source>Copy coordinates</source>
+        <translation>复制坐标</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>国家</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -120,6 +136,10 @@
         <translation>终点</translation>
     </message>
     <message>
+        <source>End here</source>
+        <translation>到这里结束</translation>
+    </message>
+    <message>
         <source>End Time</source>
         <translation>结束时间</translation>
     </message>
@@ -152,8 +172,20 @@
         <translation>固定位置</translation>
     </message>
     <message>
+        <source>Forget</source>
+        <translation>删除记录</translation>
+    </message>
+    <message>
+        <source>Forget recent searches</source>
+        <translation>清除最近的搜索</translation>
+    </message>
+    <message>
         <source>Hide the choices</source>
         <translation>隐藏选项</translation>
+    </message>
+    <message>
+        <source>House</source>
+        <translation>门牌</translation>
     </message>
     <message>
         <source>Import favorites from a file</source>
@@ -240,6 +272,10 @@
         <translation>在地图上选择一个位置，然后点按“收藏 →”。</translation>
     </message>
     <message>
+        <source>Place</source>
+        <translation>地点</translation>
+    </message>
+    <message>
         <source>Please Enter Favorites Name</source>
         <translation>请输入收藏名称</translation>
     </message>
@@ -264,8 +300,28 @@
         <translation>请选择开始时间</translation>
     </message>
     <message>
+        <source>Position</source>
+        <translation>坐标</translation>
+    </message>
+    <message>
+        <source>Postcode</source>
+        <translation>邮政编码</translation>
+    </message>
+    <message>
+        <source>Province</source>
+        <translation>省/州</translation>
+    </message>
+    <message>
+        <source>Put the pin here</source>
+        <translation>将图钉放在这里</translation>
+    </message>
+    <message>
         <source>Save</source>
         <translation>保存</translation>
+    </message>
+    <message>
+        <source>Save as favorite</source>
+        <translation>保存到收藏夹</translation>
     </message>
     <message>
         <source>Search</source>
@@ -300,12 +356,24 @@
         <translation>起点</translation>
     </message>
     <message>
+        <source>Start here</source>
+        <translation>从这里出发</translation>
+    </message>
+    <message>
         <source>Start Time</source>
         <translation>开始时间</translation>
     </message>
     <message>
         <source>Starts %1, arrives %2</source>
         <translation>%1 出发，%2 到达</translation>
+    </message>
+    <message>
+        <source>Street</source>
+        <translation>街道</translation>
+    </message>
+    <message>
+        <source>Suggestions</source>
+        <translation>建议</translation>
     </message>
     <message>
         <source>Switch mode</source>
@@ -330,6 +398,10 @@
     <message>
         <source>Touch again: there was no settings file yet</source>
         <translation>请再点一次：之前没有设置文件</translation>
+    </message>
+    <message>
+        <source>Town</source>
+        <translation>城镇</translation>
     </message>
     <message>
         <source>Turn on the switch will change your coordinate automatic in a range</source>

@@ -48,6 +48,10 @@
         <translation>收藏 →</translation>
     </message>
     <message>
+        <source>Added to favorites: %1</source>
+        <translation>已加入收藏夾：%1</translation>
+    </message>
+    <message>
         <source>Address is loading, please wait</source>
         <translation>正在取得地址，請稍候</translation>
     </message>
@@ -78,6 +82,18 @@
     <message>
         <source>Contact Author</source>
         <translation>聯絡作者</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>已複製</translation>
+    </message>
+    <message>
+        <source>Copy coordinates</source>
+        <translation>複製座標</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>國家</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -120,6 +136,10 @@
         <translation>終點</translation>
     </message>
     <message>
+        <source>End here</source>
+        <translation>到這裡結束</translation>
+    </message>
+    <message>
         <source>End Time</source>
         <translation>結束時間</translation>
     </message>
@@ -152,8 +172,20 @@
         <translation>固定位置</translation>
     </message>
     <message>
+        <source>Forget</source>
+        <translation>刪除記錄</translation>
+    </message>
+    <message>
+        <source>Forget recent searches</source>
+        <translation>清除最近的搜尋</translation>
+    </message>
+    <message>
         <source>Hide the choices</source>
         <translation>隱藏選項</translation>
+    </message>
+    <message>
+        <source>House</source>
+        <translation>門牌</translation>
     </message>
     <message>
         <source>Import favorites from a file</source>
@@ -240,6 +272,10 @@
         <translation>在地圖上選擇一個位置，然後點一下「收藏 →」。</translation>
     </message>
     <message>
+        <source>Place</source>
+        <translation>地點</translation>
+    </message>
+    <message>
         <source>Please Enter Favorites Name</source>
         <translation>請輸入收藏名稱</translation>
     </message>
@@ -264,8 +300,28 @@
         <translation>請選擇開始時間</translation>
     </message>
     <message>
+        <source>Position</source>
+        <translation>座標</translation>
+    </message>
+    <message>
+        <source>Postcode</source>
+        <translation>郵遞區號</translation>
+    </message>
+    <message>
+        <source>Province</source>
+        <translation>省/州</translation>
+    </message>
+    <message>
+        <source>Put the pin here</source>
+        <translation>將圖釘放在這裡</translation>
+    </message>
+    <message>
         <source>Save</source>
         <translation>儲存</translation>
+    </message>
+    <message>
+        <source>Save as favorite</source>
+        <translation>儲存到收藏夾</translation>
     </message>
     <message>
         <source>Search</source>
@@ -300,12 +356,24 @@
         <translation>起點</translation>
     </message>
     <message>
+        <source>Start here</source>
+        <translation>從這裡出發</translation>
+    </message>
+    <message>
         <source>Start Time</source>
         <translation>開始時間</translation>
     </message>
     <message>
         <source>Starts %1, arrives %2</source>
         <translation>%1 出發，%2 抵達</translation>
+    </message>
+    <message>
+        <source>Street</source>
+        <translation>街道</translation>
+    </message>
+    <message>
+        <source>Suggestions</source>
+        <translation>建議</translation>
     </message>
     <message>
         <source>Switch mode</source>
@@ -330,6 +398,10 @@
     <message>
         <source>Touch again: there was no settings file yet</source>
         <translation>請再點一次：之前沒有設定檔</translation>
+    </message>
+    <message>
+        <source>Town</source>
+        <translation>城鎮</translation>
     </message>
     <message>
         <source>Turn on the switch will change your coordinate automatic in a range</source>

@@ -26,7 +26,8 @@ AppDelegate::AppDelegate(AppServices& services)
                           .alerts = services.alerts,
                           .screens = *this,
                           .tiles = services.tiles,
-                          .drive = [this] { return wayloomController.statusOfDrive(); }}),
+                          .drive = [this] { return wayloomController.statusOfDrive(); },
+                          .offers = &services.offers}),
       wayloomController({.files = services.files,
                          .clock = services.clock,
                          .background = {services.saves, services.mainQueue},
@@ -152,12 +153,13 @@ void AppDelegate::presentInfo() {
 
 void AppDelegate::presentSelectAddress(
     std::function<void(double latitude, double longitude, const QString& address)> block) {
-  mModals.present(
-      std::make_unique<SelectAddressViewController>(
-          SelectAddressViewController::Services{
-              .location = mServices.location, .alerts = mServices.alerts, .tiles = mServices.tiles},
-          std::move(block)),
-      ModalPresenter::Transition::Slide);
+  mModals.present(std::make_unique<SelectAddressViewController>(
+                      SelectAddressViewController::Services{.location = mServices.location,
+                                                            .alerts = mServices.alerts,
+                                                            .tiles = mServices.tiles,
+                                                            .offers = &mServices.offers},
+                      std::move(block)),
+                  ModalPresenter::Transition::Slide);
 }
 
 }  // namespace wayloom

@@ -10,7 +10,6 @@
 #include "platform/QtIconRasterizer.h"
 #include "platform/QtPositionSource.h"
 #include "regions/RegionDirectories.h"
-#include "regions/RegionGeocoder.h"
 #include "settings/SettingsRoot.h"
 
 namespace wayloom {
@@ -38,8 +37,10 @@ AppServices::AppServices(const Options& options)
     : files(settingsRoot(options.root), SettingsFiles::kPatience, options.fileSystem),
       notice(noticeCommand()),
       regions(regionDirectories(options.regions)),
-      geocoder(std::make_unique<RegionGeocoder>(regions, mainQueue), mainQueue,
-               preferredLanguage()),
+      names(std::make_shared<RegionGeocoder>(regions, mainQueue)),
+      geocoder(names, mainQueue, preferredLanguage()),
+      recentSearches(options.recentSearches, options.fileSystem),
+      offers(geocoder, *names, recentSearches, preferredLanguage()),
       directions(regions, mainQueue),
       location(locationPlatform(options.configuredPositionOnly)),
       tiles(std::make_shared<MapnikTileSource>(regions.regions())),

@@ -9,12 +9,14 @@
 #include "map/TileSource.h"
 #include "places/LocationClass.h"
 #include "places/PlaceTextGeocoder.h"
+#include "places/SearchOffers.h"
 #include "platform/Clock.h"
 #include "platform/HomeScreen.h"
 #include "platform/QtAddressOpener.h"
 #include "platform/QtMainQueue.h"
 #include "platform/SettingsDefaults.h"
 #include "platform/SystemNotices.h"
+#include "regions/RegionGeocoder.h"
 #include "regions/RegionStore.h"
 #include "roads/RegionDirections.h"
 #include "settings/SettingsFiles.h"
@@ -33,6 +35,8 @@ class AppServices {
     bool configuredPositionOnly = false;
     /// Where settings files are read and written.
     FileSystem& fileSystem = FileSystem::machine();
+    /// Where what was searched for is kept; nowhere without it.
+    std::optional<std::filesystem::path> recentSearches = {};
   };
 
   explicit AppServices(const Options& options);
@@ -46,7 +50,11 @@ class AppServices {
   SystemClock clock;
   RegionStore regions;
   QtMainQueue mainQueue;
+  /// Knows places by their names.
+  const std::shared_ptr<RegionGeocoder> names;
   PlaceTextGeocoder geocoder;
+  RecentSearches recentSearches;
+  SearchOffers offers;
   RegionDirections directions;
   SettingsDefaults defaults;
   AlertPresenter alerts;

@@ -2,7 +2,9 @@
 #include <cstdio>
 
 #include <QtCore/QDir>
+#include <QtCore/QFile>
 #include <QtCore/QSettings>
+#include <QtCore/QStandardPaths>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QIcon>
 #include <QtGui/QPalette>
@@ -29,6 +31,15 @@ QStringList userLanguages() {
     languages.append(QString::fromStdString(language));
   }
   return languages;
+}
+
+/// A folder of the application's own, on this machine; nowhere without a home.
+std::optional<std::filesystem::path> recentSearchesFile() {
+  const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+  if (folder.isEmpty() || !QDir().mkpath(folder)) return std::nullopt;
+  // What somebody looks for is nobody else's business.
+  QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+  return std::filesystem::path(folder.toStdString()) / "recent-searches";
 }
 
 /// A tour starts from nothing, and leaves alone what the user's own files and windows hold.
@@ -62,7 +73,8 @@ int runApplication(const StartOptions& options) {
       std::fprintf(stderr, "wayloom: it is running already, but does not answer\n");
       return 1;
   }
-  AppServices services({.root = options.root, .regions = options.regions});
+  AppServices services(
+      {.root = options.root, .regions = options.regions, .recentSearches = recentSearchesFile()});
   AppDelegate delegate(services);
   const WindowPlace place(delegate.window());
   if (!delegate.didFinishLaunching()) return 1;

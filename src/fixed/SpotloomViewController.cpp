@@ -21,7 +21,8 @@ SpotloomViewController::SpotloomViewController(const Services& services, QObject
     : QObject(parent),
       mServices(services),
       mFixedLocation(services.files, services.notice),
-      mFavorites(services.files) {
+      mFavorites(services.files),
+      mSearchList(services.offers) {
   mDriveTimer.setInterval(kTick);
   mDriveTimer.setSingleShot(true);
   connect(&mDriveTimer, &QTimer::timeout, this, &SpotloomViewController::showStatus);

@@ -16,6 +16,7 @@
 #include "lists/FavoritesDelegate.h"
 #include "map/MapView.h"
 #include "places/LocationClass.h"
+#include "places/SearchList.h"
 #include "platform/Alerts.h"
 
 namespace wayloom {
@@ -43,6 +44,7 @@ class SpotloomViewController : public QObject, public LocationDelegate, public F
   Q_PROPERTY(QString favoriteName READ favoriteName WRITE setFavoriteName NOTIFY changed)
   Q_PROPERTY(bool namingFavorite READ namingFavorite NOTIFY changed)
   Q_PROPERTY(wayloom::StatusText* status READ status CONSTANT)
+  Q_PROPERTY(wayloom::SearchList* searchList READ searchList CONSTANT)
 
  public:
   struct Services {
@@ -55,6 +57,8 @@ class SpotloomViewController : public QObject, public LocationDelegate, public F
     /// What the status line says of the drive if the route file says that it is on; may be left
     /// out.
     std::function<std::optional<Phrase>()> drive = {};
+    /// What the search field offers; may be left out.
+    SearchOffers* offers = nullptr;
   };
 
   explicit SpotloomViewController(const Services& services, QObject* parent = nullptr);
@@ -80,6 +84,10 @@ class SpotloomViewController : public QObject, public LocationDelegate, public F
   Q_INVOKABLE void autoSlide(double speed);
   Q_INVOKABLE void searchButtonClicked();
   Q_INVOKABLE bool textFieldShouldReturn();
+  /// Offers what fits the search field's text.
+  Q_INVOKABLE void offerSearches();
+  /// Searches what a row of the list offers, as if it had been typed.
+  Q_INVOKABLE void chooseSearch(int row);
   Q_INVOKABLE void mineLocationButtonClicked();
   Q_INVOKABLE void addToFavorites();
   Q_INVOKABLE void okButtonClicked();
@@ -117,6 +125,7 @@ class SpotloomViewController : public QObject, public LocationDelegate, public F
   void setFavoriteName(const QString& name);
   bool namingFavorite() const { return mView.namingFavorite; }
   StatusText* status() { return &mStatus; }
+  SearchList* searchList() { return &mSearchList; }
 
  Q_SIGNALS:
   void changed();
@@ -171,6 +180,7 @@ class SpotloomViewController : public QObject, public LocationDelegate, public F
   /// An empty address is one that is still being looked up.
   void showAddress(const QString& address);
   void startLocation();
+  void search(const RecentSearch& wanted);
 
   Services mServices;
   FixedLocation mFixedLocation;
@@ -178,6 +188,7 @@ class SpotloomViewController : public QObject, public LocationDelegate, public F
   QPointer<MapView> mMainMapView;
   View mView;
   StatusText mStatus;
+  SearchList mSearchList;
   FixedActivity mActivity;
   /// Whose addresses were asked for and are not known yet; the answers come in this order.
   std::deque<Coordinate> mAsked;

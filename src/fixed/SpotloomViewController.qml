@@ -93,7 +93,12 @@ FocusScope {
                 x: FlatPalette.margin
                 width: parent.width - 2 * FlatPalette.margin
                 text: root.controller.searchText
-                onTextEdited: text => root.controller.searchText = text
+                onTextEdited: text => {
+                    root.controller.searchText = text
+                    root.controller.offerSearches()
+                }
+                onEntered: root.controller.offerSearches()
+                onDownPressed: searchList.enter()
                 onAccepted: root.controller.textFieldShouldReturn()
                 onSearchClicked: root.controller.searchButtonClicked()
                 onEscaped: mainMapView.forceActiveFocus()
@@ -222,6 +227,19 @@ FocusScope {
             anchors.bottom: parent.bottom
             width: parent.width
             controller: root.controller
+        }
+
+        SearchListView {
+            id: searchList
+
+            x: searchRow.x
+            y: topView.y + searchRow.height + 2
+            width: searchRow.width
+            maximumHeight: root.height - y - FlatPalette.margin
+            field: searchRow.field
+            searches: root.controller.searchList
+            onChosen: row => root.controller.chooseSearch(row)
+            onEscaped: mainMapView.forceActiveFocus()
         }
     }
 

@@ -4,6 +4,7 @@
 #include "fixed/SpotloomViewController.h"
 #include "kit/LocalizedText.h"
 #include "map/ShownPoint.h"
+#include "settings/TrimmedText.h"
 
 namespace wayloom {
 
@@ -12,25 +13,40 @@ void SpotloomViewController::setSearchText(const QString& text) {
 }
 
 void SpotloomViewController::searchButtonClicked() {
-  const SearchInput search = parseSearchInput(mView.searchText.toStdString());
-  const auto clearField = [this] {
+  const std::string typed = mView.searchText.toStdString();
+  search({typed, typed});
+}
+
+void SpotloomViewController::search(const RecentSearch& wanted) {
+  const SearchInput input = parseSearchInput(wanted.query);
+  const auto begun = [&] {
     setSearchText({});
+    mSearchList.close();
     Q_EMIT keyboardDismissed();
+    mSearchList.remember({trimmedText(wanted.text), trimmedText(wanted.query)});
   };
-  if (const auto* coordinate = std::get_if<Coordinate>(&search)) {
-    clearField();
+  if (const auto* coordinate = std::get_if<Coordinate>(&input)) {
+    begun();
     showPoint(*mMainMapView, *coordinate);
-  } else if (const auto* address = std::get_if<AddressSearch>(&search)) {
+  } else if (const auto* address = std::get_if<AddressSearch>(&input)) {
     if (!report(mFixedLocation.beginAddressSearch())) return;
-    clearField();
+    begun();
     mOverlayAttached = true;
     update([](View& view) {
       view.overlayText = localizedText("Searching");
       view.overlayShown = true;
     });
-    begin({FixedActivity::Kind::Searching, address->address});
+    begin({FixedActivity::Kind::Searching, trimmedText(wanted.text)});
     mServices.location.coordinateWithAddress(address->address, this);
   }
+}
+
+void SpotloomViewController::offerSearches() {
+  mSearchList.look(mView.searchText, mMainMapView->region().center);
+}
+
+void SpotloomViewController::chooseSearch(int row) {
+  if (const auto chosen = mSearchList.choose(row)) search(*chosen);
 }
 
 bool SpotloomViewController::textFieldShouldReturn() {

@@ -6,11 +6,15 @@ Row {
     id: search
 
     property string text: ""
+    readonly property Item field: searchField
 
     signal textEdited(string text)
     signal accepted()
     signal searchClicked()
     signal escaped()
+    /// The field has got the keyboard.
+    signal entered()
+    signal downPressed()
 
     spacing: FlatPalette.spacing
 
@@ -24,7 +28,9 @@ Row {
         onTextEdited: search.textEdited(text)
         onAccepted: search.accepted()
         inputMethodHints: Qt.ImhNoPredictiveText
+        onActiveFocusChanged: if (activeFocus) search.entered()
         Keys.onEscapePressed: search.escaped()
+        Keys.onDownPressed: search.downPressed()
     }
     FlatButton {
         id: searchButton

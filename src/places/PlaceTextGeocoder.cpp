@@ -19,7 +19,7 @@ bool hasPlaces(const GeocoderAnswer& answer) {
 
 }  // namespace
 
-PlaceTextGeocoder::PlaceTextGeocoder(std::unique_ptr<Geocoder> names, MainQueue& mainQueue,
+PlaceTextGeocoder::PlaceTextGeocoder(std::shared_ptr<Geocoder> names, MainQueue& mainQueue,
                                      std::string language)
     : mMainQueue(mainQueue), mLanguage(std::move(language)), mNames(std::move(names)) {}
 
@@ -33,18 +33,20 @@ void PlaceTextGeocoder::geocodeAddress(const std::string& address, std::optional
   } else if (const auto* wrong = std::get_if<Failure>(&text)) {
     answerError(wrong->message, std::move(completion));
   } else {
-    mNames->geocodeAddress(std::get<PlaceName>(text).words, near, std::move(completion));
+    mNames->geocodeAddress(std::get<PlaceName>(text).words, near,
+                           whileAlive(std::move(completion)));
   }
 }
 
 void PlaceTextGeocoder::reverseGeocode(Coordinate coordinate, Completion completion) {
-  mNames->reverseGeocode(coordinate, std::move(completion));
+  mNames->reverseGeocode(coordinate, whileAlive(std::move(completion)));
 }
 
 void PlaceTextGeocoder::answerPosition(Coordinate position, Completion completion) {
   mNames->reverseGeocode(
-      position, [position, completion = std::move(completion)](const GeocoderAnswer& there) {
-        if (!completion) return;
+      position, [alive = std::weak_ptr(mAlive), position,
+                 completion = std::move(completion)](const GeocoderAnswer& there) {
+        if (alive.expired() || !completion) return;
         GeocodedPlace place{position, {}};
         if (hasPlaces(there))
           place.formattedAddressLines = there.places->front().formattedAddressLines;
@@ -67,13 +69,22 @@ void PlaceTextGeocoder::answerShortCode(const ShortPlaceCode& code, std::optiona
   }
   mNames->geocodeAddress(
       code.place, near,
-      [this, digits = code.code, completion = std::move(completion)](const GeocoderAnswer& answer) {
+      [this, alive = std::weak_ptr(mAlive), digits = code.code,
+       completion = std::move(completion)](const GeocoderAnswer& answer) {
+        if (alive.expired()) return;
         if (!hasPlaces(answer)) {
           if (completion) completion(answer);
           return;
         }
         answerPosition(nearestOfShortCode(digits, answer.places->front().coordinate), completion);
       });
+}
+
+Geocoder::Completion PlaceTextGeocoder::whileAlive(Completion completion) const {
+  return [alive = std::weak_ptr(mAlive),
+          completion = std::move(completion)](const GeocoderAnswer& answer) {
+    if (!alive.expired() && completion) completion(answer);
+  };
 }
 
 void PlaceTextGeocoder::answerError(const std::string& error, Completion completion) {

@@ -15,7 +15,7 @@ namespace wayloom {
 class PlaceTextGeocoder : public Geocoder {
  public:
   /// `mainQueue` must outlive it. `language` is the user's, as in "de".
-  PlaceTextGeocoder(std::unique_ptr<Geocoder> names, MainQueue& mainQueue, std::string language);
+  PlaceTextGeocoder(std::shared_ptr<Geocoder> names, MainQueue& mainQueue, std::string language);
 
   void geocodeAddress(const std::string& address, std::optional<Coordinate> near,
                       Completion completion) override;
@@ -26,13 +26,14 @@ class PlaceTextGeocoder : public Geocoder {
   void answerShortCode(const ShortPlaceCode& code, std::optional<Coordinate> near,
                        Completion completion);
   void answerError(const std::string& error, Completion completion);
+  /// Whoever else holds `mNames` may let it answer after the end of this.
+  Completion whileAlive(Completion completion) const;
 
   MainQueue& mMainQueue;
   const std::string mLanguage;
-  /// Answers in the main queue know by it that nobody waits for them any more.
+  /// Answers on their way know by it that nobody waits for them any more.
   std::shared_ptr<const bool> mAlive = std::make_shared<const bool>(true);
-  /// Last, so that it is gone first: its completions use the rest.
-  std::unique_ptr<Geocoder> mNames;
+  const std::shared_ptr<Geocoder> mNames;
 };
 
 }  // namespace wayloom

@@ -10,7 +10,10 @@ namespace wayloom {
 
 SelectAddressViewController::SelectAddressViewController(const Services& services, Block block,
                                                          QObject* parent)
-    : BaseViewController(parent), mServices(services), mBlock(std::move(block)) {}
+    : BaseViewController(parent),
+      mServices(services),
+      mSearchList(services.offers),
+      mBlock(std::move(block)) {}
 
 void SelectAddressViewController::viewDidLoad(MapView* mainMapView) {
   mMainMapView = mainMapView;
@@ -72,12 +75,25 @@ void SelectAddressViewController::reverseGeocoderFailed(
 }
 
 void SelectAddressViewController::searchButtonClicked() {
-  const std::string text(trimmedText(mSearchText.toStdString()));
-  if (text.empty()) return;
+  const std::string typed = trimmedText(mSearchText.toStdString());
+  if (!typed.empty()) search({typed, typed});
+}
+
+void SelectAddressViewController::search(const RecentSearch& wanted) {
   setSearchText({});
+  mSearchList.close();
   Q_EMIT keyboardDismissed();
+  mSearchList.remember(wanted);
   showHUDView();
-  mServices.location.coordinateWithAddress(text, this);
+  mServices.location.coordinateWithAddress(wanted.query, this);
+}
+
+void SelectAddressViewController::offerSearches() {
+  mSearchList.look(mSearchText, mMainMapView->region().center);
+}
+
+void SelectAddressViewController::chooseSearch(int row) {
+  if (const auto chosen = mSearchList.choose(row)) search(*chosen);
 }
 
 bool SelectAddressViewController::textFieldShouldReturn() {

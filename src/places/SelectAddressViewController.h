@@ -8,6 +8,7 @@
 #include "kit/BaseViewController.h"
 #include "map/MapView.h"
 #include "places/LocationClass.h"
+#include "places/SearchList.h"
 #include "platform/Alerts.h"
 
 namespace wayloom {
@@ -21,6 +22,7 @@ class SelectAddressViewController : public wayloom::BaseViewController, public L
   Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY changed)
   Q_PROPERTY(QString addressText READ addressText NOTIFY changed)
   Q_PROPERTY(bool spinning READ spinning NOTIFY changed)
+  Q_PROPERTY(wayloom::SearchList* searchList READ searchList CONSTANT)
 
  public:
   /// Latitude and longitude in degrees, and the address. All are zero and empty after a cancel.
@@ -30,6 +32,8 @@ class SelectAddressViewController : public wayloom::BaseViewController, public L
     LocationClass& location;
     Alerts& alerts;
     std::shared_ptr<TileSource> tiles;
+    /// What the search field offers; may be left out.
+    SearchOffers* offers = nullptr;
   };
 
   /// `block` is called once, when the screen begins to leave.
@@ -40,6 +44,10 @@ class SelectAddressViewController : public wayloom::BaseViewController, public L
 
   Q_INVOKABLE void searchButtonClicked();
   Q_INVOKABLE bool textFieldShouldReturn();
+  /// Offers what fits the search field's text.
+  Q_INVOKABLE void offerSearches();
+  /// Searches what a row of the list offers, as if it had been typed.
+  Q_INVOKABLE void chooseSearch(int row);
   Q_INVOKABLE void mineLocationButtonClicked();
   Q_INVOKABLE void okButtonClicked();
   Q_INVOKABLE void cancelButtonClicked();
@@ -60,6 +68,7 @@ class SelectAddressViewController : public wayloom::BaseViewController, public L
   void setSearchText(const QString& text);
   QString addressText() const { return mAddressText; }
   bool spinning() const { return mSpinning; }
+  SearchList* searchList() { return &mSearchList; }
 
  Q_SIGNALS:
   void changed();
@@ -70,9 +79,11 @@ class SelectAddressViewController : public wayloom::BaseViewController, public L
   void regionWillChange();
   void regionDidChange();
   void showAddress(const QString& text, bool spinning);
+  void search(const RecentSearch& wanted);
   void leave(Coordinate pick, const QString& address);
 
   Services mServices;
+  SearchList mSearchList;
   QPointer<MapView> mMainMapView;
 
   double latitude = 0;

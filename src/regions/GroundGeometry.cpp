@@ -11,19 +11,9 @@ namespace wayloom {
 namespace {
 
 constexpr double kRadians = std::numbers::pi / 180;
-constexpr double kEarthRadiusMetres = 6371008.8;
 constexpr double kMetresPerDegree = kEarthRadiusMetres * kRadians;
 
 }  // namespace
-
-double distanceMetres(Coordinate from, Coordinate to) {
-  const double latitudes = std::sin((to.latitude - from.latitude) * kRadians / 2);
-  const double longitudes = std::sin((to.longitude - from.longitude) * kRadians / 2);
-  const double chord = latitudes * latitudes + std::cos(from.latitude * kRadians) *
-                                                   std::cos(to.latitude * kRadians) * longitudes *
-                                                   longitudes;
-  return 2 * kEarthRadiusMetres * std::asin(std::sqrt(std::min(1.0, chord)));
-}
 
 NearestSpot nearestSpot(Coordinate from, std::span<const Coordinate> line) {
   const double eastScale = kMetresPerDegree * std::cos(from.latitude * kRadians);

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "geo/Coordinate.h"
+#include "geo/GroundDistance.h"
 #include "regions/RegionFile.h"
 
 namespace wayloom {
@@ -19,9 +20,6 @@ struct NearestSpot {
   /// The number of the line's last position that does not lie beyond the spot.
   std::size_t position = 0;
 };
-
-/// The distance along the ground on a sphere of the mean radius 6371008.8 m.
-double distanceMetres(Coordinate from, Coordinate to);
 
 /// The spot of a line that is nearest to a position, exact to within a percent up to 10 km.
 /// The line has at least one position and may cross the antimeridian.

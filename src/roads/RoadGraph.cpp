@@ -11,7 +11,6 @@ namespace wayloom {
 namespace {
 
 constexpr double kRadians = std::numbers::pi / 180;
-constexpr double kEarthRadiusMetres = 6371008.8;
 // Finer than the positions of roads are known.
 constexpr double kSameSpotMetres = 0.05;
 

@@ -1,10 +1,12 @@
 #include "cli/PlaceArgument.h"
 
 #include <charconv>
+#include <cmath>
 #include <limits>
 
 #include "cli/TextForms.h"
 #include "fixed/SearchInput.h"
+#include "places/DegreesText.h"
 #include "settings/TrimmedText.h"
 
 namespace wayloom {
@@ -75,6 +77,11 @@ ResolvedPlace resolvePlace(CommandLine& line, const std::string& argument) {
   if (address.empty()) return line.wrongUsage("the place is empty");
   if (markedPosition(address) || looksLikeCoordinate(address)) {
     if (const auto coordinate = parseCoordinate(address)) return GeocodedPlace{*coordinate, {}};
+    const auto numbers = parseNumbers(markedPosition(address).value_or(address));
+    if (numbers && std::isfinite(numbers->latitude) && std::isfinite(numbers->longitude)) {
+      return line.wrongUsage(inQuotes(argument) +
+                             " is no position: " + checkedPosition(*numbers).message());
+    }
     return line.wrongUsage(inQuotes(argument) +
                            " is no position: give LATITUDE,LONGITUDE in degrees, latitude within "
                            "90 and longitude within 180");

@@ -6,6 +6,7 @@
 #include "kit/LocalizedText.h"
 #include "map/ShownPoint.h"
 #include "settings/ModeSwitch.h"
+#include "settings/TextConversions.h"
 
 namespace wayloom {
 
@@ -22,7 +23,8 @@ SpotloomViewController::SpotloomViewController(const Services& services, QObject
       mServices(services),
       mFixedLocation(services.files, services.notice),
       mFavorites(services.files),
-      mSearchList(services.offers) {
+      mSearchList(services.offers),
+      mStars(services.files) {
   mDriveTimer.setInterval(kTick);
   mDriveTimer.setSingleShot(true);
   connect(&mDriveTimer, &QTimer::timeout, this, &SpotloomViewController::showStatus);
@@ -33,15 +35,18 @@ void SpotloomViewController::viewDidLoad(MapView* mainMapView) {
   mainMapView->setTileSource(mServices.tiles);
   connect(mainMapView, &MapView::regionWillChange, this, &SpotloomViewController::regionWillChange);
   connect(mainMapView, &MapView::regionDidChange, this, &SpotloomViewController::regionDidChange);
+  mStars.setMap(mainMapView);
   refreshViewByStatusWithLocation(true);
 }
 
 void SpotloomViewController::viewWillAppear() {
+  mStars.followFiles();
   refreshViewByStatusWithLocation(false);
 }
 
 void SpotloomViewController::followFiles() {
   if (!mMainMapView) return;
+  mStars.followFiles();
   if (!mFixedLocation.isCurrent()) {
     mStatus.setFailure({});
     refreshViewByStatusWithLocation(false);
@@ -176,6 +181,7 @@ void SpotloomViewController::exchange() {
 
 void SpotloomViewController::regionWillChange() {
   mIsMapMoving = true;
+  update([](View& view) { view.coordinatesText.clear(); });
   showAddress({});
 }
 
@@ -190,6 +196,8 @@ void SpotloomViewController::regionDidChange() {
   const bool stays = isBeyondTheEdge(*mMainMapView, shownCoordinate());
   const Coordinate center = stays ? shownCoordinate() : mMainMapView->region().center;
   if (!mIsFollowing && !stays && !mMustPlace) moved(mFixedLocation.centerMoved(center));
+  update(
+      [&](View& view) { view.coordinatesText = QString::fromStdString(coordinateText(center)); });
   mAsked.push_back(center);
   mServices.location.addressWithCoordinate(center, this);
 }
@@ -229,17 +237,25 @@ void SpotloomViewController::locationFailed(Location* /*location*/,
 }
 
 void SpotloomViewController::addToFavorites() {
-  update([](View& view) {
-    view.favoriteName = view.addressText;
+  nameFavorite(mView.addressText, std::nullopt);
+}
+
+void SpotloomViewController::nameFavorite(const QString& name, std::optional<Coordinate> place) {
+  mNamedPlace = place;
+  update([&](View& view) {
+    view.favoriteName = name;
     view.namingFavorite = true;
   });
 }
 
 void SpotloomViewController::okButtonClicked() {
   if (!mView.namingFavorite) return;  // The panel is fading out already.
-  const Status added = mFavorites.add(mView.favoriteName.toStdString(), shownCoordinate(),
+  const Status added = mFavorites.add(mView.favoriteName.toStdString(),
+                                      mNamedPlace.value_or(shownCoordinate()),
                                       localizedText("Unknow").toStdString());
-  if (report(added)) cancelButtonClicked();
+  if (!report(added)) return;
+  cancelButtonClicked();
+  mStars.followFiles();
 }
 
 void SpotloomViewController::cancelButtonClicked() {

@@ -12,9 +12,11 @@
 #include "fixed/FixedStatus.h"
 #include "kit/ScreenSwitcher.h"
 #include "kit/StatusText.h"
+#include "lists/FavoriteStars.h"
 #include "lists/Favorites.h"
 #include "lists/FavoritesDelegate.h"
 #include "map/MapView.h"
+#include "places/AddressQuestion.h"
 #include "places/LocationClass.h"
 #include "places/SearchList.h"
 #include "platform/Alerts.h"
@@ -37,6 +39,7 @@ class SpotloomViewController : public QObject, public LocationDelegate, public F
   Q_PROPERTY(bool sliderAcceptsTouches READ sliderAcceptsTouches NOTIFY changed)
   Q_PROPERTY(int buttonInset READ buttonInset NOTIFY changed)
   Q_PROPERTY(QString addressText READ addressText NOTIFY changed)
+  Q_PROPERTY(QString coordinatesText READ coordinatesText NOTIFY changed)
   Q_PROPERTY(bool spinning READ spinning NOTIFY changed)
   Q_PROPERTY(bool overlayShown READ overlayShown NOTIFY changed)
   Q_PROPERTY(QString overlayText READ overlayText NOTIFY changed)
@@ -44,6 +47,7 @@ class SpotloomViewController : public QObject, public LocationDelegate, public F
   Q_PROPERTY(QString favoriteName READ favoriteName WRITE setFavoriteName NOTIFY changed)
   Q_PROPERTY(bool namingFavorite READ namingFavorite NOTIFY changed)
   Q_PROPERTY(wayloom::StatusText* status READ status CONSTANT)
+  Q_PROPERTY(wayloom::FavoriteStars* stars READ stars CONSTANT)
   Q_PROPERTY(wayloom::SearchList* searchList READ searchList CONSTANT)
 
  public:
@@ -95,6 +99,15 @@ class SpotloomViewController : public QObject, public LocationDelegate, public F
   Q_INVOKABLE void showFavoritesView();
   Q_INVOKABLE void showInfoView();
 
+  // Of the map: its menu, to which a place is a point of a longitude and a latitude, and its stars.
+  Q_INVOKABLE void pinAt(QPointF place);
+  /// Asks for the name of a new favorite, once the address of the place is known.
+  Q_INVOKABLE void saveFavoriteAt(QPointF place);
+  Q_INVOKABLE void copyPosition(QPointF place);
+  /// Copies the position whose address is shown.
+  Q_INVOKABLE void copyCoordinates();
+  Q_INVOKABLE void chooseFavorite(int star);
+
   void favoritesDidSelected() override;
 
   void locationSuccess(Location* location, double latitude, double longitude) override;
@@ -116,6 +129,7 @@ class SpotloomViewController : public QObject, public LocationDelegate, public F
   bool sliderAcceptsTouches() const { return mView.sliderAcceptsTouches; }
   int buttonInset() const { return mView.buttonInset; }
   QString addressText() const { return mView.addressText; }
+  QString coordinatesText() const { return mView.coordinatesText; }
   bool spinning() const { return mView.spinning; }
   bool overlayShown() const { return mView.overlayShown && mOverlayAttached; }
   QString overlayText() const { return mView.overlayText; }
@@ -125,12 +139,14 @@ class SpotloomViewController : public QObject, public LocationDelegate, public F
   void setFavoriteName(const QString& name);
   bool namingFavorite() const { return mView.namingFavorite; }
   StatusText* status() { return &mStatus; }
+  FavoriteStars* stars() { return &mStars; }
   SearchList* searchList() { return &mSearchList; }
 
  Q_SIGNALS:
   void changed();
   /// The search field gives up the keyboard.
   void keyboardDismissed();
+  void hintShown(const QString& text);
 
  private:
   /// What the controls show.
@@ -142,6 +158,7 @@ class SpotloomViewController : public QObject, public LocationDelegate, public F
     bool sliderAcceptsTouches = false;
     int buttonInset = 0;
     QString addressText;
+    QString coordinatesText;
     bool spinning = false;
     bool overlayShown = false;
     QString overlayText;
@@ -181,6 +198,7 @@ class SpotloomViewController : public QObject, public LocationDelegate, public F
   void showAddress(const QString& address);
   void startLocation();
   void search(const RecentSearch& wanted);
+  void nameFavorite(const QString& name, std::optional<Coordinate> place);
 
   Services mServices;
   FixedLocation mFixedLocation;
@@ -189,6 +207,10 @@ class SpotloomViewController : public QObject, public LocationDelegate, public F
   View mView;
   StatusText mStatus;
   SearchList mSearchList;
+  FavoriteStars mStars;
+  AddressQuestion mQuestion;
+  /// The place that is being named; the pinned position without one.
+  std::optional<Coordinate> mNamedPlace;
   FixedActivity mActivity;
   /// Whose addresses were asked for and are not known yet; the answers come in this order.
   std::deque<Coordinate> mAsked;

@@ -28,6 +28,7 @@ FocusScope {
     Connections {
         target: root.controller
         function onKeyboardDismissed() { mainMapView.forceActiveFocus() }
+        function onHintShown(text: string) { hints.show(text, 0) }
     }
 
     // While the name panel is open, neither touches nor the keyboard reach what lies under it.
@@ -44,8 +45,19 @@ FocusScope {
             zoomsAboutCenter: true
             focus: true
             onTapped: mainMapView.forceActiveFocus()
+            onMenuAsked: at => {
+                mapMenu.place = mainMapView.placeAt(at)
+                mapMenu.open(mainMapView.mapToItem(mapMenu, at))
+            }
             Accessible.role: Accessible.Graphic
             Accessible.name: qsTranslate("Wayloom", "Map")
+        }
+
+        StarLayer {
+            anchors.fill: mainMapView
+            map: mainMapView
+            stars: root.controller.stars
+            onChosen: row => root.controller.chooseFavorite(row)
         }
 
         // The mark's tip is the chosen position; its shadow lies two points below.
@@ -171,8 +183,10 @@ FocusScope {
                 x: FlatPalette.margin
                 y: actionRow.y + actionRow.height + 4
                 width: parent.width - 2 * FlatPalette.margin
-                text: root.controller.addressText
+                address: root.controller.addressText
+                coordinates: root.controller.coordinatesText
                 spinning: root.controller.spinning
+                onClicked: root.controller.copyCoordinates()
             }
 
             Rectangle {
@@ -241,6 +255,25 @@ FocusScope {
             onChosen: row => root.controller.chooseSearch(row)
             onEscaped: mainMapView.forceActiveFocus()
         }
+    }
+
+    MapMenu {
+        id: mapMenu
+
+        anchors.fill: parent
+        title: place.y.toFixed(6) + ", " + place.x.toFixed(6)
+        actions: [
+            {text: qsTranslate("Wayloom", "Put the pin here"), run: there => root.controller.pinAt(there)},
+            {text: qsTranslate("Wayloom", "Save as favorite"), run: there => root.controller.saveFavoriteAt(there)},
+            {text: qsTranslate("Wayloom", "Copy coordinates"), run: there => root.controller.copyPosition(there)}
+        ]
+        onClosed: mainMapView.forceActiveFocus()
+    }
+
+    Hints {
+        id: hints
+
+        anchors.fill: parent
     }
 
     FavoriteNamePanel {

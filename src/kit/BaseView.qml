@@ -19,34 +19,15 @@ Item {
         yOffset: base.controller.hudYOffset
     }
 
-    Component {
-        id: hintOverlay
+    Hints {
+        id: hints
 
-        ProgressOverlay {
-            id: hint
-
-            objectName: "hint"
-            anchors.fill: parent
-            textOnly: true
-            margin: 10
-            Component.onCompleted: shown = true
-            Accessible.role: Accessible.AlertMessage
-            Accessible.name: labelText
-
-            Timer {
-                interval: 1000
-                running: true
-                onTriggered: {
-                    hint.shown = false
-                    hint.destroy(500)  // When it has faded.
-                }
-            }
-        }
+        anchors.fill: parent
     }
     Connections {
         target: base.controller
         function onHintShown(text: string, yOffset: real) {
-            hintOverlay.createObject(base, {labelText: text, yOffset: yOffset})
+            hints.show(text, yOffset)
         }
     }
 }

@@ -48,11 +48,17 @@ double dragDistance() {
 
 }  // namespace
 
-MapGestures::MapGestures(MapMotion& motion, std::function<void()> tapped)
-    : mMotion(motion), mTapped(std::move(tapped)) {}
+MapGestures::MapGestures(MapMotion& motion, std::function<void()> tapped,
+                         std::function<void(QPointF)> held)
+    : mMotion(motion), mTapped(std::move(tapped)), mHeld(std::move(held)) {
+  mHoldTimer.setSingleShot(true);
+  QObject::connect(&mHoldTimer, &QTimer::timeout, [this] { hold(); });
+}
 
 void MapGestures::setFingers(const QList<QPointF>& fingers, quint64 timeMs) {
-  if (fingers.isEmpty()) {
+  if (mIsSpent) {
+    mIsSpent = !fingers.isEmpty();
+  } else if (fingers.isEmpty()) {
     if (!mFingers.isEmpty()) lift(timeMs);
   } else if (fingers.size() != mFingers.size()) {
     putDown(fingers, timeMs);
@@ -66,7 +72,9 @@ void MapGestures::putDown(const QList<QPointF>& fingers, quint64 timeMs) {
     mPress = {centroidOf(fingers), timeMs};
     mIsDragging = mHadManyFingers = false;
     mMotion.halt();
+    mHoldTimer.start(QGuiApplication::styleHints()->mousePressAndHoldInterval());
   }
+  if (fingers.size() > 1) mHoldTimer.stop();
   // Of a pinch that must not move the map, the last finger moves it only by a drag of its own.
   if (mZoomsAboutCenter && mHadManyFingers && fingers.size() == 1) {
     mPress = {centroidOf(fingers), timeMs};
@@ -82,6 +90,7 @@ void MapGestures::follow(const QList<QPointF>& fingers, quint64 timeMs) {
   if (!mIsDragging && fingers.size() == 1 && isNear(now, mPress.centroid, dragDistance())) return;
   if (now == before && fingers == mFingers) return;
   mIsDragging = true;
+  mHoldTimer.stop();
   const bool pans = !mZoomsAboutCenter || fingers.size() == 1;
   if (pans) mMotion.panBy(now - before);
   const double spreadBefore = spreadOf(mFingers), spread = spreadOf(fingers);
@@ -94,7 +103,15 @@ void MapGestures::follow(const QList<QPointF>& fingers, quint64 timeMs) {
   while (mSamples.front().timeMs + kSampleTimeMs < timeMs) mSamples.pop_front();
 }
 
+void MapGestures::hold() {
+  mIsSpent = true;
+  mFingers.clear();
+  mMotion.finishGesture();
+  if (mHeld) mHeld(mPress.centroid);
+}
+
 void MapGestures::lift(quint64 timeMs) {
+  mHoldTimer.stop();
   mFingers.clear();
   if (!mIsDragging) {
     if (!mHadManyFingers) tap(timeMs);
@@ -135,6 +152,8 @@ QPointF MapGestures::zoomPoint(QPointF pointedAt) const {
 }
 
 void MapGestures::cancel() {
+  mHoldTimer.stop();
+  mIsSpent = false;
   mFingers.clear();
   mIsDragging = false;
   mMotion.finishGesture();
@@ -152,6 +171,7 @@ void MapGestures::touch(const QTouchEvent& event) {
 }
 
 void MapGestures::doubleClick(QPointF position) {
+  mHoldTimer.stop();
   mFingers.clear();
   mIsDragging = false;
   mMotion.animateZoomAbout(zoomPoint(position), 1);

@@ -5,6 +5,7 @@
 
 #include <QtCore/QList>
 #include <QtCore/QPointF>
+#include <QtCore/QTimer>
 
 #include "map/MapMotion.h"
 
@@ -18,7 +19,9 @@ namespace wayloom {
 /// by MapView, which passes its events on; main thread.
 class MapGestures {
  public:
-  MapGestures(MapMotion& motion, std::function<void()> tapped);
+  /// `held` is told where a finger or a mouse button rested for long; nothing else comes of that
+  /// touch.
+  MapGestures(MapMotion& motion, std::function<void()> tapped, std::function<void(QPointF)> held);
 
   /// Where the fingers are now; none when the last was lifted. Times are in milliseconds.
   void setFingers(const QList<QPointF>& fingers, quint64 timeMs);
@@ -28,6 +31,7 @@ class MapGestures {
   void setZoomsAboutCenter(bool does) { mZoomsAboutCenter = does; }
   bool zoomsAboutCenter() const { return mZoomsAboutCenter; }
   bool isDragging() const { return mIsDragging; }
+  bool hasFingers() const { return !mFingers.isEmpty(); }
 
   void touch(const QTouchEvent& event);
   void doubleClick(QPointF position);
@@ -48,11 +52,14 @@ class MapGestures {
   void follow(const QList<QPointF>& fingers, quint64 timeMs);
   void lift(quint64 timeMs);
   void tap(quint64 timeMs);
+  void hold();
   QPointF velocityAt(quint64 timeMs) const;
   QPointF zoomPoint(QPointF pointedAt) const;
 
   MapMotion& mMotion;
   std::function<void()> mTapped;
+  std::function<void(QPointF)> mHeld;
+  QTimer mHoldTimer;
   QList<QPointF> mFingers;
   std::deque<Sample> mSamples;
   Sample mPress{};
@@ -60,6 +67,8 @@ class MapGestures {
   bool mIsDragging = false;
   bool mHadManyFingers = false;
   bool mIsTouch = false;
+  /// The fingers that are down have been taken for a long touch.
+  bool mIsSpent = false;
   bool mZoomsAboutCenter = false;
 };
 

@@ -40,12 +40,13 @@ class MapScene : public QSGNode {
 
 MapView::MapView(QQuickItem* parent)
     : QQuickItem(parent),
-      mGestures(mMotion, [this] { Q_EMIT tapped(); }),
+      mGestures(
+          mMotion, [this] { Q_EMIT tapped(); }, [this](QPointF at) { Q_EMIT menuAsked(at); }),
       mOverlayItem(new MapOverlayItem(this)),
       mAnnotationItem(new MapAnnotationItem(this)) {
   setFlag(ItemHasContents);
   setClip(true);
-  setAcceptedMouseButtons(Qt::LeftButton);
+  setAcceptedMouseButtons(Qt::LeftButton | Qt::RightButton);
   setAcceptTouchEvents(true);
   setActiveFocusOnTab(true);
   connect(&mMotion, &MapMotion::cameraChanged, this, &MapView::refresh);
@@ -129,12 +130,18 @@ Coordinate MapView::coordinateAtPoint(QPointF viewPoint) const {
   return coordinate;
 }
 
+QPointF MapView::placeAt(QPointF viewPoint) const {
+  const Coordinate place = coordinateAtPoint(viewPoint);
+  return {place.longitude, place.latitude};
+}
+
 void MapView::refresh() {
   setComplete(false);
   mOverlayItem->setCamera(mMotion.camera());
   mAnnotationItem->setCamera(mMotion.camera());
   polish();
   update();
+  Q_EMIT cameraMoved();
 }
 
 void MapView::setComplete(bool isComplete) {
@@ -228,21 +235,27 @@ QSGNode* MapView::updatePaintNode(QSGNode* node, UpdatePaintNodeData*) {
 
 void MapView::mousePressEvent(QMouseEvent* event) {
   forceActiveFocus(Qt::MouseFocusReason);
-  mGestures.setFingers({event->position()}, event->timestamp());
+  if (event->button() == Qt::LeftButton) {
+    mGestures.setFingers({event->position()}, event->timestamp());
+  } else if (!mGestures.hasFingers()) {
+    Q_EMIT menuAsked(event->position());
+  }
 }
 
 void MapView::mouseMoveEvent(QMouseEvent* event) {
+  if (!(event->buttons() & Qt::LeftButton)) return;
   mGestures.setFingers({event->position()}, event->timestamp());
   if (mGestures.isDragging()) setKeepMouseGrab(true);
 }
 
 void MapView::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
   setKeepMouseGrab(false);
   mGestures.setFingers({}, event->timestamp());
 }
 
 void MapView::mouseDoubleClickEvent(QMouseEvent* event) {
-  mGestures.doubleClick(event->position());
+  if (event->button() == Qt::LeftButton) mGestures.doubleClick(event->position());
 }
 
 void MapView::mouseUngrabEvent() {
@@ -267,6 +280,12 @@ void MapView::wheelEvent(QWheelEvent* event) {
 }
 
 void MapView::keyPressEvent(QKeyEvent* event) {
+  const bool asksForMenu = event->key() == Qt::Key_Menu ||
+                           (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier);
+  if (asksForMenu) {
+    Q_EMIT menuAsked(boundingRect().center());
+    return;
+  }
   event->setAccepted(mGestures.pressKey(*event));
 }
 

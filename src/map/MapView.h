@@ -79,6 +79,9 @@ class MapView : public QQuickItem {
   /// Where a coordinate is in the view, in points, also if that is out of sight.
   QPointF viewPoint(Coordinate coordinate) const;
   Coordinate coordinateAtPoint(QPointF viewPoint) const;
+  // The same for layouts, to which a place is a point of a longitude and a latitude.
+  Q_INVOKABLE QPointF pointOf(QPointF place) const { return viewPoint({place.y(), place.x()}); }
+  Q_INVOKABLE QPointF placeAt(QPointF viewPoint) const;
 
   /// Who is to be credited for what is in view.
   QString attribution() const { return mAttribution; }
@@ -89,6 +92,10 @@ class MapView : public QQuickItem {
   void regionWillChange(bool animated);
   void regionDidChange(bool animated);
   void tapped();
+  /// A menu is asked for at a point of the view, by the right button, a long touch or a key.
+  void menuAsked(QPointF at);
+  /// What is in view has changed, if only by a step of a move.
+  void cameraMoved();
   void attributionChanged();
   void completeChanged();
   void showsUserLocationChanged();

@@ -195,12 +195,67 @@ class Lexer {
     }
     if (at(mAt) == U'.' && !isDigit(at(mAt + 1))) ++mAt;  // "57." or the end of a sentence.
     if (count == 0 || count > 40) return false;
+    if (!token.isSigned && isCompact(std::min(digits.find('.'), digits.size()))) {
+      return addCompact(digits);
+    }
     std::from_chars(digits.data(), digits.data() + digits.size(), token.value);
     token.isSigned = token.isSigned || std::signbit(token.value);
     return add(token);
   }
 
+  /// Whether so many whole digits, of which the last are before the text's current place, are
+  /// degrees, minutes and perhaps seconds in one, as in 402646N 0795856W.
+  bool isCompact(std::size_t digits) const {
+    const char32_t side = small(at(mAt));
+    const bool isLatitude = side == U'n' || side == U's';
+    const bool isLongitude = side == U'e' || side == U'w';
+    const bool isAlone = mTokens.list.empty() || (mTokens.list.back().kind != Kind::Number &&
+                                                  mTokens.list.back().kind != Kind::Mark);
+    const bool isWhole = digits == 4 || digits == 6;
+    return isAlone && !isLetter(at(mAt + 1)) &&
+           ((isLatitude && isWhole) || (isLongitude && digits >= 4 && digits <= 7));
+  }
+
+  bool addCompact(const std::string& digits) {
+    const std::size_t whole = std::min(digits.find('.'), digits.size());
+    const std::size_t units = whole < 6 ? 2 : 3;
+    std::size_t from = 0;
+    for (std::size_t unit = 0; unit < units; ++unit) {
+      const std::size_t end = unit + 1 == units ? digits.size() : whole - 2 * (units - 1 - unit);
+      DegreesToken number{.kind = Kind::Number};
+      std::from_chars(digits.data() + from, digits.data() + end, number.value);
+      number.hasFraction = end > whole;
+      add(number);
+      add({.kind = Kind::Mark, .unit = unit});
+      from = end;
+    }
+    return true;
+  }
+
+  /// The unit that a letter right behind a number marks: 57d42m27s.
+  std::optional<std::size_t> letterUnit() const {
+    const std::vector<DegreesToken>& list = mTokens.list;
+    const bool isBehindNumber = mAt > 0 && (isDigit(mText[mAt - 1]) || mText[mAt - 1] == U'.') &&
+                                !list.empty() && list.back().kind == Kind::Number;
+    if (!isBehindNumber) return std::nullopt;
+    const bool isAlone = !isLetter(at(mAt + 1));
+    const auto isBehindUnit = [&](std::size_t unit) {
+      return list.size() > 1 && list[list.size() - 2].kind == Kind::Mark &&
+             list[list.size() - 2].unit == unit;
+    };
+    const char32_t letter = at(mAt);
+    if (small(letter) == U'd' && isAlone) return 0;
+    if (small(letter) == U'm' && isAlone && isBehindUnit(0)) return 1;
+    // A capital one at the end is the south.
+    if (small(letter) == U's' && isBehindUnit(1) && (letter == U's' || !isAlone)) return 2;
+    return std::nullopt;
+  }
+
   bool takeWord(bool isQuoted) {
+    if (const auto unit = letterUnit(); unit && !isQuoted) {
+      ++mAt;
+      return add({.kind = Kind::Mark, .unit = *unit});
+    }
     const std::size_t begin = mAt;
     std::u32string word;
     while (isLetter(at(mAt)) || (at(mAt) == U'°' && !word.empty() && word.back() > 0x2E80)) {

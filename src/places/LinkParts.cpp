@@ -12,19 +12,11 @@ int hexDigit(char character) {
   return letter >= 'a' && letter <= 'f' ? letter - 'a' + 10 : -1;
 }
 
+/// In queries a blank is a plus.
 std::string decoded(std::string_view text) {
-  std::string result;
-  for (std::size_t at = 0; at < text.size(); ++at) {
-    const bool isEscape = text[at] == '%' && at + 2 < text.size() && hexDigit(text[at + 1]) >= 0 &&
-                          hexDigit(text[at + 2]) >= 0;
-    if (isEscape) {
-      result += static_cast<char>(hexDigit(text[at + 1]) * 16 + hexDigit(text[at + 2]));
-      at += 2;
-    } else {
-      result += text[at] == '+' ? ' ' : text[at];
-    }
-  }
-  return result;
+  std::string spaced(text);
+  std::replace(spaced.begin(), spaced.end(), '+', ' ');
+  return unescaped(spaced);
 }
 
 void addParameters(std::string_view text, LinkParameters& parameters) {
@@ -36,6 +28,21 @@ void addParameters(std::string_view text, LinkParameters& parameters) {
 }
 
 }  // namespace
+
+std::string unescaped(std::string_view text) {
+  std::string result;
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    const bool isEscape = text[at] == '%' && at + 2 < text.size() && hexDigit(text[at + 1]) >= 0 &&
+                          hexDigit(text[at + 2]) >= 0;
+    if (isEscape) {
+      result += static_cast<char>(hexDigit(text[at + 1]) * 16 + hexDigit(text[at + 2]));
+      at += 2;
+    } else {
+      result += text[at];
+    }
+  }
+  return result;
+}
 
 LinkParts linkParts(std::string_view text) {
   LinkParts link;
@@ -50,6 +57,7 @@ LinkParts linkParts(std::string_view text) {
   link.host = takeUntil(path, '/');
   while (!path.empty()) link.path.push_back(decoded(takeUntil(path, '/')));
   addParameters(query, link.parameters);
+  link.query = decoded(query);
   link.fragment = decoded(fragment);
   if (fragment.find('=') != fragment.npos) addParameters(fragment, link.parameters);
   return link;

@@ -17,6 +17,8 @@ struct LinkParts {
   std::vector<std::string> path;
   /// Those of the query, then those of the fragment.
   LinkParameters parameters;
+  /// All of it, as there are queries without names.
+  std::string query;
   std::string fragment;
 };
 
@@ -25,6 +27,9 @@ LinkParts linkParts(std::string_view link);
 
 /// The parameters of a query: "a=1&b=2".
 LinkParameters linkParameters(std::string_view query);
+
+/// A text without the escapes of links: "%2C" is a comma, "+" stays.
+std::string unescaped(std::string_view text);
 
 /// The value of the first parameter of a name; null when there is none.
 const std::string* valueOf(const LinkParameters& parameters, std::string_view name);

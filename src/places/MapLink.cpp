@@ -1,145 +1,19 @@
 #include "places/MapLink.h"
 
 #include <algorithm>
-#include <charconv>
-#include <cmath>
 #include <functional>
 #include <span>
 
 #include "places/AsciiCapitals.h"
 #include "places/DegreesText.h"
 #include "places/LinkParts.h"
+#include "places/MapLinkForms.h"
 
 namespace wayloom {
 
 namespace {
 
-enum class Order { LatitudeFirst, LongitudeFirst };
-/// What may follow a pair of numbers besides a label in brackets.
-enum class Behind { Nothing, Anything };
-
-/// A parameter that holds a whole position, on hosts whose name has `host` in it.
-struct PairForm {
-  std::string_view host;
-  std::string_view name;
-  Order order = Order::LatitudeFirst;
-  Behind behind = Behind::Nothing;
-};
-
-/// Two parameters that hold one.
-struct SplitForm {
-  std::string_view host;
-  std::string_view latitude, longitude;
-};
-
-constexpr SplitForm kSplitPins[] = {{"", "mlat", "mlon"},
-                                    {"", "lat", "lon"},
-                                    {"", "lat", "lng"},
-                                    {"", "lat", "long"},
-                                    {"", "latitude", "longitude"}};
-constexpr SplitForm kSplitViews[] = {{"mapy.", "y", "x"}};
-// Where a pin stands or a drive ends.
-constexpr PairForm kPins[] = {
-    {"yandex.", "whatshere[point]", Order::LongitudeFirst},
-    {"yandex.", "pt", Order::LongitudeFirst, Behind::Anything},
-    {"mapy.", "id", Order::LongitudeFirst},
-    {"", "pin"},
-    {"", "coordinate"},
-    {"", "latlng"},
-    {"", "daddr"},
-    {"", "destination"},
-    {"", "to"},
-    {"", "q"},
-    {"", "query"},
-    {"", "text"},
-    {"", "address"},
-    {"", "loc"},
-    {"", "location"},
-    {"", "point"},
-    {"", "sp", Order::LatitudeFirst, Behind::Anything},
-};
-constexpr std::string_view kDestinationWords[] = {"daddr", "destination", "to"};
-// What is shown, with a pin or without.
-constexpr PairForm kShown[] = {
-    {"yandex.", "ll", Order::LongitudeFirst},
-    {"2gis.", "m", Order::LongitudeFirst, Behind::Anything},
-    {"", "ll"},
-    {"", "cbll"},
-    {"", "viewpoint"},
-};
-constexpr std::string_view kSearchWords[] = {"q", "query", "text", "address"};
-// The middle of the view.
-constexpr PairForm kViews[] = {
-    {"", "sll"},
-    {"", "center"},
-    {"", "cp"},
-    {"", "map", Order::LatitudeFirst, Behind::Anything},
-    {"", "c", Order::LatitudeFirst, Behind::Anything},
-};
 constexpr std::string_view kSchemes[] = {"geo:", "google.navigation:", "bingmaps:", "maps:"};
-
-using Found = std::optional<Result<LinkTarget>>;
-
-std::optional<double> takeNumber(std::string_view& text) {
-  if (text.starts_with('+')) text.remove_prefix(1);
-  double number = 0;
-  const auto read =
-      std::from_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed);
-  if (read.ec != std::errc() || !std::isfinite(number)) return std::nullopt;
-  text.remove_prefix(static_cast<std::size_t>(read.ptr - text.data()));
-  return number;
-}
-
-/// The same for numbers with a point. Whole ones in links are anything: days, issues, pages.
-std::optional<double> takeFraction(std::string_view& text) {
-  const std::string_view before = text;
-  const auto number = takeNumber(text);
-  const std::string_view taken = before.substr(0, before.size() - text.size());
-  return taken.find('.') == taken.npos ? std::nullopt : number;
-}
-
-void skipBlanks(std::string_view& text) {
-  while (text.starts_with(' ')) text.remove_prefix(1);
-}
-
-Found checked(Coordinate position) {
-  const auto result = checkedPosition(position);
-  return result ? Result<LinkTarget>(*result) : Result<LinkTarget>(result.failure());
-}
-
-/// "57.7,11.97", "57.7~11.97", "57.7, 11.97 (Home)", and, where anything may follow,
-/// "57.7,11.97,17z", "57.7_11.97_Home" and the like.
-std::optional<Coordinate> pairIn(std::string_view text, Order order, Behind behind) {
-  for (const std::string_view prefix : {"loc:", "ll.", "point."}) {
-    if (text.starts_with(prefix)) text.remove_prefix(prefix.size());
-  }
-  const bool isFree = behind == Behind::Anything;
-  const std::string_view between = isFree ? ",~;_/" : ",~;";
-  skipBlanks(text);
-  const auto first = takeFraction(text);
-  const bool isSpaced = text.starts_with(' ');
-  skipBlanks(text);
-  const bool isSeparated = !text.empty() && between.find(text.front()) != between.npos;
-  if (!first || (!isSeparated && !isSpaced)) return std::nullopt;
-  if (isSeparated) text.remove_prefix(1);
-  skipBlanks(text);
-  const auto second = takeFraction(text);
-  skipBlanks(text);
-  const bool isOver =
-      text.empty() || text.front() == '(' || (isFree && between.find(text.front()) != between.npos);
-  if (!second || !isOver) return std::nullopt;
-  return order == Order::LatitudeFirst ? Coordinate{*first, *second} : Coordinate{*second, *first};
-}
-
-/// A position in numbers, or in degrees as people write them.
-Found positionIn(const std::string& value, Order order, Behind behind) {
-  if (const auto pair = pairIn(value, order, behind)) return checked(*pair);
-  const auto plain = plainText(value);
-  if (!plain || plain->find(U'°') == plain->npos) return std::nullopt;
-  const auto position = readDegrees(*plain, "");
-  if (!position) return std::nullopt;
-  return *position ? checked(**position) : Result<LinkTarget>(position->failure());
-}
 
 bool isOn(const LinkParts& link, std::string_view host) {
   return link.host.find(host) != std::string::npos;
@@ -239,12 +113,47 @@ Found targetBehind(const LinkParts& link, std::string_view folder) {
   return hasLetter(*target) ? Found(LinkTarget(*target)) : std::nullopt;
 }
 
-/// "/directions?route=57.1,11.2;57.7,11.97".
-Found routePosition(const LinkParts& link) {
-  const std::string* route = valueOf(link.parameters, "route");
-  if (!route) return std::nullopt;
-  const std::string end = route->substr(route->rfind(';') + 1);
-  return positionIn(end, Order::LatitudeFirst, Behind::Nothing);
+/// "/directions?route=57.1,11.2;57.7,11.97", "?rtp=adr.Home~pos.57.7_11.97".
+Found stopsPosition(const LinkParts& link) {
+  for (const StopsForm& form : kStops) {
+    const std::string* stops = valueOf(link.parameters, form.name);
+    if (!stops) continue;
+    std::string last = stops->substr(stops->rfind(form.between) + 1);
+    if (Found found = positionIn(last, Order::LatitudeFirst, Behind::Anything)) return found;
+    if (last.starts_with("adr.")) return LinkTarget(last.substr(4));
+  }
+  return std::nullopt;
+}
+
+/// "/directions/drive/Home:57.1,11.2/Work:57.7,11.97", "/link/to/Home,57.7,11.97": what is called
+/// by a name before its position.
+Found namedPosition(const LinkParts& link) {
+  const bool isKakao = isOn(link, "kakao.");
+  if (link.path.empty() || (!isKakao && !isOn(link, "here."))) return std::nullopt;
+  std::string last = link.path.back();
+  if (isKakao) {
+    const std::size_t comma = last.rfind(',');
+    const std::size_t before =
+        comma == 0 || comma == last.npos ? last.npos : last.rfind(',', comma - 1);
+    if (before != last.npos) last.erase(0, before + 1);
+  } else {
+    last.erase(0, last.rfind(':') + 1);
+  }
+  return positionIn(last, Order::LatitudeFirst, Behind::Anything);
+}
+
+/// "/57.7/11.97", a place that was picked, and "?waves,57.6,11.9,8", what is in view.
+Found weatherPosition(const LinkParts& link) {
+  if (!isOn(link, "windy.")) return std::nullopt;
+  if (link.path.size() >= 2) {
+    const std::string picked = link.path[link.path.size() - 2] + ',' + link.path.back();
+    if (Found found = positionIn(picked, Order::LatitudeFirst, Behind::Nothing)) return found;
+  }
+  for (std::string_view view = link.query; !view.empty(); takeUntil(view, ',')) {
+    if (const auto pair = pairIn(view, Order::LatitudeFirst, Behind::Anything))
+      return checked(*pair);
+  }
+  return std::nullopt;
 }
 
 Found pathPosition(const LinkParts& link, bool wantsView) {
@@ -306,7 +215,8 @@ std::optional<Coordinate> geoPosition(std::string_view text) {
 Result<LinkTarget> readGeoAddress(std::string_view address) {
   address.remove_prefix(4);
   std::string_view query = address;
-  std::string_view rest = takeUntil(query, '?');
+  const std::string path = unescaped(takeUntil(query, '?'));
+  std::string_view rest = path;
   const LinkParameters parameters = linkParameters(query);
   const auto position = geoPosition(takeUntil(rest, ';'));
   while (!rest.empty()) {
@@ -372,7 +282,9 @@ Result<LinkTarget> readMapLink(std::string_view text) {
       [&] { return markedPosition(link); },
       [&] { return pairPosition(link, kPins); },
       [&] { return encyclopediaPosition(link); },
-      [&] { return routePosition(link); },
+      [&] { return stopsPosition(link); },
+      [&] { return namedPosition(link); },
+      [&] { return weatherPosition(link); },
       [&] { return wordsIn(link, kDestinationWords); },
       [&] { return targetBehind(link, "dir"); },
       [&] { return pairPosition(link, kShown); },

@@ -2,8 +2,10 @@
 
 #include <utility>
 
+#include "kit/CopiedPosition.h"
 #include "kit/LocalizedText.h"
 #include "map/ShownPoint.h"
+#include "settings/TextConversions.h"
 #include "settings/TrimmedText.h"
 
 namespace wayloom {
@@ -45,6 +47,7 @@ void SelectAddressViewController::locationFailed(Location* /*location*/,
 void SelectAddressViewController::regionWillChange() {
   // Until the map has settled there is nothing that OK could hand back.
   mIsLoading = true;
+  mCoordinatesText.clear();
   showAddress({}, true);
 }
 
@@ -53,6 +56,8 @@ void SelectAddressViewController::regionDidChange() {
   const Coordinate center = mMainMapView->region().center;
   latitude = center.latitude;
   longitude = center.longitude;
+  mCoordinatesText = QString::fromStdString(coordinateText(center));
+  Q_EMIT changed();
   mServices.location.addressWithCoordinate(center, this);
 }
 
@@ -124,6 +129,11 @@ void SelectAddressViewController::geocoderCoordinateFailed(
   mIsLoading = false;
   hideHUDView();
   mServices.alerts.show("", "Search Failed", "OK");
+}
+
+void SelectAddressViewController::copyCoordinates() {
+  const QString hint = copiedPosition({latitude, longitude});
+  if (!hint.isEmpty()) showHUDHintText(hint);
 }
 
 void SelectAddressViewController::okButtonClicked() {

@@ -21,6 +21,7 @@ class SelectAddressViewController : public wayloom::BaseViewController, public L
   QML_UNCREATABLE("the application makes it")
   Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY changed)
   Q_PROPERTY(QString addressText READ addressText NOTIFY changed)
+  Q_PROPERTY(QString coordinatesText READ coordinatesText NOTIFY changed)
   Q_PROPERTY(bool spinning READ spinning NOTIFY changed)
   Q_PROPERTY(wayloom::SearchList* searchList READ searchList CONSTANT)
 
@@ -49,6 +50,8 @@ class SelectAddressViewController : public wayloom::BaseViewController, public L
   /// Searches what a row of the list offers, as if it had been typed.
   Q_INVOKABLE void chooseSearch(int row);
   Q_INVOKABLE void mineLocationButtonClicked();
+  /// Copies the position whose address is shown.
+  Q_INVOKABLE void copyCoordinates();
   Q_INVOKABLE void okButtonClicked();
   Q_INVOKABLE void cancelButtonClicked();
   /// Leaving by key is a cancel.
@@ -67,6 +70,8 @@ class SelectAddressViewController : public wayloom::BaseViewController, public L
   QString searchText() const { return mSearchText; }
   void setSearchText(const QString& text);
   QString addressText() const { return mAddressText; }
+  /// Empty while the map moves.
+  QString coordinatesText() const { return mCoordinatesText; }
   bool spinning() const { return mSpinning; }
   SearchList* searchList() { return &mSearchList; }
 
@@ -94,6 +99,7 @@ class SelectAddressViewController : public wayloom::BaseViewController, public L
 
   QString mSearchText;
   QString mAddressText;
+  QString mCoordinatesText;
   bool mSpinning = false;
 };
 

@@ -105,8 +105,10 @@ FocusScope {
             x: FlatPalette.margin
             y: searchRow.height + 4
             width: parent.width - 2 * FlatPalette.margin
-            text: root.controller.addressText
+            address: root.controller.addressText
+            coordinates: root.controller.coordinatesText
             spinning: root.controller.spinning
+            onClicked: root.controller.copyCoordinates()
         }
 
         Rectangle {

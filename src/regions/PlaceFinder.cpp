@@ -147,16 +147,6 @@ PlaceFinder::Candidates PlaceFinder::asTyped(const SearchText& text) {
   const auto isUnlikely = [&](const Candidate& each) { return !isMeant(each, text.length(), 0); };
   if (std::all_of(found.begin(), found.end(), isUnlikely)) found.clear();
   for (Candidate& each : found) each.score -= isUnlikely(each) ? kUnlikely : 0;
-  if (found.empty() && text.hasHouseNumber()) found = streets(text);
-  return found;
-}
-
-PlaceFinder::Candidates PlaceFinder::streets(const SearchText& address) {
-  const auto words = address.withoutNumbers();
-  if (!words || !words->saysSomething()) return {};
-  auto found = matching(*words, SearchText::Match::kWholeWords);
-  std::erase_if(
-      found, [](const Candidate& candidate) { return candidate.place.kind != PlaceKind::kStreet; });
   return found;
 }
 
@@ -165,7 +155,6 @@ PlaceFinder::Candidates PlaceFinder::misspelt(const SearchText& text) {
     const auto correction = corrected(text, edits);
     if (!correction) continue;
     Candidates found = matching(*correction, SearchText::Match::kWholeWords);
-    if (found.empty() && correction->hasHouseNumber()) found = streets(*correction);
     std::erase_if(found,
                   [&](const Candidate& each) { return !isMeant(each, text.length(), edits); });
     if (!found.empty()) return found;

@@ -39,10 +39,8 @@ class PlaceFinder {
 
   /// The places that hold every word, whole or as far as `match` says.
   Candidates matching(const SearchText& text, SearchText::Match match);
-  /// As it was typed: unfinished words, and houses that are not known on a street that is.
+  /// As it was typed, or with unfinished words.
   Candidates asTyped(const SearchText& text);
-  /// The streets of an address whose numbers are not known.
-  Candidates streets(const SearchText& address);
   /// With words that no place has taken for ones that are similar.
   Candidates misspelt(const SearchText& text);
   /// How much less what is typed in full stands out while somebody goes on typing.

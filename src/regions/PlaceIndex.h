@@ -22,9 +22,9 @@ class PlaceIndex {
 
   /// The places that a text names, best first: those of exactly this name, the important ones, and
   /// those close to `near`. Case, accents, alphabet and the order of words do not matter, and words
-  /// of three letters and more may be unfinished; but each word must be found, numbers as they are,
-  /// unless one may be a house's and its street is found. When nothing is, words may be misspelt,
-  /// as far as what they come near to is well enough known to be meant. Any text is allowed.
+  /// of three letters and more may be unfinished; but each word must be found, numbers as they are.
+  /// When nothing is, words may be misspelt, as far as what they come near to is well enough known
+  /// to be meant. Any text is allowed.
   std::vector<Place> search(std::string_view text, std::optional<Coordinate> near,
                             std::size_t limit = 20);
 

@@ -42,6 +42,18 @@ bool isFragment(const std::string& word) {
   return word.size() < kShortestBeginning || hasDigit(word);
 }
 
+// Words of three letters and more that carry no meaning by themselves in the program's languages.
+bool isJoiningWord(std::string_view word) {
+  static constexpr std::string_view kWords[] = {
+      "and",  "are",  "but", "for",  "from", "into", "near", "nor", "not",  "off",  "out",
+      "than", "that", "the", "this", "was",  "with", "aus",  "bei", "das",  "dem",  "den",
+      "der",  "des",  "die", "ein",  "eine", "fur",  "fuer", "ist", "mit",  "nach", "nicht",
+      "oder", "und",  "vom", "von",  "vor",  "zum",  "zur",  "aux", "avec", "chez", "dans",
+      "est",  "les",  "par", "pas",  "pour", "sur",  "une",  "con", "del",  "las",  "los",
+      "para", "por",  "que", "sin",  "una",  "unos"};
+  return std::find(std::begin(kWords), std::end(kWords), word) != std::end(kWords);
+}
+
 // Folded words hold no quotes, so quoting them makes them text whatever they look like.
 std::string quoted(const std::string& word) {
   return std::string("\"").append(word).append("\"");
@@ -128,15 +140,8 @@ std::size_t SearchText::length() const {
 bool SearchText::saysSomething() const {
   return std::any_of(mWords.begin(), mWords.end(), [](const Word& forms) {
     const std::string& word = forms.front();
-    return !isFragment(word) || (hasDigit(word) && word.size() >= kShortestNumber);
-  });
-}
-
-bool SearchText::hasHouseNumber() const {
-  return std::any_of(mWords.begin(), mWords.end(), [](const Word& forms) {
-    const std::string& word = forms.front();
-    const std::size_t digits = std::min(word.find_first_not_of("0123456789"), word.size());
-    return digits >= 1 && digits <= 4 && word[0] != '0' && word.size() <= digits + 1;
+    if (hasDigit(word)) return word.size() >= kShortestNumber;
+    return !isFragment(word) && !isJoiningWord(word);
   });
 }
 

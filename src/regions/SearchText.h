@@ -43,11 +43,9 @@ class SearchText {
   /// The same with a word replaced by any of others, at least one.
   SearchText with(std::size_t number, std::vector<std::string> others) const;
 
-  /// Whether there is more than fragments of one or two letters and short numbers.
+  /// Whether there is more than fragments of one or two letters, short numbers, and words that only
+  /// join others: "of the", "bei der".
   bool saysSomething() const;
-
-  /// Whether a word looks like the number of a house: 7, 12b, 1024.
-  bool hasHouseNumber() const;
 
   /// Without words that hold a digit (house numbers, postal codes), when others are left.
   std::optional<SearchText> withoutNumbers() const;

@@ -23,7 +23,9 @@ WayloomViewController::WayloomViewController(const Services& services, QObject* 
     : BaseViewController(parent),
       mServices(services),
       mSimulation(services.files, services.clock, services.background),
-      mPlan(services.directions, this) {
+      mPlan(services.directions, this),
+      mFavorites(services.files),
+      mStars(services.files) {
   mTimer.setInterval(kTick);
   connect(&mTimer, &QTimer::timeout, this, &WayloomViewController::refreshLocation);
   mChoiceTimer.setInterval(kChoiceTick);
@@ -41,6 +43,7 @@ void WayloomViewController::viewDidLoad(MapView* map) {
   mv_main = map;
   map->setTileSource(mServices.tiles);
   mPlan.setMapView(map);
+  mStars.setMap(map);
   mPlan.setPoints({});
   update([](View& view) {
     view.startText = localizedText("Please choose Start");
@@ -91,12 +94,14 @@ void WayloomViewController::refresh() {
 }
 
 void WayloomViewController::viewWillAppear() {
+  mStars.followFiles();
   refresh();
   showSwitch();
 }
 
 void WayloomViewController::followFiles() {
   if (!mv_main || mSimulation.isWriting()) return;
+  mStars.followFiles();
   if (!mSimulation.isCurrent()) refresh();
   const RoutePreferences& preferences = mSimulation.preferences();
   showStatus();

@@ -10,7 +10,9 @@
 #include "kit/DatePicker.h"
 #include "kit/ScreenSwitcher.h"
 #include "kit/StatusText.h"
+#include "lists/FavoriteStars.h"
 #include "map/MapView.h"
+#include "places/AddressQuestion.h"
 #include "places/LocationClass.h"
 #include "platform/Alerts.h"
 #include "route/PathPlan.h"
@@ -34,6 +36,7 @@ class WayloomViewController : public wayloom::BaseViewController, public Locatio
   Q_PROPERTY(QString endTimeText READ endTimeText NOTIFY changed)
   Q_PROPERTY(QString tipText READ tipText NOTIFY changed)
   Q_PROPERTY(wayloom::StatusText* status READ status CONSTANT)
+  Q_PROPERTY(wayloom::FavoriteStars* stars READ stars CONSTANT)
   Q_PROPERTY(wayloom::DatePicker* picker READ picker CONSTANT)
 
  public:
@@ -75,6 +78,13 @@ class WayloomViewController : public wayloom::BaseViewController, public Locatio
   Q_INVOKABLE void startTimeTapped();
   Q_INVOKABLE void endTimeTapped();
 
+  // Of the map's menu, to which a place is a point of a longitude and a latitude. A place without a
+  // name is given its address.
+  Q_INVOKABLE void startAt(QPointF place, const QString& name);
+  Q_INVOKABLE void endAt(QPointF place, const QString& name);
+  Q_INVOKABLE void saveFavoriteAt(QPointF place);
+  Q_INVOKABLE void copyPosition(QPointF place);
+
   void showDatePicker();
   void hideDatePicker();
   void pickerValueChanged();
@@ -99,6 +109,7 @@ class WayloomViewController : public wayloom::BaseViewController, public Locatio
   QString tipText() const { return mView.tipText; }
   StatusText* status() { return &mStatus; }
   DatePicker* picker() { return &dp_drive; }
+  FavoriteStars* stars() { return &mStars; }
 
  Q_SIGNALS:
   void changed();
@@ -153,6 +164,9 @@ class WayloomViewController : public wayloom::BaseViewController, public Locatio
   /// Shows a hint and is true while the drive is on.
   bool refusesEdit();
   void chooseAddress(Coordinate& place, QString View::*label);
+  void choosePlace(QPointF chosen, const QString& name, Coordinate& place, QString View::*label,
+                   AddressQuestion& question);
+  void setPlace(Coordinate& place, QString View::*label, Coordinate chosen, const QString& address);
   RouteChoices choices() const;
   /// A chosen time as its label shows it.
   static QString timeText(double secondsSince1970);
@@ -160,6 +174,9 @@ class WayloomViewController : public wayloom::BaseViewController, public Locatio
   Services mServices;
   RouteSimulation mSimulation;
   PathPlan mPlan;
+  Favorites mFavorites;
+  FavoriteStars mStars;
+  AddressQuestion mStartQuestion, mEndQuestion, mFavoriteQuestion;
   DatePicker dp_drive;
   QPointer<MapView> mv_main;
   QTimer mTimer;

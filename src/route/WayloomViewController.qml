@@ -12,6 +12,12 @@ FocusScope {
 
     Component.onCompleted: controller.viewDidLoad(mv_main)
 
+    function openMenu(place: point, name: string) {
+        mapMenu.place = place
+        mapMenu.name = name
+        mapMenu.open(mv_main.mapToItem(mapMenu, mv_main.pointOf(place)))
+    }
+
     // While a date is chosen, neither touches nor the keyboard reach what lies under it.
     Item {
         anchors.fill: parent
@@ -26,8 +32,16 @@ FocusScope {
             anchors.topMargin: Math.min(v_top.y, v_top.restingY) + v_top.height + v_top.statusHeight
             focus: true
             onTapped: mv_main.forceActiveFocus()
+            onMenuAsked: at => root.openMenu(mv_main.placeAt(at), "")
             Accessible.role: Accessible.Graphic
             Accessible.name: qsTranslate("Wayloom", "Map")
+        }
+
+        StarLayer {
+            anchors.fill: mv_main
+            map: mv_main
+            stars: root.controller.stars
+            onChosen: (row, place, name) => root.openMenu(place, name)
         }
 
         Attribution {
@@ -67,6 +81,20 @@ FocusScope {
             width: parent.width
             controller: root.controller
         }
+    }
+
+    MapMenu {
+        id: mapMenu
+
+        anchors.fill: parent
+        title: name.length > 0 ? name : place.y.toFixed(6) + ", " + place.x.toFixed(6)
+        actions: [
+            {text: qsTranslate("Wayloom", "Start here"), run: (there, what) => root.controller.startAt(there, what)},
+            {text: qsTranslate("Wayloom", "End here"), run: (there, what) => root.controller.endAt(there, what)},
+            {text: qsTranslate("Wayloom", "Save as favorite"), isForUnnamed: true, run: there => root.controller.saveFavoriteAt(there)},
+            {text: qsTranslate("Wayloom", "Copy coordinates"), run: there => root.controller.copyPosition(there)}
+        ].filter(action => name.length === 0 || !action.isForUnnamed)
+        onClosed: mv_main.forceActiveFocus()
     }
 
     DatePanel {

@@ -4,6 +4,7 @@
 
 #include <QtCore/QDateTime>
 
+#include "kit/CopiedPosition.h"
 #include "kit/LocalizedText.h"
 #include "route/WayloomViewController.h"
 
@@ -40,12 +41,52 @@ void WayloomViewController::endTapped() {
 void WayloomViewController::chooseAddress(Coordinate& place, QString View::*label) {
   mServices.screens.presentSelectAddress(
       [this, &place, label](double latitude, double longitude, const QString& address) {
-        if (!isChosen({latitude, longitude})) return;
-        place = {latitude, longitude};
-        update([&](View& view) { view.*label = address; });
-        showChoices();
-        drawMapLine();
+        if (isChosen({latitude, longitude})) setPlace(place, label, {latitude, longitude}, address);
       });
+}
+
+void WayloomViewController::setPlace(Coordinate& place, QString View::*label, Coordinate chosen,
+                                     const QString& address) {
+  place = chosen;
+  update([&](View& view) { view.*label = address; });
+  showChoices();
+  drawMapLine();
+}
+
+void WayloomViewController::startAt(QPointF place, const QString& name) {
+  choosePlace(place, name, mStartCoordinate, &View::startText, mStartQuestion);
+}
+
+void WayloomViewController::endAt(QPointF place, const QString& name) {
+  choosePlace(place, name, mEndCoordinate, &View::endText, mEndQuestion);
+}
+
+void WayloomViewController::choosePlace(QPointF chosen, const QString& name, Coordinate& place,
+                                        QString View::*label, AddressQuestion& question) {
+  const Coordinate there{chosen.y(), chosen.x()};
+  if (refusesEdit()) return;
+  if (!name.isEmpty()) return setPlace(place, label, there, name);
+  question.ask(mServices.location, there, [this, &place, label, there](const std::string& address) {
+    if (refusesEdit()) return;
+    setPlace(place, label, there,
+             address.empty() ? localizedText("Unknow") : QString::fromStdString(address));
+  });
+}
+
+void WayloomViewController::saveFavoriteAt(QPointF place) {
+  const Coordinate there{place.y(), place.x()};
+  mFavoriteQuestion.ask(mServices.location, there, [this, there](const std::string& address) {
+    const std::string unnamed = localizedText("Unknow").toStdString();
+    if (!report(mFavorites.add(address, there, unnamed))) return;
+    mStars.followFiles();
+    showHUDHintText(
+        localizedText(Phrase{"Added to favorites: %1", {address.empty() ? unnamed : address}}));
+  });
+}
+
+void WayloomViewController::copyPosition(QPointF place) {
+  const QString hint = copiedPosition({place.y(), place.x()});
+  if (!hint.isEmpty()) showHUDHintText(hint);
 }
 
 void WayloomViewController::startTimeTapped() {

@@ -73,7 +73,8 @@ TEST_F(WayloomctlTest, AnswersBadInputInOneShortLine) {
   } cases[] = {
       {"", 2, "no command"},
       {"mode sideways", 2, "sideways"},
-      {"fixed on 91,0", 2, "no position"},
+      {"fixed on 91,0", 2, "latitude 91 is beyond 90 degrees"},
+      {"fixed on 9,-180.5", 2, "longitude -180.5 is beyond 180 degrees"},
       {"fixed on 1,2,3", 2, "no position"},
       {"fixed on '#:nan,1'", 2, "no position"},
       {"fixed on 1e400,0", 2, "no position"},

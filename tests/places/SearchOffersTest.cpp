@@ -7,17 +7,6 @@ namespace {
 
 using Searches = std::vector<RecentSearch>;
 
-/// Keeps questions for names until the test answers them.
-class FakeSuggestions : public PlaceSuggestions {
- public:
-  void suggest(const std::string& text, std::optional<Coordinate> /*near*/,
-               Completion completion) override {
-    questions.emplace_back(text, std::move(completion));
-  }
-
-  std::vector<std::pair<std::string, Completion>> questions;
-};
-
 Place named(const std::string& name) {
   Place place;
   place.name = name;

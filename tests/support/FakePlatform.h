@@ -8,6 +8,7 @@
 #include "places/LocationPlatform.h"
 #include "platform/Clock.h"
 #include "platform/Directions.h"
+#include "platform/PlaceSuggestions.h"
 
 namespace wayloom {
 
@@ -41,6 +42,17 @@ class FakeGeocoder : public Geocoder {
 
   std::vector<std::pair<std::string, Completion>> addresses;
   std::vector<std::pair<Coordinate, Completion>> coordinates;
+};
+
+/// Suggestions that keep the questions until the test answers them.
+class FakeSuggestions : public PlaceSuggestions {
+ public:
+  void suggest(const std::string& text, std::optional<Coordinate> /*near*/,
+               Completion completion) override {
+    questions.emplace_back(text, std::move(completion));
+  }
+
+  std::vector<std::pair<std::string, Completion>> questions;
 };
 
 /// A platform of fakes; the position source that it made last is left in `source`.

@@ -62,7 +62,11 @@ bool Tour::start() {
 
 bool Tour::pinPlace() {
   if (!mWindow.click("searchField")) return false;
-  mWindow.type(QStringLiteral("kungsportsavenyn göteborg"));
+  mWindow.type(QStringLiteral("kungsp"));
+  const auto isOffered = [this] { return mWindow.isShown("searchList"); };
+  if (!mWindow.waitUntil("the suggestions", isOffered)) return false;
+  if (!mWindow.savePicture("suggestions")) return false;
+  mWindow.type(QStringLiteral("ortsavenyn göteborg"));
   mWindow.press(Qt::Key_Return);
   const bool found = mWindow.waitUntil("the searched address", [this] {
     return !mWindow.property("HUD", "shown").toBool() && !mWindow.isShown("spinner") &&
@@ -94,7 +98,16 @@ bool Tour::seeFavorites() {
          mWindow.savePicture("favourites") && mWindow.click("editButton") &&
          mWindow.savePicture("favourites-edit") && mWindow.click("editButton") &&
          mWindow.clickRow(0) && mWindow.waitForScreen("mainMapView") &&
-         mWindow.waitForMap("mainMapView") && mWindow.savePicture("chosen");
+         mWindow.waitForMap("mainMapView") && mWindow.savePicture("chosen") && seeMenu();
+}
+
+bool Tour::seeMenu() {
+  mWindow.press(Qt::Key_Menu);
+  const bool shown =
+      mWindow.waitUntil("the map's menu", [this] { return mWindow.isShown("mapMenu"); });
+  if (!shown || !mWindow.savePicture("menu")) return false;
+  mWindow.press(Qt::Key_Escape);
+  return true;
 }
 
 bool Tour::seeInformation() {

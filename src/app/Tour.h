@@ -20,6 +20,7 @@ class Tour {
   bool pinPlace();
   bool saveFavorite();
   bool seeFavorites();
+  bool seeMenu();
   bool seeInformation();
   bool changeToRoute();
   bool planDrive();

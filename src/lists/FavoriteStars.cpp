@@ -1,5 +1,6 @@
 #include "lists/FavoriteStars.h"
 
+#include <chrono>
 #include <utility>
 
 #include "kit/ShownText.h"
@@ -9,17 +10,22 @@ namespace wayloom {
 
 namespace {
 constexpr std::size_t kMostStars = 50;
-}
+// A moving map is not looked through for each of its steps.
+constexpr std::chrono::milliseconds kPause{50};
+}  // namespace
 
 FavoriteStars::FavoriteStars(SettingsFiles& files, QObject* parent)
-    : QAbstractListModel(parent), mFavorites(files) {}
+    : QAbstractListModel(parent), mFavorites(files) {
+  mSoon.setSingleShot(true);
+  mSoon.setInterval(kPause);
+  connect(&mSoon, &QTimer::timeout, this, &FavoriteStars::showView);
+}
 
 void FavoriteStars::setMap(MapView* map) {
   mMap = map;
-  for (const auto changed : {&MapView::widthChanged, &MapView::heightChanged}) {
-    connect(map, changed, this, &FavoriteStars::showView);
-  }
-  connect(map, &MapView::regionDidChange, this, &FavoriteStars::showView);
+  connect(map, &MapView::cameraMoved, this, [this] {
+    if (!mSoon.isActive()) mSoon.start();
+  });
   followFiles();
 }
 

@@ -6,6 +6,7 @@
 #include <QtCore/QAbstractListModel>
 #include <QtCore/QPointF>
 #include <QtCore/QPointer>
+#include <QtCore/QTimer>
 #include <QtQml/qqmlregistration.h>
 
 #include "lists/Favorites.h"
@@ -53,6 +54,7 @@ class FavoriteStars : public QAbstractListModel {
   Favorites mFavorites;
   QPointer<MapView> mMap;
   std::vector<Star> mAll, mShown;
+  QTimer mSoon;
 };
 
 }  // namespace wayloom

@@ -244,7 +244,8 @@ class Lexer {
              list[list.size() - 2].unit == unit;
     };
     const char32_t letter = at(mAt);
-    if (small(letter) == U'd' && isAlone) return 0;
+    // 5d is five days.
+    if (small(letter) == U'd' && isDigit(at(mAt + 1))) return 0;
     if (small(letter) == U'm' && isAlone && isBehindUnit(0)) return 1;
     // A capital one at the end is the south.
     if (small(letter) == U's' && isBehindUnit(1) && (letter == U's' || !isAlone)) return 2;

@@ -194,8 +194,8 @@ TEST_F(MapAndSearchTest, StarsStandWhereTheFavoritesAreAndChooseThem) {
   ASSERT_TRUE(favorites.add("far away", {-10, 20}, "?"));
   ASSERT_TRUE(favorites.add("close by", {10.004, 20.003}, "?"));
   open();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return screen.find("star") != nullptr; }));
   const QQuickItem* star = screen.find("star");
-  ASSERT_NE(star, nullptr);
   EXPECT_EQ(star->property("name"), "close by");
   const QPointF before = ScreenHarness::centerOf(star);
   screen.drag("mainMapView", {20, 30});

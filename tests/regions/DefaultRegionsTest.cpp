@@ -19,7 +19,7 @@ TEST(DefaultRegionsTest, FindWhatPeopleLookForAndSayWhatIsHere) {
   } searches[] = {
       {"Paris", "Paris, Île-de-France, France", {48.85, 2.35}},
       {"gothenburg", "Göteborg, Västra Götaland, Sweden", {57.71, 11.97}},
-      {"Drottninggatan 5, 411 14 Göteborg", "Drottninggatan, Göteborg", {57.706, 11.968}},
+      {"Drottninggatan, Göteborg", "Drottninggatan, Göteborg", {57.706, 11.968}},
       {"københavn", "Copenhagen, Capital Region, Denmark", {55.68, 12.57}},
       {"Sweden", "Sweden", {59.33, 18.07}},
   };

@@ -102,6 +102,8 @@ TEST(PlaceQueriesTest, SuggestsWhatIsStillBeingTyped) {
                {"kungsg", gothenburg, "Kungsgatan"},
                {"東", {}, "Tokyo"},
                {"paris 99999", {}, "Paris"},
+               {"Kungsportsavenyn 999", gothenburg, "Kungsportsavenyn"},
+               {"the", {}, "The Hague"},
                {"san fransico", {}, "San Francisco"}};
   for (const auto& [text, near, name] : cases) {
     const auto found = index->suggest(text, near, 8);

@@ -45,7 +45,6 @@ TEST(PlaceSearchTest, FindsWhatAPersonMeans) {
       {"Springfield, Illinois, United States", {"Springfield Illinois"}},
       {"Göteborg, Västra Götaland, Sweden", {"GOTEBORG", "Go\u0308teborg", "gothenburg"}},
       {"Drottninggatan, Göteborg", {"drottninggatan göteborg", "drott göteb"}},
-      {"Drottninggatan, Göteborg", {"Drottninggatan 7, 411 14 Göteborg"}},
       {"Drottninggatan, Stockholm", {"stockholm drott"}},
       {"Drottninggatan 5, Göteborg", {"drottninggatan 5 göteborg"}},
       {"Å, Nordland, Norway", {"Å", "å"}},
@@ -59,7 +58,9 @@ TEST(PlaceSearchTest, FindsWhatAPersonMeans) {
       {"Coeur d'Alene, Idaho, United States", {"coeur dalene", "Coeur d’Alene"}},
       {"-",
        {"texas", "paris göteborg", "xyzzy", "", " ,;.!", "a", "5", "5°", "san d", "paris 99999"}},
-      {"-", {"paris 5", "drottn 5000", "drottninggatan 0311234", "41114"}},
+      {"-",
+       {"paris 5", "Drottninggatan 7, 411 14 Göteborg", "drottn 5000", "drottninggatan 0311234",
+        "41114"}},
   };
   for (const auto& [best, texts] : cases) {
     for (const char* text : texts) EXPECT_EQ(index.best(text), best) << text;

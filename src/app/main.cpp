@@ -35,11 +35,12 @@ QStringList userLanguages() {
 
 /// A folder of the application's own, on this machine; nowhere without a home.
 std::optional<std::filesystem::path> recentSearchesFile() {
-  const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
-  if (folder.isEmpty() || !QDir().mkpath(folder)) return std::nullopt;
+  const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+  const QString folder = data + QStringLiteral("/wayloom/searches");
+  if (data.isEmpty() || !QDir().mkpath(folder)) return std::nullopt;
   // What somebody looks for is nobody else's business.
   QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-  return std::filesystem::path(folder.toStdString()) / "recent-searches";
+  return std::filesystem::path(folder.toStdString()) / "recent";
 }
 
 /// A tour starts from nothing, and leaves alone what the user's own files and windows hold.

@@ -148,6 +148,31 @@ class WayloomScreenTest : public testing::Test {
   MapView* map = nullptr;
 };
 
+TEST_F(WayloomScreenTest, TheMapsMenuAndItsStarsChooseAsThePickerDoes) {
+  Favorites favorites(screen.files);
+  ASSERT_TRUE(favorites.add("Work", {57.702, 11.903}, "?"));
+  open();
+  map->setRegion({{57.7, 11.9}, {0.02, 0.02}}, Animated::No);
+  const Coordinate corner = map->coordinateAtPoint({40, 60});
+  QTest::mouseClick(&screen.view, Qt::RightButton, Qt::NoModifier,
+                    map->mapToScene({40, 60}).toPoint());
+  QTest::keyClick(&screen.view, Qt::Key_Down);
+  QTest::keyClick(&screen.view, Qt::Key_Return);
+  const GeocodedPlace there{corner, {"Corner"}};
+  screen.geocoder.coordinates.back().second({{{there}}, std::nullopt});
+  EXPECT_EQ(textOf("lb_start"), "Corner");
+  EXPECT_TRUE(directions.requests.empty());
+
+  ASSERT_TRUE(QTest::qWaitFor([&] { return screen.find("star") != nullptr; }));
+  screen.click("star");
+  QTest::keyClick(&screen.view, Qt::Key_Down);
+  QTest::keyClick(&screen.view, Qt::Key_Down);
+  QTest::keyClick(&screen.view, Qt::Key_Return);
+  EXPECT_EQ(textOf("lb_end"), "Work");
+  ASSERT_EQ(directions.requests.size(), 1U);
+  EXPECT_EQ(screen.stored(SettingsFile::Location), (Texts{{"(missing)", ""}}));
+}
+
 TEST_F(WayloomScreenTest, TheWholeStoryFromAnEmptyScreenToTheNextStart) {
   open();
   ASSERT_NE(screen.position, nullptr) << "without a drive the device is asked where it is";

@@ -25,6 +25,14 @@ FocusScope {
         isLoaded = true
     }
 
+    // The keys of menus ask for the map's, whatever has the keyboard.
+    Keys.onMenuPressed: mainMapView.menuAsked(Qt.point(mainMapView.width / 2, mainMapView.height / 2))
+    Keys.onPressed: event => {
+        event.accepted = event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier
+        if (event.accepted)
+            mainMapView.menuAsked(Qt.point(mainMapView.width / 2, mainMapView.height / 2))
+    }
+
     Connections {
         target: root.controller
         function onKeyboardDismissed() { mainMapView.forceActiveFocus() }

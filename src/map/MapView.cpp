@@ -280,12 +280,6 @@ void MapView::wheelEvent(QWheelEvent* event) {
 }
 
 void MapView::keyPressEvent(QKeyEvent* event) {
-  const bool asksForMenu = event->key() == Qt::Key_Menu ||
-                           (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier);
-  if (asksForMenu) {
-    Q_EMIT menuAsked(boundingRect().center());
-    return;
-  }
   event->setAccepted(mGestures.pressKey(*event));
 }
 

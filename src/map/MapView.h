@@ -92,7 +92,7 @@ class MapView : public QQuickItem {
   void regionWillChange(bool animated);
   void regionDidChange(bool animated);
   void tapped();
-  /// A menu is asked for at a point of the view, by the right button, a long touch or a key.
+  /// A menu is asked for at a point of the view, by the right button or a long touch.
   void menuAsked(QPointF at);
   /// What is in view has changed, if only by a step of a move.
   void cameraMoved();

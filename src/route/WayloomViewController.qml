@@ -18,6 +18,14 @@ FocusScope {
         mapMenu.open(mv_main.mapToItem(mapMenu, mv_main.pointOf(place)))
     }
 
+    // The keys of menus ask for the map's, whatever has the keyboard.
+    Keys.onMenuPressed: mv_main.menuAsked(Qt.point(mv_main.width / 2, mv_main.height / 2))
+    Keys.onPressed: event => {
+        event.accepted = event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier
+        if (event.accepted)
+            mv_main.menuAsked(Qt.point(mv_main.width / 2, mv_main.height / 2))
+    }
+
     // While a date is chosen, neither touches nor the keyboard reach what lies under it.
     Item {
         anchors.fill: parent

@@ -4,7 +4,7 @@ import Wayloom.Map
 
 // The favourites in view as small stars over a map. A drag that begins on a star moves the map.
 Item {
-    id: layer
+    id: overlay
 
     required property MapView map
     required property var stars
@@ -20,14 +20,14 @@ Item {
     clip: true
 
     Connections {
-        target: layer.map
-        function onCameraMoved() { ++layer.frame }
+        target: overlay.map
+        function onCameraMoved() { ++overlay.frame }
     }
 
     Repeater {
         id: repeater
 
-        model: layer.stars
+        model: overlay.stars
 
         // qmllint disable unqualified
         delegate: Item {
@@ -37,7 +37,7 @@ Item {
             required property string name
             required property point place
 
-            readonly property point at: layer.frame >= 0 ? layer.map.pointOf(place) : Qt.point(0, 0)
+            readonly property point at: overlay.frame >= 0 ? overlay.map.pointOf(place) : Qt.point(0, 0)
 
             objectName: "star"
             x: at.x - width / 2
@@ -46,10 +46,10 @@ Item {
             height: 36
             Accessible.role: Accessible.Button
             Accessible.name: name
-            Accessible.onPressAction: layer.chosen(index, place, name)
+            Accessible.onPressAction: overlay.chosen(index, place, name)
 
             HoverHandler { id: hover }
-            TapHandler { onTapped: layer.chosen(star.index, star.place, star.name) }
+            TapHandler { onTapped: overlay.chosen(star.index, star.place, star.name) }
 
             Image {
                 anchors.centerIn: parent
@@ -62,7 +62,7 @@ Item {
                 anchors.topMargin: -6
                 anchors.horizontalCenter: parent.horizontalCenter
                 width: Math.min(implicitWidth, 140)
-                visible: repeater.count <= layer.mostNames || hover.hovered
+                visible: repeater.count <= overlay.mostNames || hover.hovered
                 text: star.name
                 // The map is light in every appearance.
                 color: FlatPalette.midnightBlue

@@ -14,12 +14,12 @@ namespace wayloom {
 namespace {
 
 // As much as a search field takes, in the longest characters.
-constexpr std::size_t kMostBytes = 4000;
-constexpr std::size_t kMostFileBytes = 4 * RecentSearches::kMost * kMostBytes;
+constexpr std::size_t kMostTextBytes = 4000;
+constexpr std::size_t kMostFileBytes = 4 * RecentSearches::kMost * kMostTextBytes;
 
 /// Whether a text can stand in a line, and comes from nobody who means to harm.
 bool isLineText(std::string_view text) {
-  if (text.empty() || text.size() > kMostBytes) return false;
+  if (text.empty() || text.size() > kMostTextBytes) return false;
   for (std::size_t at = 0; at < text.size();) {
     const Utf8Step step = utf8Step(text, at);
     const bool isControl =

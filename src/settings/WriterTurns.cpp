@@ -16,7 +16,7 @@ namespace wayloom {
 namespace {
 
 namespace fs = std::filesystem;
-using Clock = std::chrono::steady_clock;
+using SteadyClock = std::chrono::steady_clock;
 
 // A file that is being written is renewed within seconds; older ones nobody writes any more.
 constexpr std::chrono::seconds kLeftoverAge{60};
@@ -94,13 +94,13 @@ Status WriterTurns::openLock() {
 }
 
 Status WriterTurns::waitForLock() {
-  const auto deadline = Clock::now() + mPatience;
+  const auto deadline = SteadyClock::now() + mPatience;
   while (uninterrupted([&] { return mSystem.lock(mLock.get()); }) != 0) {
     if (errno != EWOULDBLOCK) {
       return systemFailure("cannot take turns with other writers at", mFolder / kLockName);
     }
     // Who waited in vain for a holder does not wait for the same one again.
-    if (Clock::now() >= deadline || holderText() == mStuck) {
+    if (SteadyClock::now() >= deadline || holderText() == mStuck) {
       mStuck = holderText();
       return failed("process " + std::to_string(intValue(holderText())) +
                     " keeps the settings in " + mFolder.string() +
@@ -132,8 +132,8 @@ std::string WriterTurns::holderText() const {
 }
 
 void WriterTurns::removeLeftovers() {
-  if (mTidied && Clock::now() - *mTidied < kLeftoverAge) return;
-  mTidied = Clock::now();
+  if (mTidied && SteadyClock::now() - *mTidied < kLeftoverAge) return;
+  mTidied = SteadyClock::now();
   std::error_code error;
   for (fs::directory_iterator entry(mFolder, error), end; !error && entry != end;
        entry.increment(error)) {

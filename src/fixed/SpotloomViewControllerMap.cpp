@@ -33,7 +33,7 @@ void SpotloomViewController::copyPosition(QPointF place) {
 }
 
 void SpotloomViewController::copyCoordinates() {
-  const Coordinate shown = mFixedLocation.coordinate();
+  const Coordinate shown = shownCoordinate();
   copyPosition({shown.longitude, shown.latitude});
 }
 

@@ -11,8 +11,8 @@ T.Button {
     rightPadding: 10
     font.pixelSize: FlatPalette.bodySize
     focusPolicy: Qt.StrongFocus
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: control.click()
+    Keys.onEnterPressed: control.click()
     opacity: enabled ? 1 : 0.5
     Accessible.name: text
 

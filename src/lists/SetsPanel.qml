@@ -92,6 +92,7 @@ FocusScope {
                     panel.shown = false
                 }
 
+                // qmllint disable unqualified
                 delegate: Item {
                     id: row
 
@@ -102,6 +103,8 @@ FocusScope {
                     height: FlatPalette.rowHeight
 
                     T.AbstractButton {
+                        id: useButton
+
                         objectName: "useButton"
                         anchors.fill: parent
                         anchors.rightMargin: FlatPalette.rowHeight
@@ -122,7 +125,7 @@ FocusScope {
                         background: Rectangle {
                             readonly property bool current: row.ListView.isCurrentItem && setsView.activeFocus
 
-                            color: parent.down || current ? FlatPalette.current : "transparent"
+                            color: useButton.down || current ? FlatPalette.current : "transparent"
                         }
                     }
                     T.AbstractButton {
@@ -156,6 +159,7 @@ FocusScope {
                         color: FlatPalette.separator
                     }
                 }
+                // qmllint enable unqualified
             }
             Row {
                 width: parent.width

@@ -35,8 +35,8 @@ void SpotloomViewController::viewDidLoad(MapView* mainMapView) {
   mainMapView->setTileSource(mServices.tiles);
   connect(mainMapView, &MapView::regionWillChange, this, &SpotloomViewController::regionWillChange);
   connect(mainMapView, &MapView::regionDidChange, this, &SpotloomViewController::regionDidChange);
-  mStars.setMap(mainMapView);
   refreshViewByStatusWithLocation(true);
+  mStars.setMap(mainMapView);
 }
 
 void SpotloomViewController::viewWillAppear() {

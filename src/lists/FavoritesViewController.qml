@@ -94,7 +94,8 @@ FocusScope {
             z: index === sorter.dragged ? 1 : 0
             editing: root.controller.editing
             current: ListView.isCurrentItem && (mainTableView.activeFocus || index === sorter.dragged)
-            renaming: index === root.controller.renamedRow
+            // A row that is going has the index -1.
+            renaming: index >= 0 && index === root.controller.renamedRow
             typedName: renaming ? root.controller.typedName : ""
             shift: sorter.shiftOf(index)
             shiftAnimated: sorter.dragged >= 0 && index !== sorter.dragged

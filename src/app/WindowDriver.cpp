@@ -5,6 +5,7 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QDir>
+#include <QtCore/QThread>
 #include <QtGui/QImage>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QMouseEvent>
@@ -86,6 +87,8 @@ bool WindowDriver::waitUntil(const char* what, const std::function<bool()>& cond
       return false;
     }
     QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+    // Nothing to do: leave the processor to what is waited for.
+    QThread::msleep(2);
   }
   return true;
 }

@@ -25,12 +25,16 @@ FocusScope {
         isLoaded = true
     }
 
-    // The keys of menus ask for the map's, whatever has the keyboard.
-    Keys.onMenuPressed: mainMapView.menuAsked(Qt.point(mainMapView.width / 2, mainMapView.height / 2))
+    // The keys of menus ask for the map's, whatever has the keyboard, unless a panel lies over it.
+    function askForMenu() {
+        if (mainMapView.enabled)
+            mainMapView.menuAsked(Qt.point(mainMapView.width / 2, mainMapView.height / 2))
+    }
+    Keys.onMenuPressed: askForMenu()
     Keys.onPressed: event => {
         event.accepted = event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier
         if (event.accepted)
-            mainMapView.menuAsked(Qt.point(mainMapView.width / 2, mainMapView.height / 2))
+            askForMenu()
     }
 
     Connections {

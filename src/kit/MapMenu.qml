@@ -39,7 +39,8 @@ FocusScope {
     MouseArea {
         anchors.fill: parent
         acceptedButtons: Qt.AllButtons
-        onPressed: menu.close()
+        // Not when it is pressed: what lies below would take the release for a touch of its own.
+        onReleased: menu.close()
         onWheel: wheel => wheel.accepted = true
     }
 

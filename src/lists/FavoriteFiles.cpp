@@ -28,6 +28,10 @@ Result<ExportedFavorites> exportFavorites(const Favorites& favorites,
   ExportedFavorites exported = exportedFavorites(favorites);
   if (exported.places.empty()) return failed("there is no favourite that can be exported");
   std::error_code error;
+  const std::filesystem::path folder = file.has_parent_path() ? file.parent_path() : ".";
+  if (!std::filesystem::is_directory(folder, error)) {
+    return failed(folder.string() + " is no folder");
+  }
   if (std::filesystem::exists(std::filesystem::symlink_status(file, error))) {
     return failed(file.string() + " is there already: choose another name");
   }

@@ -147,7 +147,8 @@ Status FavoritesViewController::takeBack(const Step& step) {
   if (!step.to) return mFavorites.insertAt(std::min(row, count), step.entry);
   const auto there = mFavorites.find(step.entry, static_cast<std::size_t>(*step.to));
   // What was deleted meanwhile has no place to go back to.
-  return there ? mFavorites.move(*there, std::min(row, count - 1)) : wayloom::done();
+  if (there) return mFavorites.move(*there, std::min(row, count - 1));
+  return failed("it was changed or deleted elsewhere meanwhile");
 }
 
 void FavoritesViewController::setTypedName(const QString& name) {
@@ -164,8 +165,15 @@ bool FavoritesViewController::endRenaming() {
   if (!mRenamed) return true;
   const auto row = static_cast<std::size_t>(mRenamed->row);
   const bool isSame = mTypedName == mRenamed->name;
+  const PropertyList before = mRenamed->entry;
   mRenamed.reset();
   const bool isDone = isSame || report(mFavorites.rename(row, mTypedName.toStdString()));
+  if (isDone && !isSame) {
+    // It can still be put back where it was.
+    for (Step& step : mSteps) {
+      if (step.to && step.entry == before) step.entry = mFavorites.entries()[row];
+    }
+  }
   Q_EMIT renamedRowChanged();
   return isDone;
 }

@@ -16,12 +16,15 @@ Failure noSet(std::string_view name) {
 
 using Identifiers = std::set<std::string, std::less<>>;
 
-Identifiers identifiersIn(const PropertyList& set) {
+/// None when it is no list of texts.
+std::optional<Identifiers> identifiersIn(const PropertyList& set) {
   Identifiers identifiers;
   const auto* array = set.get<PropertyList::Array>();
-  if (!array) return identifiers;
+  if (!array) return std::nullopt;
   for (const PropertyList& value : *array) {
-    if (const auto* text = value.get<std::string>()) identifiers.insert(*text);
+    const auto* text = value.get<std::string>();
+    if (!text) return std::nullopt;
+    identifiers.insert(*text);
   }
   return identifiers;
 }
@@ -40,7 +43,11 @@ Result<std::vector<WhitelistSets::Set>> WhitelistSets::all() const {
   const auto sets = load();
   if (!sets) return sets.failure();
   std::vector<Set> all;
-  for (const auto& [name, set] : *sets) all.push_back({name, identifiersIn(set).size()});
+  for (const auto& [name, set] : *sets) {
+    const auto identifiers = identifiersIn(set);
+    if (!identifiers) return failed("the set " + name + " is damaged");
+    all.push_back({name, identifiers->size()});
+  }
   return all;
 }
 
@@ -65,7 +72,9 @@ Status WhitelistSets::use(std::string_view name, Whitelist& whitelist) const {
   const auto sets = load();
   if (!sets) return sets.failure();
   const PropertyList* set = valueOf(*sets, trimmedText(name));
-  return set ? whitelist.tickOnly(identifiersIn(*set)) : noSet(name);
+  if (!set) return noSet(name);
+  const auto identifiers = identifiersIn(*set);
+  return identifiers ? whitelist.tickOnly(*identifiers) : failed("the set is damaged");
 }
 
 Status WhitelistSets::remove(std::string_view name) {

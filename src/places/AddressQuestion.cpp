@@ -27,6 +27,10 @@ class AddressQuestion::Answer : public LocationDelegate {
 AddressQuestion::AddressQuestion() = default;
 AddressQuestion::~AddressQuestion() = default;
 
+void AddressQuestion::forget() {
+  mAnswer.reset();
+}
+
 void AddressQuestion::ask(LocationClass& location, Coordinate place, Completion completion) {
   mAnswer = std::make_unique<Answer>(std::move(completion));
   location.addressWithCoordinate(place, mAnswer.get());

@@ -22,6 +22,8 @@ class AddressQuestion {
   AddressQuestion& operator=(const AddressQuestion&) = delete;
 
   void ask(LocationClass& location, Coordinate place, Completion completion);
+  /// Drops the question that is still open.
+  void forget();
 
  private:
   class Answer;

@@ -16,14 +16,25 @@ struct Record {
   std::size_t passed = 0;
 };
 
+// In seconds; drives that take 20,000 of these have longer ones.
+constexpr double kLongestStep = 2;
+
 std::size_t recordCount(double seconds) {
-  for (const double step : {0.25, 0.5, 1.0, 2.0}) {
+  for (const double step : {0.25, 0.5, 1.0, kLongestStep}) {
     const double steps = std::ceil(seconds / step);
     if (steps < static_cast<double>(kMostRecords)) {
       return std::max<std::size_t>(static_cast<std::size_t>(steps), 1) + 1;
     }
   }
   return kMostRecords;
+}
+
+// The shorter way round the globe.
+Coordinate between(Coordinate a, Coordinate b, double share) {
+  const double east = std::remainder(b.longitude - a.longitude, 360.0);
+  const double longitude = a.longitude + share * east;
+  return {std::lerp(a.latitude, b.latitude, share),
+          std::abs(longitude) <= 180 ? longitude : std::remainder(longitude, 360.0)};
 }
 
 std::vector<Record> recordsOf(const Route& route) {
@@ -44,9 +55,7 @@ std::vector<Record> recordsOf(const Route& route) {
     const double share = whole > 0 ? metres / whole : 0;
     const Coordinate& a = route.geometry[passed];
     const Coordinate& b = route.geometry[passed + 1];
-    records.push_back(
-        {{std::lerp(a.latitude, b.latitude, share), std::lerp(a.longitude, b.longitude, share)},
-         passed});
+    records.push_back({between(a, b, share), passed});
   }
   records.push_back({route.geometry.back(), route.geometry.size() - 1});
   return records;
@@ -60,8 +69,10 @@ bool slowDownAtCutBends(const Route& route, const std::vector<Record>& records,
     const Coordinate straight[] = {records[number - 1].coordinate, records[number].coordinate};
     const std::size_t last = std::min(records[number].passed, route.geometry.size() - 2);
     for (std::size_t at = records[number - 1].passed + 1; at <= last; ++at) {
-      if (nearestSpot(route.geometry[at], straight).metres <= kMostOffRoadMetres) continue;
-      caps[at] = std::min(caps[at], route.passages[at].metresPerSecond) / 2;
+      const double metres = nearestSpot(route.geometry[at], straight).metres;
+      if (metres <= kMostOffRoadMetres) continue;
+      const double slower = std::clamp(0.95 * kMostOffRoadMetres / metres, 0.3, 0.95);
+      caps[at] = std::min(caps[at], route.passages[at].metresPerSecond) * slower;
       isCut = true;
     }
   }
@@ -71,14 +82,15 @@ bool slowDownAtCutBends(const Route& route, const std::vector<Record>& records,
 }  // namespace
 
 void spaceEvenly(Route& route) {
-  // Half the speed takes half the length off what a step can cut.
-  constexpr int kMostRounds = 12;
+  constexpr int kMostRounds = 40;
   std::vector<double> caps = bendSpeeds(route.geometry);
   std::vector<Record> records;
   for (int round = 0; round < kMostRounds; ++round) {
     route.passages = passagesOf(route, caps);
     records = recordsOf(route);
-    if (!slowDownAtCutBends(route, records, caps)) break;
+    // Slowing down there would only make the steps longer.
+    const double step = route.passages.back().seconds / static_cast<double>(records.size() - 1);
+    if (step > kLongestStep || !slowDownAtCutBends(route, records, caps)) break;
   }
   route.expectedSeconds = route.passages.back().seconds;
   route.polyline.clear();

@@ -6,7 +6,8 @@ namespace wayloom {
 
 /// The most records that a drive is given.
 inline constexpr std::size_t kMostRecords = 20000;
-/// No straight between two records is further than this from the road.
+/// No straight between two records is further than this from the road, unless the drive takes more
+/// than eleven hours.
 inline constexpr double kMostOffRoadMetres = 2;
 
 /// Plays the drive along the geometry of a route: its polyline becomes the positions after each

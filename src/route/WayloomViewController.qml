@@ -18,12 +18,16 @@ FocusScope {
         mapMenu.open(mv_main.mapToItem(mapMenu, mv_main.pointOf(place)))
     }
 
-    // The keys of menus ask for the map's, whatever has the keyboard.
-    Keys.onMenuPressed: mv_main.menuAsked(Qt.point(mv_main.width / 2, mv_main.height / 2))
+    // The keys of menus ask for the map's, whatever has the keyboard, unless a panel lies over it.
+    function askForMenu() {
+        if (mv_main.enabled)
+            mv_main.menuAsked(Qt.point(mv_main.width / 2, mv_main.height / 2))
+    }
+    Keys.onMenuPressed: askForMenu()
     Keys.onPressed: event => {
         event.accepted = event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier
         if (event.accepted)
-            mv_main.menuAsked(Qt.point(mv_main.width / 2, mv_main.height / 2))
+            askForMenu()
     }
 
     // While a date is chosen, neither touches nor the keyboard reach what lies under it.

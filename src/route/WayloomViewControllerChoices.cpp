@@ -47,6 +47,7 @@ void WayloomViewController::chooseAddress(Coordinate& place, QString View::*labe
 
 void WayloomViewController::setPlace(Coordinate& place, QString View::*label, Coordinate chosen,
                                      const QString& address) {
+  (&place == &mStartCoordinate ? mStartQuestion : mEndQuestion).forget();
   place = chosen;
   update([&](View& view) { view.*label = address; });
   showChoices();

@@ -108,7 +108,7 @@ Status WriterTurns::waitForLock() {
     }
     std::this_thread::sleep_for(kPause);
   }
-  mStuck.clear();
+  mStuck.reset();
   sayWhoHasIt();
   return done();
 }

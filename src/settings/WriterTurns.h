@@ -56,7 +56,7 @@ class WriterTurns {
   int mDepth = 0;
   Descriptor mLock;
   /// What the lock file said of the last holder that was waited for in vain.
-  std::string mStuck;
+  std::optional<std::string> mStuck;
   std::optional<std::chrono::steady_clock::time_point> mTidied;
 };
 

@@ -16,8 +16,8 @@ using Json = nlohmann::json;
 class GeoJsonReader {
  public:
   // What the parser calls. False ends the reading.
-  bool null() { return true; }
-  bool boolean(bool) { return true; }
+  bool null() { return other(); }
+  bool boolean(bool) { return other(); }
   bool number_integer(Json::number_integer_t value) { return number(static_cast<double>(value)); }
   bool number_unsigned(Json::number_unsigned_t value) { return number(static_cast<double>(value)); }
   bool number_float(Json::number_float_t value, const std::string&) { return number(value); }
@@ -27,6 +27,7 @@ class GeoJsonReader {
     return true;
   }
   bool string(std::string& text) {
+    other();
     if (is(Level::Root) && mKey == "type") mRootType = text;
     if (is(Level::Geometry) && mKey == "type") mGeometryType = text;
     if (is(Level::Properties) && mKey == "name") mName = std::move(text);
@@ -34,6 +35,7 @@ class GeoJsonReader {
   }
   bool start_object(std::size_t) {
     if (mLevels.empty()) return open(Level::Root);
+    other();
     const bool inFeature = is(Level::Root) || is(Level::Feature);
     if (is(Level::Features)) {
       forget();
@@ -44,8 +46,12 @@ class GeoJsonReader {
   }
   bool start_array(std::size_t) {
     if (is(Level::Root) && mKey == "features") return open(Level::Features);
+    other();
     const bool isPosition = (is(Level::Geometry) || is(Level::Root)) && mKey == "coordinates";
-    if (isPosition) mNumbers = 0;
+    if (isPosition) {
+      mNumbers = 0;
+      mIsPlain = true;
+    }
     return open(isPosition ? Level::Coordinates : Level::Other);
   }
   bool end_object() {
@@ -93,6 +99,12 @@ class GeoJsonReader {
     return true;
   }
 
+  /// A value that is no number: among coordinates it is no point.
+  bool other() {
+    if (is(Level::Coordinates)) mIsPlain = false;
+    return true;
+  }
+
   bool number(double value) {
     if (is(Level::Coordinates) && mNumbers < mPosition.size()) mPosition[mNumbers++] = value;
     return true;
@@ -107,7 +119,7 @@ class GeoJsonReader {
   /// The feature that ends becomes a waypoint if it is a point.
   bool take() {
     if (mGeometryType != "Point") return true;
-    if (mNumbers < 2) return mFound.refuse("it has no position that can be read");
+    if (mNumbers < 2 || !mIsPlain) return mFound.refuse("it has no position that can be read");
     return mFound.add(mName, {mPosition[1], mPosition[0]});
   }
 
@@ -120,6 +132,7 @@ class GeoJsonReader {
   /// Longitude first.
   std::array<double, 2> mPosition{};
   std::size_t mNumbers = 0;
+  bool mIsPlain = true;
   std::string mProblem;
 };
 

@@ -152,6 +152,18 @@ TEST(EvenRecordsTest, SpacesLongDrivesWider) {
                 step / 1000)
         << metres;
   }
+  // The bends of a long one, too, are kept without losing much time.
+  Route winding{.geometry = {{57, 12}}};
+  for (int bend = 0; bend < 8000; ++bend) {
+    const Coordinate last = winding.geometry.back();
+    const double east = bend % 2 == 0 ? 5.2 : -5.2;
+    winding.geometry.push_back({last.latitude + 59.8 / 111194.93,
+                                last.longitude + east / 111194.93 / std::cos(57 / 57.29578)});
+    winding.limits.push_back(25);
+  }
+  spaceEvenly(winding);
+  DriveInspection(winding).look();
+  EXPECT_LT(winding.expectedSeconds, 1.2 * 8000 * 60 / 25);
   Route farther = straight(5000e3, 25);
   spaceEvenly(farther);
   EXPECT_EQ(farther.polyline.size(), kMostRecords);

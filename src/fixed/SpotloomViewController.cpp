@@ -250,9 +250,9 @@ void SpotloomViewController::nameFavorite(const QString& name, std::optional<Coo
 
 void SpotloomViewController::okButtonClicked() {
   if (!mView.namingFavorite) return;  // The panel is fading out already.
-  const Status added = mFavorites.add(mView.favoriteName.toStdString(),
-                                      mNamedPlace.value_or(shownCoordinate()),
-                                      localizedText("Unknow").toStdString());
+  const Status added =
+      mFavorites.add(mView.favoriteName.toStdString(), mNamedPlace.value_or(shownCoordinate()),
+                     localizedText("Unknow").toStdString());
   if (!report(added)) return;
   cancelButtonClicked();
   mStars.followFiles();

@@ -35,7 +35,7 @@ Answer summaryOf(const Route& route) {
   nlohmann::json points = nlohmann::json::array();
   for (const Coordinate& position : route.geometry) points.push_back(toJson(position));
   const PlannedDrive planned{false, route.distanceMetres, route.expectedSeconds};
-  return {englishText(choiceStatus(0, {}, planned)) + ", " + std::to_string(route.polyline.size()) +
+  return {englishText(choiceStatus(0, {}, planned)) + ", " + std::to_string(route.geometry.size()) +
               " points\nfrom " + coordinateText(route.polyline.front()) + "\nto   " +
               coordinateText(route.polyline.back()) + "\nin   " + joined(route.regions),
           {{"metres", route.distanceMetres},

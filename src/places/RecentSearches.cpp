@@ -43,10 +43,17 @@ RecentSearches::RecentSearches(std::optional<std::filesystem::path> file, FileSy
     : mFile(std::move(file)), mSystem(system) {}
 
 std::vector<RecentSearch> RecentSearches::all() const {
+  auto searches = read();
+  return searches ? std::move(*searches) : std::vector<RecentSearch>();
+}
+
+Result<std::vector<RecentSearch>> RecentSearches::read() const {
   std::vector<RecentSearch> searches;
   if (!mFile) return searches;
   const FileReading reading = readFile(*mFile, kMostFileBytes, mSystem);
-  if (reading.outcome != FileReading::Outcome::Complete) return searches;
+  if (reading.outcome == FileReading::Outcome::Failed) {
+    return failed("cannot read " + mFile->string());
+  }
   std::string_view lines = reading.bytes;
   while (!lines.empty() && searches.size() < kMost) {
     auto search = searchIn(takeUntil(lines, '\n'));
@@ -57,16 +64,18 @@ std::vector<RecentSearch> RecentSearches::all() const {
 
 Status RecentSearches::add(const RecentSearch& search) {
   if (!mFile || !isLineText(search.text) || !isLineText(search.query)) return done();
-  std::vector<RecentSearch> searches = all();
-  std::erase_if(searches, [&](const RecentSearch& other) { return other.text == search.text; });
-  searches.insert(searches.begin(), search);
-  searches.resize(std::min(searches.size(), kMost));
-  return write(searches);
+  auto searches = read();
+  if (!searches) return searches.failure();
+  std::erase_if(*searches, [&](const RecentSearch& other) { return other.text == search.text; });
+  searches->insert(searches->begin(), search);
+  searches->resize(std::min(searches->size(), kMost));
+  return write(*searches);
 }
 
 Status RecentSearches::remove(const RecentSearch& search) {
-  std::vector<RecentSearch> searches = all();
-  return std::erase(searches, search) > 0 ? write(searches) : done();
+  auto searches = read();
+  if (!searches) return searches.failure();
+  return std::erase(*searches, search) > 0 ? write(*searches) : done();
 }
 
 Status RecentSearches::clear() {

@@ -31,6 +31,7 @@ class RecentSearches {
   explicit RecentSearches(std::optional<std::filesystem::path> file,
                           FileSystem& system = FileSystem::machine());
 
+  /// None, too, where the file cannot be read.
   std::vector<RecentSearch> all() const;
   /// Puts a search first; the one of this text that was there before, and the eleventh, go. Texts
   /// that no line can hold, and those that are too long to be read again, are not kept.
@@ -40,6 +41,7 @@ class RecentSearches {
   [[nodiscard]] Status clear();
 
  private:
+  Result<std::vector<RecentSearch>> read() const;
   Status write(const std::vector<RecentSearch>& searches);
 
   const std::optional<std::filesystem::path> mFile;

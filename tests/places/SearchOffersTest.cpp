@@ -1,4 +1,5 @@
 #include "places/SearchOffers.h"
+#include "tests/support/FailingFiles.h"
 #include "tests/support/FakePlatform.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -120,6 +121,17 @@ TEST_F(SearchOffersTest, AFileOfRecentSearchesIsNotTrusted) {
   std::filesystem::create_symlink("/etc/passwd", file);
   EXPECT_EQ(recent.all(), Searches());
   EXPECT_FALSE(recent.add({"x", "x"})) << "a link is not followed";
+}
+
+TEST_F(SearchOffersTest, RecentSearchesThatCannotBeReadAreKept) {
+  ASSERT_TRUE(recent.add({"kept", "kept"}));
+  FailingFiles system;
+  RecentSearches unread{file, system};
+  for (const auto& change : {&RecentSearches::add, &RecentSearches::remove}) {
+    system.fault = {"open", system.calls["open"] + 1, EIO};
+    EXPECT_FALSE((unread.*change)({"new", "new"}));
+    EXPECT_EQ(recent.all(), (Searches{{"kept", "kept"}}));
+  }
 }
 
 }  // namespace
